@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace renvale::platform {
+class FileSystem;
+}
+
+namespace renvale::metadata {
+
+// Reads the EXIF block of one picture file and answers tags by name.
+// Build one per file; nothing is cached between files.
+class ExifReader {
+ public:
+  // Loads from a file; reads only the bytes it needs.
+  void Load(platform::FileSystem& fs, const QByteArray& path);
+  // Loads from whole-file bytes already in memory (tests, fuzzing).
+  void LoadBytes(const char* data, qint64 size);
+
+  // The value of one of the sixteen tag names as text; empty when absent.
+  QString Tag(const QString& name) const;
+  // Empty after a good load; ends in "not found." when the file has no EXIF;
+  // any other text when the file is damaged or unreadable.
+  QString Status() const;
+};
+
+}  // namespace renvale::metadata

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+#include <memory>
+#include <vector>
+
+#include "platform/FileName.h"
+
+namespace renvale::platform {
+
+struct FileInfo {
+  bool isDir = false;
+  bool isHidden = false;    // name starts with "."
+  bool isWritable = true;   // writable by this user (access(W_OK))
+  qint64 size = 0;
+  QDateTime modified;       // UTC
+  QDateTime created;        // UTC; statx birth time, else the modification time
+};
+
+// An open file read at explicit offsets; never reads past what it reports.
+class ReadableFile {
+ public:
+  virtual ~ReadableFile() = default;
+  virtual qint64 Size() const = 0;
+  // Reads up to `length` bytes at `offset` into `buffer`; returns the count
+  // read (0 at or past the end) or -1 on error.
+  virtual qint64 ReadAt(qint64 offset, char* buffer, qint64 length) = 0;
+};
+
+// The one door to the file system. Paths are raw bytes. Every call returns
+// an error number from ErrorNumbers.h (0 on success) and never throws.
+// Tests substitute a wrapper that injects failures (CI runs as root, so a
+// read-only folder cannot be made with chmod).
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+
+  // Names of the entries of `folder` that are not folders, in no order.
+  // Dot files are included; the caller filters.
+  virtual int ListFiles(const QByteArray& folder, std::vector<QByteArray>* names) = 0;
+  // Names of the sub-folders of `folder` (not "." or ".."), in no order.
+  virtual int ListFolders(const QByteArray& folder, std::vector<QByteArray>* names) = 0;
+
+  virtual int Stat(const QByteArray& path, FileInfo* info) = 0;
+  virtual bool Exists(const QByteArray& path) = 0;
+
+  // Renames without ever replacing an existing target: an existing target
+  // (also one that differs only in letter case on a case-folding file
+  // system) gives kFileAlreadyExists.
+  virtual int RenameNoReplace(const QByteArray& from, const QByteArray& to) = 0;
+  virtual int RemoveFile(const QByteArray& path) = 0;
+  // Copies contents, permissions and modification time; flushes to disk
+  // before reporting success; removes a partial target on failure. With
+  // replace false an existing target gives kFileAlreadyExists.
+  virtual int CopyFile(const QByteArray& from, const QByteArray& to, bool replace) = 0;
+  // Moves `path` to the desktop's trash.
+  virtual int MoveToTrash(const QByteArray& path) = 0;
+
+  virtual int OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) = 0;
+  // Writes a whole file (creating or truncating it), flushed before success.
+  virtual int WriteWholeFile(const QByteArray& path, const QByteArray& contents) = 0;
+  virtual int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) = 0;
+};
+
+// The real file system (POSIX calls, GIO for the trash).
+FileSystem& RealFileSystem();
+
+}  // namespace renvale::platform

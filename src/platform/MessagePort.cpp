@@ -1,0 +1,14 @@
+#include "platform/MessagePort.h"
+
+namespace renvale::platform {
+
+MessageAnswer MessagePort::Notify(const QString& text, MessageIcon icon, const QString& title) {
+  return Show(Message{text, title, icon, MessageButtons::Ok});
+}
+
+MessageAnswer MessagePort::Ask(const QString& text, MessageButtons buttons, MessageIcon icon,
+                               const QString& title) {
+  return Show(Message{text, title, icon, buttons});
+}
+
+}  // namespace renvale::platform

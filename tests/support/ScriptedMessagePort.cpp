@@ -1,0 +1,32 @@
+#include "support/ScriptedMessagePort.h"
+
+#include <QStringList>
+
+namespace renvale::test {
+
+using platform::MessageAnswer;
+using platform::MessageButtons;
+
+platform::MessageAnswer ScriptedMessagePort::Show(const platform::Message& message) {
+  messages.push_back(message);
+  if (!answers_.empty()) {
+    const MessageAnswer answer = answers_.front();
+    answers_.pop_front();
+    return answer;
+  }
+  switch (message.buttons) {
+    case MessageButtons::YesNo:
+    case MessageButtons::YesNoCancel:
+      return MessageAnswer::Yes;
+    default:
+      return MessageAnswer::Ok;
+  }
+}
+
+QStringList ScriptedMessagePort::Texts() const {
+  QStringList texts;
+  for (const auto& message : messages) texts << message.text;
+  return texts;
+}
+
+}  // namespace renvale::test
