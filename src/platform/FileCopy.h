@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace renvale::platform {
+
+// Copies a file's contents, permission bits and modification time, flushing
+// the copy to disk before reporting success. Without `replace` an existing
+// target gives kFileAlreadyExists and is left alone. With `replace` the copy
+// is made under a temporary name beside the target and renamed over it at
+// the end, so a failed copy leaves the old target intact. A failure never
+// leaves a partial file behind. Returns an error number from ErrorNumbers.h.
+int CopyFileKeepingTimes(const QByteArray& from, const QByteArray& to, bool replace);
+
+}  // namespace renvale::platform

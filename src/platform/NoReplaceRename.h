@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+
+namespace renvale::platform {
+
+// Renames `from` to `to` and never replaces another file. The kernel's
+// RENAME_NOREPLACE is used where the file system supports it; elsewhere a
+// hard link (which refuses an existing name) and, failing that, a check just
+// before a plain rename. When `to` names the very same file through a
+// letter-case alias (photo.jpg -> Photo.jpg on a FAT memory card), the case
+// change is carried out. Returns an error number from ErrorNumbers.h.
+int RenameWithoutReplacing(const QByteArray& from, const QByteArray& to);
+
+// Moves `from` to a fresh hidden name in its own folder, then to `to`; puts
+// it back under `from` when the second step fails. This is how a file gets a
+// name that the file system considers equal to its present one.
+int RenameThroughTemporaryName(const QByteArray& from, const QByteArray& to);
+
+// True when `to` reaches the same file as `from` although no entry of `to`'s
+// folder is spelled exactly like `to`: the file system folds letter case.
+// Hard links to one file have their own entries and are not aliases.
+bool IsLetterCaseAlias(const QByteArray& from, const QByteArray& to);
+
+}  // namespace renvale::platform

@@ -1,0 +1,205 @@
+#include "platform/PosixFileSystem.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include "platform/ErrorNumbers.h"
+#include "platform/FileCopy.h"
+#include "platform/NoReplaceRename.h"
+#include "platform/PathParts.h"
+#include "platform/PosixReadableFile.h"
+#include "platform/Trash.h"
+#include "platform/UniqueFd.h"
+
+namespace renvale::platform {
+
+namespace {
+
+bool IsDotOrDotDot(const char* name) {
+  return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
+}
+
+// Symlinks count as what they point to; a dangling one counts as a file.
+bool IsFolderAt(int dirFd, const char* name) {
+  struct stat st;
+  if (::fstatat(dirFd, name, &st, 0) != 0) return false;
+  return S_ISDIR(st.st_mode);
+}
+
+bool EntryIsFolder(int dirFd, const dirent* entry) {
+  switch (entry->d_type) {
+    case DT_DIR:
+      return true;
+    case DT_LNK:
+    case DT_UNKNOWN:
+      return IsFolderAt(dirFd, entry->d_name);
+    default:
+      return false;
+  }
+}
+
+QDateTime UtcFromTimestamp(qint64 seconds, quint32 nanoseconds) {
+  return QDateTime::fromMSecsSinceEpoch(seconds * 1000 + nanoseconds / 1000000, Qt::UTC);
+}
+
+void FillFromStatx(const struct statx& sx, FileInfo* info) {
+  info->isDir = S_ISDIR(sx.stx_mode);
+  info->size = static_cast<qint64>(sx.stx_size);
+  info->modified = UtcFromTimestamp(sx.stx_mtime.tv_sec, sx.stx_mtime.tv_nsec);
+  // Many file systems (and older kernels) keep no birth time.
+  info->created = (sx.stx_mask & STATX_BTIME) != 0
+                      ? UtcFromTimestamp(sx.stx_btime.tv_sec, sx.stx_btime.tv_nsec)
+                      : info->modified;
+}
+
+void FillFromStat(const struct stat& st, FileInfo* info) {
+  info->isDir = S_ISDIR(st.st_mode);
+  info->size = static_cast<qint64>(st.st_size);
+  info->modified = UtcFromTimestamp(st.st_mtim.tv_sec, static_cast<quint32>(st.st_mtim.tv_nsec));
+  info->created = info->modified;
+}
+
+int StatInto(const QByteArray& path, FileInfo* info) {
+  struct statx sx;
+  if (::statx(AT_FDCWD, path.constData(), AT_STATX_SYNC_AS_STAT, STATX_BASIC_STATS | STATX_BTIME,
+              &sx) == 0) {
+    FillFromStatx(sx, info);
+    return 0;
+  }
+  if (errno != ENOSYS) return errno;
+  struct stat st;
+  if (::stat(path.constData(), &st) != 0) return errno;
+  FillFromStat(st, info);
+  return 0;
+}
+
+int WriteAll(int fd, const char* data, qsizetype length) {
+  while (length > 0) {
+    const ssize_t n = ::write(fd, data, static_cast<size_t>(length));
+    if (n < 0) {
+      if (errno == EINTR) continue;
+      return errno;
+    }
+    data += n;
+    length -= n;
+  }
+  return 0;
+}
+
+// Reads to the end without trusting st_size (files under /proc report 0).
+int ReadToEnd(int fd, qint64 maxBytes, QByteArray* contents) {
+  constexpr qsizetype kChunk = 64 * 1024;
+  for (;;) {
+    const qsizetype used = contents->size();
+    contents->resize(used + kChunk);
+    const ssize_t n = ::read(fd, contents->data() + used, kChunk);
+    if (n < 0 && errno == EINTR) {
+      contents->resize(used);
+      continue;
+    }
+    contents->resize(n < 0 ? used : used + n);
+    if (n < 0) return errno;
+    if (n == 0) return 0;
+    if (contents->size() > maxBytes) return EFBIG;
+  }
+}
+
+}  // namespace
+
+int PosixFileSystem::ListEntries(const QByteArray& folder, bool wantFolders,
+                                 std::vector<QByteArray>* names) {
+  names->clear();
+  DIR* dir = ::opendir(folder.constData());
+  if (dir == nullptr) return ErrorNumberFromErrno(errno, ErrnoContext::Folder);
+  const int dirFd = ::dirfd(dir);
+  int err = 0;
+  for (;;) {
+    errno = 0;
+    const dirent* entry = ::readdir(dir);
+    if (entry == nullptr) {
+      err = errno;
+      break;
+    }
+    if (IsDotOrDotDot(entry->d_name)) continue;
+    if (EntryIsFolder(dirFd, entry) == wantFolders) names->emplace_back(entry->d_name);
+  }
+  ::closedir(dir);
+  return ErrorNumberFromErrno(err, ErrnoContext::Folder);
+}
+
+int PosixFileSystem::ListFiles(const QByteArray& folder, std::vector<QByteArray>* names) {
+  return ListEntries(folder, false, names);
+}
+
+int PosixFileSystem::ListFolders(const QByteArray& folder, std::vector<QByteArray>* names) {
+  return ListEntries(folder, true, names);
+}
+
+int PosixFileSystem::Stat(const QByteArray& path, FileInfo* info) {
+  *info = FileInfo{};
+  if (const int err = StatInto(path, info)) return ErrorNumberFromErrno(err);
+  info->isHidden = BaseName(path).startsWith('.');
+  info->isWritable = ::access(path.constData(), W_OK) == 0;
+  return kNoError;
+}
+
+bool PosixFileSystem::Exists(const QByteArray& path) {
+  struct stat st;
+  // A dangling symlink still takes up its name.
+  return ::lstat(path.constData(), &st) == 0;
+}
+
+int PosixFileSystem::RenameNoReplace(const QByteArray& from, const QByteArray& to) {
+  return RenameWithoutReplacing(from, to);
+}
+
+int PosixFileSystem::RemoveFile(const QByteArray& path) {
+  return ::unlink(path.constData()) == 0 ? kNoError : ErrorNumberFromErrno(errno);
+}
+
+int PosixFileSystem::CopyFile(const QByteArray& from, const QByteArray& to, bool replace) {
+  return CopyFileKeepingTimes(from, to, replace);
+}
+
+int PosixFileSystem::MoveToTrash(const QByteArray& path) { return MoveFileToTrash(path); }
+
+int PosixFileSystem::OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) {
+  file->reset();
+  UniqueFd fd(::open(path.constData(), O_RDONLY | O_CLOEXEC));
+  if (!fd.valid()) return ErrorNumberFromErrno(errno);
+  struct stat st;
+  if (::fstat(fd.get(), &st) != 0) return ErrorNumberFromErrno(errno);
+  if (S_ISDIR(st.st_mode)) return ErrorNumberFromErrno(EISDIR);
+  *file = std::make_unique<PosixReadableFile>(std::move(fd), static_cast<qint64>(st.st_size));
+  return kNoError;
+}
+
+int PosixFileSystem::WriteWholeFile(const QByteArray& path, const QByteArray& contents) {
+  UniqueFd fd(::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
+  if (!fd.valid()) return ErrorNumberFromErrno(errno, ErrnoContext::Folder);
+  int err = WriteAll(fd.get(), contents.constData(), contents.size());
+  if (err == 0 && ::fsync(fd.get()) != 0) err = errno;
+  if (::close(fd.Release()) != 0 && err == 0) err = errno;
+  return ErrorNumberFromErrno(err);
+}
+
+int PosixFileSystem::ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) {
+  contents->clear();
+  UniqueFd fd(::open(path.constData(), O_RDONLY | O_CLOEXEC));
+  if (!fd.valid()) return ErrorNumberFromErrno(errno);
+  const int err = ReadToEnd(fd.get(), maxBytes, contents);
+  if (err != 0) contents->clear();
+  return ErrorNumberFromErrno(err);
+}
+
+FileSystem& RealFileSystem() {
+  static PosixFileSystem instance;
+  return instance;
+}
+
+}  // namespace renvale::platform
