@@ -1,0 +1,120 @@
+#include <gtest/gtest.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+
+#include "RawFiles.h"
+#include "platform/AttributeLetters.h"
+#include "platform/ErrorNumbers.h"
+#include "platform/FileSystem.h"
+#include "support/FaultyFileSystem.h"
+
+namespace renvale::test {
+namespace {
+
+using platform::RealFileSystem;
+
+TEST(FileSystemTrash, MovesTheFileIntoTheUserTrashWithAnEscapedPath) {
+  ScratchFolder folder;
+  const QByteArray name = "a b%\xe9.jpg";
+  ASSERT_TRUE(WriteRaw(folder / name, "trash me"));
+  ASSERT_TRUE(WriteRaw(folder / "stay.jpg", "stay"));
+
+  ASSERT_EQ(RealFileSystem().MoveToTrash(folder / name), 0);
+
+  EXPECT_FALSE(RawExists(folder / name));
+  EXPECT_EQ(ReadRaw(folder / "stay.jpg"), "stay");
+  const QByteArray trash = qgetenv("XDG_DATA_HOME") + "/Trash/";
+  EXPECT_EQ(ReadRaw(trash + "files/" + name), "trash me");
+  const QByteArray info = ReadRaw(trash + "info/" + name + ".trashinfo");
+  const QByteArray escaped = (folder / name).toPercentEncoding("/");
+  EXPECT_TRUE(info.contains("\nPath=" + escaped + "\n")) << info.constData();
+  EXPECT_TRUE(escaped.endsWith("a%20b%25%E9.jpg"));
+}
+
+TEST(FileSystemTrash, MissingFileIsReportedNotFound) {
+  ScratchFolder folder;
+  EXPECT_EQ(RealFileSystem().MoveToTrash(folder / "absent.jpg"), platform::kFileNotFound);
+}
+
+TEST(FileSystemStat, ReportsKindSizeTimesAndHiddenName) {
+  ScratchFolder folder;
+  ASSERT_TRUE(WriteRaw(folder / ".dotfile", "12345"));
+  const struct timespec times[2] = {{1000000000, 0}, {1000000000, 250000000}};
+  ASSERT_EQ(::utimensat(AT_FDCWD, (folder / ".dotfile").constData(), times, 0), 0);
+  ASSERT_EQ(::mkdir((folder / "sub").constData(), 0755), 0);
+
+  platform::FileInfo info;
+  ASSERT_EQ(RealFileSystem().Stat(folder / ".dotfile", &info), 0);
+  EXPECT_FALSE(info.isDir);
+  EXPECT_TRUE(info.isHidden);
+  EXPECT_EQ(info.size, 5);
+  EXPECT_EQ(info.modified, QDateTime::fromMSecsSinceEpoch(1000000000250LL, Qt::UTC));
+  EXPECT_TRUE(info.created.isValid());
+
+  ASSERT_EQ(RealFileSystem().Stat(folder / "sub/", &info), 0);
+  EXPECT_TRUE(info.isDir);
+  EXPECT_FALSE(info.isHidden);
+  EXPECT_EQ(RealFileSystem().Stat(folder / "absent", &info), platform::kFileNotFound);
+}
+
+TEST(FileSystemWholeFiles, WriteReadAndReadAt) {
+  ScratchFolder folder;
+  ASSERT_EQ(RealFileSystem().WriteWholeFile(folder / "t.rnt", "0123456789"), 0);
+  ASSERT_EQ(RealFileSystem().WriteWholeFile(folder / "t.rnt", "abcdef"), 0);  // truncates
+  QByteArray contents;
+  EXPECT_EQ(RealFileSystem().ReadWholeFile(folder / "t.rnt", 6, &contents), 0);
+  EXPECT_EQ(contents, "abcdef");
+  EXPECT_EQ(RealFileSystem().ReadWholeFile(folder / "t.rnt", 5, &contents), platform::kErrnoBase + EFBIG);
+  EXPECT_TRUE(contents.isEmpty());
+  EXPECT_EQ(RealFileSystem().WriteWholeFile(folder / "gone/t.rnt", "x"), platform::kPathNotFound);
+
+  std::unique_ptr<platform::ReadableFile> file;
+  ASSERT_EQ(RealFileSystem().OpenForRead(folder / "t.rnt", &file), 0);
+  ASSERT_EQ(file->Size(), 6);
+  char buffer[8] = {};
+  EXPECT_EQ(file->ReadAt(4, buffer, 8), 2);
+  EXPECT_EQ(QByteArray(buffer, 2), "ef");
+  EXPECT_EQ(file->ReadAt(6, buffer, 8), 0);
+  EXPECT_EQ(RealFileSystem().OpenForRead(folder / "absent", &file), platform::kFileNotFound);
+  EXPECT_EQ(file, nullptr);
+}
+
+TEST(AttributeLetters, LettersFollowKindNameAndWritability) {
+  ScratchFolder folder;
+  ASSERT_TRUE(WriteRaw(folder / ".hidden.jpg", "h"));
+  ASSERT_TRUE(WriteRaw(folder / "plain.jpg", "p"));
+  ASSERT_EQ(::mkdir((folder / "sub").constData(), 0755), 0);
+  FaultyFileSystem fs(RealFileSystem());
+  fs.MakeReadOnly(folder / ".hidden.jpg");
+
+  EXPECT_EQ(platform::AttributeLetters(fs, folder / ".hidden.jpg"), "HR");
+  EXPECT_EQ(platform::AttributeLetters(fs, folder / "plain.jpg"), "");
+  EXPECT_EQ(platform::AttributeLetters(fs, folder / "sub"), "D");
+  EXPECT_EQ(platform::AttributeLetters(fs, folder / "absent.jpg"), "");
+  fs.MakeReadOnly(folder.path());
+  EXPECT_EQ(platform::AttributeLetters(fs, folder / "sub"), "DR");
+}
+
+TEST(FaultyFileSystem, InjectsErrorsAndWriteProtection) {
+  ScratchFolder folder;
+  ASSERT_TRUE(WriteRaw(folder / "a.jpg", "a"));
+  FaultyFileSystem fs(RealFileSystem());
+  fs.Fail(FsOperation::Rename, folder / "b.jpg", platform::kPathFileAccess, 1);
+  EXPECT_EQ(fs.RenameNoReplace(folder / "a.jpg", folder / "b.jpg"), platform::kPathFileAccess);
+  EXPECT_TRUE(RawExists(folder / "a.jpg"));
+  EXPECT_EQ(fs.RenameNoReplace(folder / "a.jpg", folder / "b.jpg"), 0);  // the fault was used up
+  EXPECT_EQ(fs.Calls(FsOperation::Rename), 2);
+
+  fs.MakeReadOnly(folder.path());
+  EXPECT_EQ(fs.WriteWholeFile(folder / "RV_TestFile", "probe"), platform::kPathFileAccess);
+  EXPECT_EQ(fs.CopyFile(folder / "b.jpg", folder / "c.jpg", false), platform::kPathFileAccess);
+  EXPECT_FALSE(RawExists(folder / "RV_TestFile"));
+  EXPECT_FALSE(RawExists(folder / "c.jpg"));
+  QByteArray contents;
+  EXPECT_EQ(fs.ReadWholeFile(folder / "b.jpg", 10, &contents), 0);
+  EXPECT_EQ(contents, "a");
+}
+
+}  // namespace
+}  // namespace renvale::test
