@@ -3,11 +3,15 @@
 #include <QByteArray>
 #include <QString>
 
+#include "metadata/ExifTagSet.h"
+
 namespace renvale::platform {
 class FileSystem;
 }
 
 namespace renvale::metadata {
+
+class ByteSource;
 
 // Reads the EXIF block of one picture file and answers tags by name.
 // Build one per file; nothing is cached between files.
@@ -23,6 +27,14 @@ class ExifReader {
   // Empty after a good load; ends in "not found." when the file has no EXIF;
   // any other text when the file is damaged or unreadable.
   QString Status() const;
+
+ private:
+  void Reset();
+  void LoadFrom(ByteSource& source);
+  void SetSystemError(const char* text, int errorNumber);
+
+  ExifTagSet tags_;
+  QString status_;
 };
 
 }  // namespace renvale::metadata

@@ -93,12 +93,14 @@ ExifFields TypicalExifFields() {
   return exif;
 }
 
-QByteArray MakeExifTiff(const ExifFields& exif, bool bigEndian) {
+TiffBuilder ExifTiffBuilder(const ExifFields& exif, bool bigEndian) {
   TiffBuilder tiff(bigEndian);
   AddIfd0(exif, tiff);
   AddExif(exif, tiff);
-  return tiff.Build();
+  return tiff;
 }
+
+QByteArray MakeExifTiff(const ExifFields& exif, bool bigEndian) { return ExifTiffBuilder(exif, bigEndian).Build(); }
 
 QByteArray MakeExifJpeg(const ExifFields* exif, int width, int height, bool bigEndian) {
   QByteArray jpeg = CachedJpeg(width, height);

@@ -5,6 +5,8 @@
 #include <QtGlobal>
 #include <optional>
 
+#include "support/TiffBuilder.h"
+
 namespace renvale::test {
 
 // A rational as it is stored in the file: numerator over denominator.
@@ -37,6 +39,10 @@ struct ExifFields {
 
 // A typical camera's set of values, for tests that only need "some EXIF".
 ExifFields TypicalExifFields();
+
+// A builder loaded with the fields, for tests that add odd entries or lay
+// the directories out differently.
+TiffBuilder ExifTiffBuilder(const ExifFields& exif, bool bigEndian);
 
 // The EXIF block alone: a TIFF structure with IFD0 and, when any Exif IFD
 // field is set, the Exif sub-IFD. Also usable as a whole TIFF-like file

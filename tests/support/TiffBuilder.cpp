@@ -97,4 +97,10 @@ QByteArray TiffBuilder::Build() const {
   return out;
 }
 
+QByteArray TiffBuilder::BuildSingle(Ifd ifd) const {
+  QByteArray out = bigEndian_ ? QByteArray("MM") : QByteArray("II");
+  out += U16(magic_) + U32(8);
+  return out + BuildIfd(ifd == Ifd::Zero ? ifd0_ : exif_, 8);
+}
+
 }  // namespace renvale::test

@@ -28,6 +28,9 @@ class TiffBuilder {
   // The whole structure, offsets counted from its first byte. An Exif IFD
   // pointer (tag 0x8769) is added to IFD0 when the Exif IFD has entries.
   QByteArray Build() const;
+  // A structure whose one directory holds the entries given for `ifd`
+  // (CR3 keeps IFD0 and the Exif IFD in two such blocks).
+  QByteArray BuildSingle(Ifd ifd) const;
 
  private:
   struct Entry {
