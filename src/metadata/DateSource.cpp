@@ -1,0 +1,54 @@
+#include "metadata/DateSource.h"
+
+#include <memory>
+
+#include "metadata/ExifDateTime.h"
+#include "metadata/FileDates.h"
+#include "metadata/HeadScan.h"
+#include "platform/FileName.h"
+#include "platform/FileSystem.h"
+
+namespace renvale::metadata {
+namespace {
+
+constexpr qsizetype kExtensionLength = 4;
+
+}  // namespace
+
+QByteArray ThmCompanionName(platform::FileSystem& fs, const QByteArray& folder,
+                            const QByteArray& rawName) {
+  if (rawName.size() < kExtensionLength) return rawName;
+  if (rawName.right(kExtensionLength).toLower() != ".crw") return rawName;
+  const QByteArray partner = rawName.left(rawName.size() - kExtensionLength) + ".thm";
+  return fs.Exists(platform::JoinPath(folder, partner)) ? partner : rawName;
+}
+
+QByteArray ReadFileHead(platform::FileSystem& fs, const QByteArray& path, qint64 length) {
+  std::unique_ptr<platform::ReadableFile> file;
+  if (fs.OpenForRead(path, &file) != 0 || !file) return {};
+  const qint64 size = file->Size();
+  const qint64 wanted = length < 0 ? size : std::min(length, size);
+  if (wanted <= 0) return {};
+  QByteArray head(wanted, Qt::Uninitialized);
+  const qint64 got = file->ReadAt(0, head.data(), wanted);
+  if (got <= 0) return {};
+  head.truncate(got);
+  return head;
+}
+
+QString ScanExifDateInHead(platform::FileSystem& fs, const QByteArray& folder,
+                           const QByteArray& rawName) {
+  const QByteArray name = ThmCompanionName(fs, folder, rawName);
+  const QByteArray head = ReadFileHead(fs, platform::JoinPath(folder, name), kFileHeadLength);
+  return ScanDateInHead(head.constData(), head.size());
+}
+
+QString ExposureDateTime(platform::FileSystem& fs, const QByteArray& folder,
+                         const QByteArray& rawName, const QString& dateTimeOriginal) {
+  if (IsRealExifDateTime(dateTimeOriginal)) return dateTimeOriginal;
+  const QString scanned = ScanExifDateInHead(fs, folder, rawName);
+  if (IsRealExifDateTime(scanned)) return scanned;
+  return OldestFileDateTime(fs, platform::JoinPath(folder, rawName));
+}
+
+}  // namespace renvale::metadata

@@ -1,0 +1,71 @@
+#include "metadata/ExifValues.h"
+
+#include "metadata/DateSource.h"
+#include "metadata/ExifDateTime.h"
+#include "metadata/ExifReader.h"
+#include "metadata/ExifStatusCheck.h"
+#include "metadata/MetadataTexts.h"
+#include "platform/FileName.h"
+#include "platform/MessagePort.h"
+
+namespace renvale::metadata {
+namespace {
+
+struct FileTags {
+  QString dateTimeOriginal;
+  QString serial;
+};
+
+bool ReadTags(const ExifFile& file, FileTags* tags) {
+  ExifReader reader;
+  if (!LoadExifChecked(reader, file.fs, file.messages,
+                       platform::JoinPath(file.folder, file.rawName))) {
+    return false;
+  }
+  tags->dateTimeOriginal = reader.Tag(texts::kTagDateTimeOriginal);
+  tags->serial = reader.Tag(texts::kTagImageNumber);
+  return true;
+}
+
+int FormOfToken(const QString& token) {
+  if (token == texts::kTokenDate) return kFormDate;
+  if (token == texts::kTokenTime) return kFormTime;
+  if (token == texts::kTokenDateTime) return kFormDateAndTime;
+  if (token == texts::kTokenSerial) return kFormSerial;
+  return 0;
+}
+
+const QString& TokenOfForm(int form) {
+  static const QString kTokens[] = {texts::kTokenDate, texts::kTokenTime,
+                                    texts::kTokenDateTime, texts::kTokenSerial};
+  return kTokens[form - 1];
+}
+
+QString ValueOf(const ExifFile& file, const FileTags& tags, int form,
+                const ExifDateFormats& formats) {
+  if (form == kFormSerial) return tags.serial;
+  const QString when = ExposureDateTime(file.fs, file.folder, file.rawName, tags.dateTimeOriginal);
+  return ExifDateTimeText(when, form, formats.date, formats.time);
+}
+
+}  // namespace
+
+QString ExifTokenValue(const ExifFile& file, const QString& token, const ExifDateFormats& formats) {
+  const int form = FormOfToken(token);
+  FileTags tags;
+  if (form == 0 || !ReadTags(file, &tags)) return {};
+  return ValueOf(file, tags, form, formats);
+}
+
+QString ExifInsertValue(const ExifFile& file, int form, bool batchMode,
+                        const ExifDateFormats& formats) {
+  FileTags tags;
+  if (form < kFormDate || form > kFormSerial || !ReadTags(file, &tags)) return {};
+  if (form == kFormSerial && tags.serial.isEmpty()) {
+    file.messages.Notify(batchMode ? texts::kSerialMissingBatch : texts::kSerialMissingSingle);
+  }
+  if (batchMode) return TokenOfForm(form);
+  return ValueOf(file, tags, form, formats);
+}
+
+}  // namespace renvale::metadata

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace renvale::platform {
+class FileSystem;
+class MessagePort;
+}  // namespace renvale::platform
+
+namespace renvale::metadata {
+
+// The user's "EXIFDate" and "EXIFTime" pictures.
+struct ExifDateFormats {
+  QString date;
+  QString time;
+};
+
+// One file of the current folder, and where its messages go.
+struct ExifFile {
+  platform::FileSystem& fs;
+  platform::MessagePort& messages;
+  QByteArray folder;
+  QByteArray rawName;
+};
+
+// The value of an EXIF token of a file name for one file: "%DATE%", "%TIME%"
+// and "%DATE TIME%" give the exposure date (see ExposureDateTime) formatted
+// by `formats`; "%SERIAL%" gives the camera's "ImageNumber" as it stands,
+// possibly empty. Any other text, and a reader error (shown as "EXIF Error:
+// " + status), give an empty string.
+QString ExifTokenValue(const ExifFile& file, const QString& token, const ExifDateFormats& formats);
+
+// What the insert menu puts into the new name for `form` (1 date, 2 time,
+// 3 date and time, 4 serial). In batch mode that is the token, expanded per
+// file later; otherwise the value, exactly as ExifTokenValue gives it. Both
+// modes read the file: a missing serial number is warned about with the
+// message of the mode, and the result is returned all the same. A reader
+// error gives an empty string; a form outside 1 to 4 too.
+QString ExifInsertValue(const ExifFile& file, int form, bool batchMode,
+                        const ExifDateFormats& formats);
+
+}  // namespace renvale::metadata

@@ -1,0 +1,126 @@
+#include "metadata/FileReport.h"
+
+#include <QStringList>
+
+#include "metadata/DateSource.h"
+#include "metadata/ExifReader.h"
+#include "metadata/ExifStatusCheck.h"
+#include "metadata/FileDates.h"
+#include "metadata/MetadataTexts.h"
+#include "metadata/ReportFormat.h"
+#include "metadata/mdlID3.h"
+#include "platform/AttributeLetters.h"
+#include "platform/FileName.h"
+#include "platform/FileSystem.h"
+
+namespace renvale::metadata {
+namespace {
+
+using namespace texts;
+
+QString Lines(const QStringList& lines, const QString& end) {
+  QString text;
+  for (const QString& line : lines) text += line + end;
+  return text;
+}
+
+QStringList Id3Lines(platform::FileSystem& fs, const QByteArray& path) {
+  QStringList lines{kId3Heading};
+  Id3Tag tag;
+  if (!ReadId3Tag(fs, path, &tag)) return lines << kId3Missing;
+  const auto clean = [](const QString& value) { return WithoutControlCharacters(value); };
+  return lines << kId3TitleLabel + clean(tag.title) << kId3ArtistLabel + clean(tag.artist)
+               << kId3AlbumLabel + clean(tag.album)
+               << kId3TrackLabel + clean(Id3TrackText(tag.track))
+               << kId3YearLabel + clean(tag.year) << kId3CommentLabel + clean(tag.comment);
+}
+
+QStringList ExifFieldLines(const ExifReader& reader) {
+  const auto tag = [&reader](const QString& name) { return reader.Tag(name); };
+  return {kLabelExifVersion + ShortExifVersion(tag(kTagExifVersion)),
+          kLabelMake + tag(kTagMake),
+          kLabelModel + tag(kTagModel),
+          kLabelOrientation + tag(kTagOrientation),
+          kLabelDimensions + DimensionsText(tag(kTagWidth), tag(kTagLength)),
+          kLabelExposureDate + tag(kTagDateTimeOriginal),
+          kLabelImageNumber + tag(kTagImageNumber),
+          kLabelAperture + tag(kTagAperture),
+          kLabelShutter + tag(kTagShutter),
+          kLabelFocalLength + tag(kTagFocalLength),
+          kLabelIso + tag(kTagIso),
+          kLabelExposureBias + tag(kTagExposureBias),
+          kLabelExposureProgram + tag(kTagExposureProgram),
+          kLabelFNumber + tag(kTagFNumber),
+          kLabelFlash + tag(kTagFlash)};
+}
+
+QStringList FileSetNotes() { return {kNoteFileSet, kNoteRandomSeries}; }
+
+QStringList ScanFoundLines(const MissingExifFacts& f, const QString& ext) {
+  const QStringList dateLines{kDateOnly, kExposureDateTime + f.scan};
+  if (ext == u"crw") {
+    return QStringList{f.name + kCrwIntro, kCrwSource, kThmFound, kExposureDateTime + f.scan} +
+           FileSetNotes();
+  }
+  if (ext == u"thm") {
+    return QStringList{f.name + kThmIntro, kThmSource, kExposureDateTime + f.scan} +
+           FileSetNotes();
+  }
+  if (ext == u"cr2") return QStringList{f.name + kCr2Intro} + dateLines;
+  if (ext == u"jpg" || ext == u"tif") return QStringList{f.name + kPartialExif} + dateLines;
+  return QStringList{f.name + kProprietaryRaw} + dateLines;
+}
+
+QStringList ScanEmptyLines(const MissingExifFacts& f, const QString& ext) {
+  if (ext == u"crw") {
+    return QStringList{f.name + kCrwIntro, kCrwSource, kThmNotFound} + FileSetNotes();
+  }
+  return {f.name + kNoExif, kNoExifFallback, kCreatedDateTime + f.created,
+          kModifiedDateTime + f.modified};
+}
+
+}  // namespace
+
+QString BuildGeneralInfo(platform::FileSystem& fs, const QByteArray& path) {
+  platform::FileInfo info;
+  const bool known = fs.Stat(path, &info) == 0;
+  const qint64 size = known ? info.size : 0;
+  QStringList lines{
+      kFileSize + KilobytesText(size) + kKilobytes + MegabytesText(size) + kMegabytes,
+      kCreatedOn + FileCreatedText(fs, path), kModifiedOn + FileModifiedText(fs, path),
+      known && platform::AttributeLettersOf(info).contains(u'R') ? kReadOnlyYes : kReadOnlyNo};
+  if (path.toLower().endsWith(".mp3")) lines += Id3Lines(fs, path);
+  return Lines(lines, kGeneralLineEnd);
+}
+
+QString ExplainMissingExif(const MissingExifFacts& facts) {
+  const QString ext = facts.name.right(3).toLower();
+  return Lines(facts.scan.isEmpty() ? ScanEmptyLines(facts, ext) : ScanFoundLines(facts, ext),
+               QStringLiteral("\n"));
+}
+
+QString BuildExifReport(platform::FileSystem& fs, platform::MessagePort& messages,
+                        const QByteArray& folder, const QByteArray& rawName) {
+  const QByteArray path = platform::JoinPath(folder, rawName);
+  ExifReader reader;
+  if (!LoadExifChecked(reader, fs, messages, path)) return {};
+  const QString name = QString::fromUtf8(rawName);
+  // A blank line sets the heading apart from the fields.
+  const QString heading = kExifHeadingStart + name + kExifHeadingEnd + QStringLiteral("\n\n");
+  if (!reader.Tag(kTagDateTimeOriginal).isEmpty()) {
+    return heading + Lines(ExifFieldLines(reader), QStringLiteral("\n"));
+  }
+  const MissingExifFacts facts{name, ScanExifDateInHead(fs, folder, rawName),
+                               FileCreatedText(fs, path), FileModifiedText(fs, path)};
+  return heading + ExplainMissingExif(facts);
+}
+
+FileReportTexts BuildFileReport(platform::FileSystem& fs, platform::MessagePort& messages,
+                                const QByteArray& folder, const QByteArray& rawName) {
+  FileReportTexts report;
+  report.exif = BuildExifReport(fs, messages, folder, rawName);
+  report.general = BuildGeneralInfo(fs, platform::JoinPath(folder, rawName));
+  return report;
+}
+
+}  // namespace renvale::metadata

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QDateTime>
+#include <map>
+
+#include "platform/FileSystem.h"
+
+namespace renvale::test {
+
+// Files held in memory, for tests that need exact file times (a real file
+// system cannot set a birth time) or a case-folding file system. Folders
+// exist implicitly as the prefixes of file paths.
+class MemoryFileSystem : public platform::FileSystem {
+ public:
+  // With `foldCase` names are looked up without regard to letter case, as
+  // on a FAT memory card.
+  explicit MemoryFileSystem(bool foldCase = false) : foldCase_(foldCase) {}
+
+  // Adds or replaces a file; its times default to 2004-07-15 18:03:09 UTC.
+  void Add(const QByteArray& path, const QByteArray& contents);
+  void SetTimes(const QByteArray& path, const QDateTime& createdUtc, const QDateTime& modifiedUtc);
+  void SetWritable(const QByteArray& path, bool writable);
+  // Makes opening `path` fail with `errorNumber`.
+  void FailOpen(const QByteArray& path, int errorNumber);
+  // How often files were opened for reading.
+  int opens = 0;
+
+  int ListFiles(const QByteArray& folder, std::vector<QByteArray>* names) override;
+  int ListFolders(const QByteArray& folder, std::vector<QByteArray>* names) override;
+  int Stat(const QByteArray& path, platform::FileInfo* info) override;
+  bool Exists(const QByteArray& path) override;
+  int RenameNoReplace(const QByteArray& from, const QByteArray& to) override;
+  int RemoveFile(const QByteArray& path) override;
+  int CopyFile(const QByteArray& from, const QByteArray& to, bool replace) override;
+  int MoveToTrash(const QByteArray& path) override;
+  int OpenForRead(const QByteArray& path, std::unique_ptr<platform::ReadableFile>* file) override;
+  int WriteWholeFile(const QByteArray& path, const QByteArray& contents) override;
+  int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) override;
+
+ private:
+  struct Entry {
+    QByteArray contents;
+    platform::FileInfo info;
+    int openError = 0;
+  };
+  QByteArray Key(const QByteArray& path) const { return foldCase_ ? path.toLower() : path; }
+  Entry* Find(const QByteArray& path);
+
+  bool foldCase_;
+  std::map<QByteArray, Entry> files_;
+};
+
+}  // namespace renvale::test
