@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include "core/FileFilterPatterns.h"
+#include "core/FileNameFilter.h"
+
+namespace renvale::test {
+namespace {
+
+using core::FileNameFilter;
+
+struct FilterCase {
+  QString patterns;
+  QByteArray name;
+  bool listed;
+};
+
+TEST(FileNameFilter, MatchesWithoutRegardToCase) {
+  const FilterCase cases[] = {
+      {"*.JPG", "IMG_1.JPG", true},
+      {"*.JPG", "img_2.jpg", true},
+      {"*.jpg", "IMG_3.Jpg", true},
+      {"*.JPG", "a.jpeg", false},
+      {"*.JPG", "jpg", false},
+      {"*.JPG", "x.jpg.bak", false},
+      {"*.JPG", "x.bak.jpg", true},
+      {"*.JPG", "caf\xe9.JPG", true},
+      {"*.*", "README", true},
+      {"*.*", "a.b", true},
+      {"*", "noext", true},
+      {" *.PNG ; *.JPG ", "shot.png", true},
+      {"*.PNG;;*.JPG", "shot.jpg", true},
+      {"IMG_????.*", "img_0001.jpg", true},
+      {"IMG_????.*", "IMG_01.jpg", false},
+      {"*_edit*", "beach_EDIT_2.tif", true},
+      {"*_edit*", "beach.tif", false},
+      {"", "anything", false},
+  };
+  for (const FilterCase& c : cases) {
+    EXPECT_EQ(FileNameFilter(c.patterns).Matches(c.name), c.listed)
+        << c.patterns.toStdString() << " / " << c.name.constData();
+  }
+}
+
+TEST(FileNameFilter, TypicalImagesCoverPicturesRawAndMediaButNotSidecars) {
+  const FileNameFilter images(core::FilterPatterns(core::FileFilter::TypicalImages));
+  for (const char* name : {"a.JPG", "b.jpeg", "c.tiff", "d.crw", "d.THM", "e.CR2", "f.cr3", "g.nef", "h.ARW",
+                           "i.dng", "j.orf", "k.rw2", "l.raf", "m.heic", "n.webp", "o.mp3", "p.MOV", "q.3gp",
+                           "r.wav", "s.ra", "t.rm", "u.x3f"}) {
+    EXPECT_TRUE(images.Matches(name)) << name;
+  }
+  for (const char* name : {"a.xmp", "b.txt", "c.jpg~", "d.rnt", "README", "e.mkv"}) {
+    EXPECT_FALSE(images.Matches(name)) << name;
+  }
+  EXPECT_TRUE(FileNameFilter(core::FilterPatterns(core::FileFilter::AllFiles)).Matches("a.xmp"));
+}
+
+}  // namespace
+}  // namespace renvale::test
