@@ -32,6 +32,7 @@ QString ExifValueText::Format(ExifTag tag, const ExifRawValue& value) {
   double ratio = 0;
   switch (tag) {
     case ExifTag::DateTimeOriginal:
+      return DateText(value);
     case ExifTag::Make:
     case ExifTag::Model:
       return Text(value);
@@ -74,6 +75,17 @@ QString ExifValueText::Text(const ExifRawValue& value) {
   if (text.contains(QChar::ReplacementCharacter)) text = QString::fromLatin1(bytes);
   text.removeIf([](QChar c) { return c.unicode() < 0x20 || c.unicode() == 0x7F; });
   return text.trimmed();
+}
+
+// Cameras that do not know the date write blanks between the colons; a
+// text without a single digit is no date and is better left absent, so
+// that the fallbacks apply. Zeros are kept: the camera did write them.
+QString ExifValueText::DateText(const ExifRawValue& value) {
+  const QString text = Text(value);
+  for (const QChar c : text) {
+    if (c.isDigit()) return text;
+  }
+  return {};
 }
 
 QString ExifValueText::Version(const ExifRawValue& value) {

@@ -18,6 +18,7 @@ class ExifValueText {
 
  private:
   static QString Text(const ExifRawValue& value);
+  static QString DateText(const ExifRawValue& value);
   static QString Version(const ExifRawValue& value);
   static bool Integer(const ExifRawValue& value, qint64* out);
   static bool Ratio(const ExifRawValue& value, double* out);

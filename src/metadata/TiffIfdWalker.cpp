@@ -70,11 +70,11 @@ void TiffIfdWalker::TakeEntry(ByteReader& block, qint64 entry, ExifTag tag, Exif
   const quint64 total = quint64(TypeSize(value.type)) * value.count;
   if (total == 0) return;
   const qint64 at = total <= 4 ? entry + 8 : qint64(block.U32(entry + 8));
-  // Keep the head of a long value if only that fits; no tag of ours needs more.
-  const qint64 wanted = qint64(qMin<quint64>(total, ExifRawValue::kMaxBytes));
-  const qint64 available = block.Has(at, 0) ? qMin(wanted, block.Length() - at) : 0;
-  const qint64 unit = TypeSize(value.type);
-  value.size = int(available - available % unit);
+  // A value that does not lie wholly inside the block is skipped, so a cut
+  // file never yields a cut text. Of a long value only the head is kept (and
+  // must be there); no tag of ours needs more.
+  value.size = int(qMin<quint64>(total, ExifRawValue::kMaxBytes));
+  value.size -= value.size % TypeSize(value.type);
   if (value.size == 0 || !block.Bytes(at, value.bytes, value.size)) return;
   tags->Offer(tag, ifd, value);
 }

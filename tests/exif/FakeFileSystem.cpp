@@ -25,8 +25,10 @@ class FakeFileSystem::File : public platform::ReadableFile {
     if (offset >= entry_.size) return 0;
     length = qMin(length, entry_.size - offset);
     std::memset(buffer, 0, size_t(length));
-    if (offset < entry_.head.size()) {
-      std::memcpy(buffer, entry_.head.constData() + offset, size_t(qMin(length, entry_.head.size() - offset)));
+    for (const auto& [at, bytes] : entry_.chunks) {
+      const qint64 from = qMax(offset, at);
+      const qint64 to = qMin(offset + length, at + bytes.size());
+      if (from < to) std::memcpy(buffer + (from - offset), bytes.constData() + (from - at), size_t(to - from));
     }
     owner_.bytesRead += length;
     return length;
@@ -38,7 +40,14 @@ class FakeFileSystem::File : public platform::ReadableFile {
 };
 
 void FakeFileSystem::Add(const QByteArray& path, const QByteArray& head, qint64 size) {
-  files_.insert(path, Entry{head, size < 0 ? head.size() : size});
+  Entry entry;
+  entry.chunks.emplace_back(0, head);
+  entry.size = size < 0 ? head.size() : size;
+  files_.insert(path, entry);
+}
+
+void FakeFileSystem::Put(const QByteArray& path, qint64 offset, const QByteArray& bytes) {
+  files_[path].chunks.emplace_back(offset, bytes);
 }
 
 int FakeFileSystem::OpenForRead(const QByteArray& path, std::unique_ptr<platform::ReadableFile>* file) {

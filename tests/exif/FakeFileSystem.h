@@ -15,7 +15,10 @@ namespace renvale::test {
 // read side is real; every other call answers kErrnoBase + ENOSYS.
 class FakeFileSystem : public platform::FileSystem {
  public:
+  // A file of `size` bytes (default: the head's) starting with `head`;
+  // the rest reads as zeros unless Put places bytes there.
   void Add(const QByteArray& path, const QByteArray& head, qint64 size = -1);
+  void Put(const QByteArray& path, qint64 offset, const QByteArray& bytes);
 
   int openError = 0;     // returned by OpenForRead when not 0
   int readFailsAt = -1;  // the ReadAt call (0-based) that returns -1
@@ -36,7 +39,7 @@ class FakeFileSystem : public platform::FileSystem {
 
  private:
   struct Entry {
-    QByteArray head;
+    std::vector<std::pair<qint64, QByteArray>> chunks;
     qint64 size = 0;
   };
   class File;

@@ -1,0 +1,128 @@
+// Loading through the file system: failures become status texts, and only
+// the bytes needed are read, however big the file.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <cerrno>
+
+#include "FakeFileSystem.h"
+#include "metadata/ExifReader.h"
+#include "metadata/ExifTexts.h"
+#include "platform/ErrorNumbers.h"
+#include "support/SampleImages.h"
+
+namespace renvale::test {
+namespace {
+
+using metadata::ExifReader;
+using metadata::ExifTexts;
+
+constexpr qint64 kGiB = qint64(1) << 30;
+// What a load may read at most: the head of the file and a few windows.
+constexpr qint64 kReadBudget = 64 * 1024 + 4 * 8 * 1024;
+
+QByteArray Le16(quint16 v) { return QByteArray(1, char(v & 0xFF)) + char(v >> 8); }
+QByteArray Le32(quint32 v) { return Le16(quint16(v & 0xFFFF)) + Le16(quint16(v >> 16)); }
+QByteArray Entry(quint16 tag, quint16 type, quint32 count, quint32 value) {
+  return Le16(tag) + Le16(type) + Le32(count) + Le32(value);
+}
+
+TEST(ExifFileLoad, SameAnswersAsFromMemory) {
+  const ExifFields fields = TypicalExifFields();
+  const QByteArray jpeg = MakeExifJpeg(&fields);
+  FakeFileSystem fs;
+  fs.Add("/pics/a.jpg", jpeg);
+  ExifReader fromFile;
+  fromFile.Load(fs, "/pics/a.jpg");
+  ExifReader fromMemory;
+  fromMemory.LoadBytes(jpeg.constData(), jpeg.size());
+  EXPECT_EQ(fromFile.Status(), "");
+  for (const char* tag : {"DateTimeOriginal", "ImageNumber", "Make", "Flash", "ShutterSpeedValue"}) {
+    EXPECT_EQ(fromFile.Tag(tag), fromMemory.Tag(tag)) << tag;
+    EXPECT_FALSE(fromFile.Tag(tag).isEmpty()) << tag;
+  }
+}
+
+// A 1 GiB TIFF-based raw whose Exif IFD lies 768 MiB in: found, and only a
+// few KiB read.
+TEST(ExifFileLoad, HugeRawIsNotReadWhole) {
+  const quint32 exifAt = 768u << 20;
+  const QByteArray head = QByteArray("II*\0", 4) + Le32(8) + Le16(2) + Entry(0x010F, 2, 4, 0x00636241) +
+                          Entry(0x8769, 4, 1, exifAt) + Le32(0);
+  const QByteArray exif = Le16(1) + Entry(0x9003, 2, 20, exifAt + 18) + Le32(0) + QByteArray("2010:01:02 03:04:05", 20);
+  FakeFileSystem fs;
+  fs.Add("/raw.nef", head, kGiB);
+  fs.Put("/raw.nef", exifAt, exif);
+  ExifReader reader;
+  reader.Load(fs, "/raw.nef");
+  EXPECT_EQ(reader.Status(), "");
+  EXPECT_EQ(reader.Tag("Make"), "Abc");
+  EXPECT_EQ(reader.Tag("DateTimeOriginal"), "2010:01:02 03:04:05");
+  EXPECT_LE(fs.bytesRead, kReadBudget);
+}
+
+TEST(ExifFileLoad, HugeJpegIsNotReadWhole) {
+  const ExifFields fields = TypicalExifFields();
+  FakeFileSystem fs;
+  fs.Add("/big.jpg", MakeExifJpeg(&fields), kGiB);
+  ExifReader reader;
+  reader.Load(fs, "/big.jpg");
+  EXPECT_EQ(reader.Tag("DateTimeOriginal"), fields.dateTimeOriginal);
+  EXPECT_LE(fs.bytesRead, kReadBudget);
+}
+
+// Failures are errors, never "no EXIF": a file that cannot be read must not
+// silently get a date from elsewhere.
+TEST(ExifFileLoad, OpenAndReadFailuresAreErrors) {
+  const ExifFields fields = TypicalExifFields();
+  const QByteArray head = QByteArray("II*\0", 4) + Le32(8) + Le16(1) + Entry(0x8769, 4, 1, 1u << 20) + Le32(0);
+  const struct {
+    const char* name;
+    QByteArray path;
+    int openError;
+    int readFailsAt;
+    const char* statusStart;
+  } cases[] = {
+      {"missing file", "/missing.jpg", 0, -1, ExifTexts::kCannotOpen},
+      {"access denied", "/a.jpg", platform::kAccessViolation, -1, ExifTexts::kCannotOpen},
+      {"first read fails", "/a.jpg", 0, 0, ExifTexts::kCannotRead},
+      {"later read fails", "/raw.tif", 0, 1, ExifTexts::kCannotRead},
+  };
+  for (const auto& c : cases) {
+    FakeFileSystem fs;
+    fs.Add("/a.jpg", MakeExifJpeg(&fields));
+    fs.Add("/raw.tif", head, 2 << 20);
+    fs.openError = c.openError;
+    fs.readFailsAt = c.readFailsAt;
+    ExifReader reader;
+    reader.Load(fs, c.path);
+    const QString status = reader.Status();
+    EXPECT_TRUE(status.startsWith(c.statusStart)) << c.name << ": " << status.toStdString();
+    EXPECT_GT(status.size(), qsizetype(strlen(c.statusStart))) << c.name << ": the system's reason is missing";
+    EXPECT_FALSE(status.endsWith("not found.", Qt::CaseInsensitive)) << c.name;
+    EXPECT_EQ(reader.Tag("Make"), "") << c.name;
+  }
+}
+
+TEST(ExifFileLoad, RealFileSystem) {
+  QTemporaryDir dir;
+  ASSERT_TRUE(dir.isValid());
+  const ExifFields fields = TypicalExifFields();
+  const QString path = dir.filePath("IMG_0001.JPG");
+  ASSERT_TRUE(WriteFile(path, MakeExifJpeg(&fields, 32, 24, true)));
+  ExifReader reader;
+  reader.Load(platform::RealFileSystem(), QFile::encodeName(path));
+  EXPECT_EQ(reader.Status(), "");
+  EXPECT_EQ(reader.Tag("DateTimeOriginal"), fields.dateTimeOriginal);
+
+  reader.Load(platform::RealFileSystem(), QFile::encodeName(dir.path()));  // a folder
+  EXPECT_FALSE(reader.Status().isEmpty());
+  EXPECT_FALSE(reader.Status().endsWith("not found."));
+  EXPECT_EQ(reader.Tag("DateTimeOriginal"), "");
+}
+
+}  // namespace
+}  // namespace renvale::test

@@ -1,0 +1,164 @@
+// Hostile and broken EXIF blocks: the reader must end, stay inside the
+// bytes it was given and never hand out a cut value.
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "metadata/ExifReader.h"
+#include "support/SampleImages.h"
+#include "support/SampleRawFiles.h"
+
+namespace renvale::test {
+namespace {
+
+using metadata::ExifReader;
+
+const char* const kAllTags[] = {
+    "DateTimeOriginal", "ImageNumber",     "Orientation",       "ExifVersion",     "Make",    "Model",
+    "ExifImageWidth",   "ExifImagelength", "ApertureValue",     "ShutterSpeedValue", "FocalLength",
+    "ISOSpeedRatings",  "ExposureBiasValue", "ExposureProgram", "Fnumber",         "Flash"};
+
+// Loads from a heap copy of exactly the given size, so a read past the end
+// is a read past an allocation (which the sanitizer builds catch).
+void Load(ExifReader* reader, const QByteArray& bytes) {
+  const std::unique_ptr<char[]> copy(new char[size_t(qMax<qsizetype>(bytes.size(), 1))]);
+  std::copy(bytes.begin(), bytes.end(), copy.get());
+  reader->LoadBytes(copy.get(), bytes.size());
+}
+
+// Little-endian TIFF pieces written by hand, for layouts no encoder makes.
+QByteArray Le16(quint16 v) { return QByteArray(1, char(v & 0xFF)) + char(v >> 8); }
+QByteArray Le32(quint32 v) { return Le16(quint16(v & 0xFFFF)) + Le16(quint16(v >> 16)); }
+QByteArray Entry(quint16 tag, quint16 type, quint32 count, quint32 value) {
+  return Le16(tag) + Le16(type) + Le32(count) + Le32(value);
+}
+QByteArray Header(quint32 ifd0 = 8) { return QByteArray("II*\0", 4) + Le32(ifd0); }
+
+TEST(ExifHostile, ExifPointerBackToIfd0OrToItselfEnds) {
+  // IFD0 at 8: Make inline "Abc", Exif pointer to 8 (itself); next IFD 8.
+  const QByteArray toIfd0 = Header() + Le16(2) + Entry(0x010F, 2, 4, 0x00636241) + Entry(0x8769, 4, 1, 8) + Le32(8);
+  ExifReader reader;
+  Load(&reader, toIfd0);
+  EXPECT_EQ(reader.Status(), "");
+  EXPECT_EQ(reader.Tag("Make"), "Abc");
+
+  // Exif IFD at 26 pointing to itself as Exif IFD and as next IFD.
+  const QByteArray exifLoop = Header() + Le16(1) + Entry(0x8769, 4, 1, 26) + Le32(8) +
+                              Le16(2) + Entry(0x8769, 4, 1, 26) + Entry(0x8827, 3, 1, 100) + Le32(26);
+  Load(&reader, exifLoop);
+  EXPECT_EQ(reader.Status(), "");
+  EXPECT_EQ(reader.Tag("ISOSpeedRatings"), "100");
+}
+
+TEST(ExifHostile, HugeCountsAndOffsetsAreSkipped) {
+  const QByteArray text = QByteArray("Canon", 6);
+  const quint32 textAt = 8 + 2 + 6 * 12 + 4;
+  const QByteArray bytes = Header() + Le16(6) +
+                           Entry(0x010F, 2, 0xFFFFFFFF, textAt) +       // Make: count far past the end
+                           Entry(0x0110, 2, 6, 0xFFFFFFF0) +            // Model: offset + size overflows 32 bits
+                           Entry(0x0112, 3, 0x80000000, 1) +            // Orientation: 2^31 SHORTs
+                           Entry(0x829D, 5, 1, textAt + 2) +            // Fnumber: odd but in range
+                           Entry(0x8769, 4, 1, 0xFFFFFFFF) +            // Exif IFD nowhere
+                           Entry(0x9003, 99, 20, textAt) +              // unknown type
+                           Le32(0) + text + QByteArray(200, '\0');
+  ExifReader reader;
+  Load(&reader, bytes);
+  EXPECT_EQ(reader.Status(), "");
+  EXPECT_EQ(reader.Tag("Make"), "Canon");  // the head of an over-long value is there
+  EXPECT_EQ(reader.Tag("Model"), "");
+  EXPECT_EQ(reader.Tag("Orientation"), "");
+  EXPECT_EQ(reader.Tag("DateTimeOriginal"), "");
+}
+
+TEST(ExifHostile, EntryCountFarBeyondTheBlock) {
+  // 65535 entries claimed, one present.
+  const QByteArray bytes = Header() + Le16(0xFFFF) + Entry(0x0112, 3, 1, 6) + Le32(0);
+  ExifReader reader;
+  Load(&reader, bytes);
+  EXPECT_EQ(reader.Status(), "");
+  EXPECT_EQ(reader.Tag("Orientation").left(3), "Clo");
+}
+
+TEST(ExifHostile, BoxAndSegmentSizesThatLie) {
+  const struct {
+    const char* name;
+    QByteArray bytes;
+  } cases[] = {
+      {"BMFF box of size 0 and 1", QByteArray("\0\0\0\x10" "ftypheic\0\0\0\0" "\0\0\0\0meta" "\0\0\0\x01iinf"
+                                               "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF", 40)},
+      {"BMFF 64-bit size smaller than its header",
+       QByteArray("\0\0\0\x10" "ftypcrx \0\0\0\0" "\0\0\0\x01moov\0\0\0\0\0\0\0\x04", 32)},
+      {"JPEG segment of length 0", QByteArray("\xFF\xD8\xFF\xE1\0\0Exif\0\0", 12)},
+      {"JPEG segment of length 1", QByteArray("\xFF\xD8\xFF\xE0\0\x01\xFF\xE1", 8)},
+      {"RAF pointing past the end", QByteArray("FUJIFILMCCD-RAW ", 16) + QByteArray(68, '\0') + QByteArray(8, '\xFF')},
+      {"MRW block past the end", QByteArray("\0MRM\xFF\xFF\xFF\xFF\0TTW\xFF\xFF\xFF\xF0II*\0", 20)},
+      {"X3F directory offset past the end", QByteArray("FOVb", 4) + QByteArray(40, '\0') + QByteArray(4, '\xFF')},
+      {"X3F directory count huge", QByteArray("FOVb\0\0\0\0SECd\0\0\0\0\xFF\xFF\xFF\xFF", 20) +
+                                       QByteArray(12, '\xFF') + QByteArray("\x08\0\0\0", 4)},
+  };
+  for (const auto& c : cases) {
+    ExifReader reader;
+    Load(&reader, c.bytes);
+    EXPECT_FALSE(reader.Status().isEmpty()) << c.name;
+    EXPECT_EQ(reader.Tag("DateTimeOriginal"), "") << c.name;
+  }
+}
+
+struct Sample {
+  const char* name;
+  QByteArray bytes;
+};
+
+std::vector<Sample> Samples() {
+  const ExifFields fields = TypicalExifFields();
+  return {
+      {"JPEG", MakeExifJpeg(&fields, 16, 16, false)},
+      {"TIFF big-endian", MakeExifTiff(fields, true)},
+      {"CR3", MakeCr3File(fields)},
+      {"HEIF", MakeHeifFile(MakeExifTiff(fields, false), 1)},
+      {"RAF", MakeRafFile(MakeExifJpeg(&fields, 16, 16, true))},
+      {"MRW", MakeMrwFile(MakeExifTiff(fields, true))},
+      {"X3F", MakeX3fFile(MakeExifJpeg(&fields, 16, 16, false))},
+  };
+}
+
+// Cut at every length, a file gives each tag either whole or not at all.
+TEST(ExifHostile, EveryTruncationGivesWholeValuesOrNone) {
+  for (const Sample& sample : Samples()) {
+    ExifReader full;
+    Load(&full, sample.bytes);
+    ASSERT_EQ(full.Status(), "") << sample.name;
+    for (qsizetype length = 0; length < sample.bytes.size(); ++length) {
+      ExifReader cut;
+      Load(&cut, sample.bytes.left(length));
+      for (const char* tag : kAllTags) {
+        const QString value = cut.Tag(tag);
+        if (!value.isEmpty()) {
+          EXPECT_EQ(value, full.Tag(tag)) << sample.name << " cut at " << length << ", " << tag;
+        }
+      }
+    }
+  }
+}
+
+// Random byte changes: no crash, no hang, and the reader stays usable.
+TEST(ExifHostile, RandomDamageIsSurvived) {
+  std::mt19937 random(20260121);
+  for (const Sample& sample : Samples()) {
+    for (int round = 0; round < 300; ++round) {
+      QByteArray bytes = sample.bytes;
+      const int changes = 1 + int(random() % 8);
+      for (int i = 0; i < changes; ++i) bytes[qsizetype(random() % bytes.size())] = char(random());
+      ExifReader reader;
+      Load(&reader, bytes);
+      for (const char* tag : kAllTags) reader.Tag(tag);
+    }
+    ExifReader reader;
+    Load(&reader, sample.bytes);
+    EXPECT_EQ(reader.Status(), "") << sample.name;
+  }
+}
+
+}  // namespace
+}  // namespace renvale::test

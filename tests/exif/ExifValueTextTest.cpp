@@ -1,0 +1,186 @@
+// The texts the reader answers for each kind of value, read back from
+// generated EXIF blocks in both byte orders.
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "metadata/ExifReader.h"
+#include "support/TiffBuilder.h"
+
+namespace renvale::test {
+namespace {
+
+using metadata::ExifReader;
+using Ifd = TiffBuilder::Ifd;
+
+struct Case {
+  const char* tag;
+  std::function<void(TiffBuilder&)> store;
+  const char* expected;
+};
+
+void RunCases(const std::vector<Case>& cases) {
+  for (const bool bigEndian : {false, true}) {
+    for (const Case& c : cases) {
+      TiffBuilder tiff(bigEndian);
+      tiff.Ascii(Ifd::Zero, 0x010F, "Maker");  // keeps IFD0 non-empty
+      c.store(tiff);
+      const QByteArray bytes = tiff.Build();
+      ExifReader reader;
+      reader.LoadBytes(bytes.constData(), bytes.size());
+      EXPECT_EQ(reader.Status(), "");
+      EXPECT_EQ(reader.Tag(c.tag).toStdString(), c.expected)
+          << c.tag << " expecting \"" << c.expected << "\"" << (bigEndian ? " (big-endian)" : "");
+    }
+  }
+}
+
+Case Rational(const char* tag, quint16 number, quint32 num, quint32 den, const char* expected) {
+  return {tag, [=](TiffBuilder& t) { t.Rational(Ifd::Exif, number, num, den); }, expected};
+}
+
+Case SRational(const char* tag, quint16 number, qint32 num, qint32 den, const char* expected) {
+  return {tag, [=](TiffBuilder& t) { t.SRational(Ifd::Exif, number, num, den); }, expected};
+}
+
+Case Short(const char* tag, Ifd ifd, quint16 number, quint16 value, const char* expected) {
+  return {tag, [=](TiffBuilder& t) { t.Short(ifd, number, value); }, expected};
+}
+
+Case Text(const char* tag, Ifd ifd, quint16 number, const QByteArray& value, const char* expected) {
+  return {tag, [=](TiffBuilder& t) { t.Ascii(ifd, number, value); }, expected};
+}
+
+TEST(ExifValueText, PhotographicValuesInTheUsualNotation) {
+  RunCases({
+      Rational("Fnumber", 0x829D, 56, 10, "f/5.6"),
+      Rational("Fnumber", 0x829D, 14, 1, "f/14"),
+      Rational("Fnumber", 0x829D, 168, 100, "f/1.7"),
+      Rational("Fnumber", 0x829D, 0, 0, ""),  // "unknown" in EXIF
+      Rational("ApertureValue", 0x9202, 6, 1, "f/8"),
+      Rational("ApertureValue", 0x9202, 497, 100, "f/5.6"),
+      SRational("ShutterSpeedValue", 0x9201, 8, 1, "1/256 s"),
+      SRational("ShutterSpeedValue", 0x9201, 7965784, 1000000, "1/250 s"),
+      SRational("ShutterSpeedValue", 0x9201, 2, 1, "1/4 s"),
+      SRational("ShutterSpeedValue", 0x9201, 1, 1, "0.5 s"),
+      SRational("ShutterSpeedValue", 0x9201, 0, 1, "1 s"),
+      SRational("ShutterSpeedValue", 0x9201, -5, 1, "32 s"),
+      SRational("ShutterSpeedValue", 0x9201, 1000, 1, ""),  // no camera is that fast
+      SRational("ShutterSpeedValue", 0x9201, INT32_MIN, -1, ""),
+      SRational("ExposureBiasValue", 0x9204, -2, 3, "-0.67 EV"),
+      SRational("ExposureBiasValue", 0x9204, 1, 3, "+0.33 EV"),
+      SRational("ExposureBiasValue", 0x9204, 7, 10, "+0.7 EV"),
+      SRational("ExposureBiasValue", 0x9204, 0, 1, "0 EV"),
+      SRational("ExposureBiasValue", 0x9204, -1, 1000, "0 EV"),  // no "-0"
+      SRational("ExposureBiasValue", 0x9204, 1, 0, ""),
+      Rational("FocalLength", 0x920A, 50, 1, "50 mm"),
+      Rational("FocalLength", 0x920A, 74, 10, "7.4 mm"),
+      Rational("FocalLength", 0x920A, 0, 1, ""),
+  });
+}
+
+TEST(ExifValueText, FlashBitsInWords) {
+  RunCases({
+      Short("Flash", Ifd::Exif, 0x9209, 0, "No flash"),
+      Short("Flash", Ifd::Exif, 0x9209, 1, "Fired"),
+      Short("Flash", Ifd::Exif, 0x9209, 5, "Fired, return not detected"),
+      Short("Flash", Ifd::Exif, 0x9209, 9, "On, fired"),
+      Short("Flash", Ifd::Exif, 0x9209, 16, "Off, did not fire"),
+      Short("Flash", Ifd::Exif, 0x9209, 24, "Auto, did not fire"),
+      Short("Flash", Ifd::Exif, 0x9209, 31, "Auto, fired, return detected"),
+      Short("Flash", Ifd::Exif, 0x9209, 32, "No flash function"),
+      Short("Flash", Ifd::Exif, 0x9209, 73, "On, fired, red-eye reduction"),
+  });
+}
+
+TEST(ExifValueText, ExposureProgramInWords) {
+  RunCases({
+      Short("ExposureProgram", Ifd::Exif, 0x8822, 1, "Manual"),
+      Short("ExposureProgram", Ifd::Exif, 0x8822, 2, "Normal program"),
+      Short("ExposureProgram", Ifd::Exif, 0x8822, 3, "Aperture priority"),
+      Short("ExposureProgram", Ifd::Exif, 0x8822, 8, "Landscape mode"),
+      Short("ExposureProgram", Ifd::Exif, 0x8822, 9, "Unknown (9)"),
+  });
+}
+
+TEST(ExifValueText, NumbersAndTexts) {
+  RunCases({
+      {"ImageNumber", [](TiffBuilder& t) { t.Long(Ifd::Exif, 0x9211, 0xFFFFFFFFu); }, "4294967295"},
+      {"ImageNumber", [](TiffBuilder& t) { t.Long(Ifd::Zero, 0x9211, 1170123); }, "1170123"},  // TIFF/EP place
+      Short("ExifImageWidth", Ifd::Exif, 0xA002, 640, "640"),
+      {"ExifImagelength", [](TiffBuilder& t) { t.Long(Ifd::Exif, 0xA003, 4000); }, "4000"},
+      Short("ISOSpeedRatings", Ifd::Exif, 0x8827, 12800, "12800"),
+      {"ExifVersion", [](TiffBuilder& t) { t.Undefined(Ifd::Exif, 0x9000, "0232"); }, "0232"},
+      {"ExifVersion", [](TiffBuilder& t) { t.Undefined(Ifd::Exif, 0x9000, QByteArray("02\0\0", 4)); }, ""},
+      Text("Model", Ifd::Zero, 0x0110, "EOS 10D   ", "EOS 10D"),
+      Text("Model", Ifd::Zero, 0x0110, QByteArray("EOS\0junk", 8), "EOS"),
+      Text("Model", Ifd::Zero, 0x0110, "Tab\there", "Tabhere"),
+      Text("Model", Ifd::Zero, 0x0110, "\xC3\x91ikon", "Ñikon"),     // UTF-8
+      Text("Model", Ifd::Zero, 0x0110, "\xD1ikon", "Ñikon"),         // Latin-1
+      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2004:07:15 18:03:09", "2004:07:15 18:03:09"),
+      // Unknown dates are written as blanks and colons; no digit, no date.
+      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "    :  :     :  :  ", ""),
+      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "0000:00:00 00:00:00", "0000:00:00 00:00:00"),
+      Text("DateTimeOriginal", Ifd::Zero, 0x9003, "2001:02:03 04:05:06", "2001:02:03 04:05:06"),
+      // A number where text belongs is not taken for text.
+      Short("Model", Ifd::Zero, 0x0110, 7, ""),
+  });
+}
+
+// The preview reads only the first three letters: "Nor" upright, "Clo" a
+// clockwise quarter turn, "Cou" a counter-clockwise one, anything else a
+// half turn. Codes outside 1 to 8 give no word, so no turn.
+TEST(ExifValueText, OrientationWordsDriveThePreviewRightly) {
+  const struct {
+    quint16 code;
+    const char* head;
+  } cases[] = {{1, "Nor"}, {6, "Clo"}, {8, "Cou"}, {2, "other"}, {3, "other"},
+               {4, "other"}, {5, "other"}, {7, "other"}, {0, ""}, {9, ""}};
+  for (const auto& c : cases) {
+    TiffBuilder tiff(false);
+    tiff.Short(Ifd::Zero, 0x0112, c.code);
+    const QByteArray bytes = tiff.Build();
+    ExifReader reader;
+    reader.LoadBytes(bytes.constData(), bytes.size());
+    const QString word = reader.Tag("Orientation");
+    const QString head = word.left(3);
+    const QString meaning = word.isEmpty() ? "" : (head == "Nor" || head == "Clo" || head == "Cou") ? head : "other";
+    EXPECT_EQ(meaning, c.head) << "code " << c.code << ": \"" << word.toStdString() << "\"";
+  }
+}
+
+// A tag in both directories: the one from its home directory wins, wherever
+// it stands in the file; within one directory the first one wins.
+TEST(ExifValueText, HomeDirectoryWinsOverTheOther) {
+  TiffBuilder tiff(false);
+  tiff.Ascii(Ifd::Zero, 0x9003, "1999:01:01 00:00:00");
+  tiff.Ascii(Ifd::Exif, 0x9003, "2004:07:15 18:03:09");
+  tiff.Ascii(Ifd::Exif, 0x010F, "Not the make");
+  tiff.Ascii(Ifd::Zero, 0x010F, "Canon");
+  tiff.Ascii(Ifd::Zero, 0x010F, "Second");
+  const QByteArray bytes = tiff.Build();
+  ExifReader reader;
+  reader.LoadBytes(bytes.constData(), bytes.size());
+  EXPECT_EQ(reader.Tag("DateTimeOriginal"), "2004:07:15 18:03:09");
+  EXPECT_EQ(reader.Tag("Make"), "Canon");
+}
+
+TEST(ExifValueText, OnlyTheSixteenNamesAnswerAndCaseMatters) {
+  TiffBuilder tiff(false);
+  tiff.Rational(Ifd::Exif, 0x829D, 28, 10);
+  tiff.Long(Ifd::Exif, 0xA003, 480);
+  tiff.Ascii(Ifd::Zero, 0x0131, "Software is not one of ours");
+  const QByteArray bytes = tiff.Build();
+  ExifReader reader;
+  reader.LoadBytes(bytes.constData(), bytes.size());
+  EXPECT_EQ(reader.Tag("Fnumber"), "f/2.8");
+  EXPECT_EQ(reader.Tag("FNumber"), "");
+  EXPECT_EQ(reader.Tag("ExifImagelength"), "480");
+  EXPECT_EQ(reader.Tag("ExifImageLength"), "");
+  EXPECT_EQ(reader.Tag("Software"), "");
+  EXPECT_EQ(reader.Tag(""), "");
+}
+
+}  // namespace
+}  // namespace renvale::test
