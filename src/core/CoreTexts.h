@@ -1,0 +1,153 @@
+#pragma once
+
+#include <QString>
+
+// The fixed texts of composing names, series numbers, the button texts and
+// the renames, word for word as the user sees them. Double blanks and
+// misspellings ("applicaton") are deliberate: users and help pages quote
+// them. ("( No File Selected )" here has blanks inside the brackets; the
+// list's own label in SessionTexts.h has none. Both are the product's.)
+// Messages made of several lines keep their lines here and are joined by the
+// functions that build them (CR in message boxes, CR LF or LF where noted).
+
+namespace renvale::core::texts {
+
+inline const QString kCr = QStringLiteral("\r");
+inline const QString kLf = QStringLiteral("\n");
+inline const QString kCrLf = QStringLiteral("\r\n");
+
+// ---- Tokens (the lower-case spellings are these lower-cased) -----------
+inline const QString kTokenOrigFn = QStringLiteral("%ORIGFN%");
+inline const QString kTokenDate = QStringLiteral("%DATE%");
+inline const QString kTokenTime = QStringLiteral("%TIME%");
+inline const QString kTokenDateTime = QStringLiteral("%DATE TIME%");
+inline const QString kTokenSeries = QStringLiteral("%SERIES%");
+inline const QString kTokenSerial = QStringLiteral("%SERIAL%");
+inline const QString kTokenTitle = QStringLiteral("%TITLE%");
+inline const QString kTokenArtist = QStringLiteral("%ARTIST%");
+inline const QString kTokenAlbum = QStringLiteral("%ALBUM%");
+inline const QString kTokenTrack = QStringLiteral("%TRACK%");
+
+// ---- Composition -------------------------------------------------------
+inline const QString kPleaseSelectFileFirst =
+    QStringLiteral("Please select a file to rename first.");
+inline const QString kInvalidFilenameChars =
+    QStringLiteral("Filenames cannot contain the following characters:   \\ / : * ? \" < > |");
+inline const QString kNoSerialInFile = QStringLiteral(
+    "A Serial Number was not found in this file.  Do not rely on Serial Numbers to keep filenames "
+    "unique unless you are sure that ALL files to be renamed contain a unique serial number.  "
+    "It is recommended that you use a Series # instead when renaming this file.");
+inline const QString kNoSerialInLastSelected = QStringLiteral(
+    "A Serial Number was not found in the last-selected file.  Do not rely on Serial Numbers to "
+    "keep filenames unique unless you are sure that ALL files to be renamed contain a unique "
+    "serial number.  It is recommended that you use Series #s instead when batch renaming the "
+    "selected files.");
+inline const QString kNoTempFilename = QStringLiteral("There is no new filename to save as Temp.");
+inline const QString kExifErrorPrefix = QStringLiteral("EXIF Error: ");
+
+// "EXIF+" menu, captions in order ("&&" shows as one ampersand); empty = separator.
+inline const QString kMenuInsertDate = QStringLiteral("Insert Date");
+inline const QString kMenuInsertTime = QStringLiteral("Insert Time");
+inline const QString kMenuInsertDateTime = QStringLiteral("Insert Date && Time");
+inline const QString kMenuInsertSerial = QStringLiteral("Insert Serial (Limited Availability)");
+inline const QString kMenuInsertTitle = QStringLiteral("ID3> Insert Title");
+inline const QString kMenuInsertArtist = QStringLiteral("ID3> Insert Artist");
+inline const QString kMenuInsertAlbum = QStringLiteral("ID3> Insert Album");
+inline const QString kMenuInsertTrack = QStringLiteral("ID3> Insert Track #");
+inline const QString kMenuViewExif = QStringLiteral("View EXIF && Other Info (Current File)");
+inline const QString kMenuCancel = QStringLiteral("-Cancel-");
+
+// "Insert+" menu: captions and the texts they insert, index for index.
+inline const QString kCommonWordCaptions[] = {
+    QStringLiteral("(SPACE)"), QStringLiteral("' - '"),    QStringLiteral("' && '"),
+    QStringLiteral("' at '"),  QStringLiteral("' with '"), QStringLiteral("' on '"),
+    QStringLiteral("' in '")};
+inline const QString kCommonWords[] = {
+    QStringLiteral(" "),      QStringLiteral(" - "),  QStringLiteral(" & "), QStringLiteral(" at "),
+    QStringLiteral(" with "), QStringLiteral(" on "), QStringLiteral(" in ")};
+
+// ---- Series numbers ----------------------------------------------------
+// The tool tip names a reset to 0 although the reset sets 1; kept as it is.
+inline const QString kSeriesBoxToolTip =
+    QStringLiteral("Adjust next series # (Double-click to reset to 0)");
+
+// ---- Custom and temp buttons, templates --------------------------------
+inline const QString kEditPromptButton = QStringLiteral("Enter new text for Button #");
+inline const QString kEditPromptTemp = QStringLiteral("Enter new text for Temp #");
+inline const QString kEditorFrameCaption = QStringLiteral("Rename Button");
+inline const QString kEditorBoxToolTip = QStringLiteral("Double-click to clear");
+inline const QString kEditorOkToolTip = QStringLiteral("Click to store text");
+inline const QString kTempButtonToolTip = QStringLiteral("Save current filename to a Temp button");
+inline const QString kTemplateExtension = QStringLiteral(".rnt");
+
+// ---- Individual rename -------------------------------------------------
+inline const QString kPleaseEnterNewFilename = QStringLiteral("Please enter a new filename.");
+inline const QString kSameAsOriginal =
+    QStringLiteral("The filename entered is the same as the original!");
+inline const QString kNoFileIsSelected = QStringLiteral("No file is selected!");
+inline const QString kClearBoxToolTip = QStringLiteral("Clear 'New Filename' box");
+inline const QString kNoFileSelectedLabelAfterRename = QStringLiteral("( No File Selected )");
+inline const QString kAutoPreviewDisabledAfterRename =
+    QStringLiteral("Auto-Preview is disabled.  See 'Options' menu.");
+inline const QString kFilesInFolderPrefix = QStringLiteral("Files in folder (");
+inline const QString kFilesInFolderSuffix = QStringLiteral("):");
+
+// Overwrite question: Yes/No/Cancel, warning icon; lines joined by LF.
+inline const QString kOverwriteTitle = QStringLiteral("Filename already exists!");
+inline const QString kOverwritePrefix = QStringLiteral("Overwrite file: '");
+inline const QString kOverwriteSuffix = QStringLiteral("'?");
+inline const QString kOverwriteWarning =
+    QStringLiteral("Overwriting an existing file will cause that file to be lost!");
+
+// ---- Rename failures (lines joined by CR) ------------------------------
+inline const QString kRenameErrorIndividual =
+    QStringLiteral("Error renaming file(s).  ***Error Code");
+inline const QString kRenameErrorBatch = QStringLiteral("Error renaming file.  ***Error Code");
+inline const QString kOverwriteError = QStringLiteral("Error overwriting file.  ***Error Code");
+inline const QString kErrorCode70Suffix = QStringLiteral(" 70 - Access Violation Error***");
+inline const QString kErrorCode75Suffix = QStringLiteral(" 75 - File/Path Access Error***");
+inline const QString kUnexpectedErrorSuffix = QStringLiteral(" - Unexpected Error***");
+inline const QString kRenamedFileLocked = QStringLiteral(
+    "The file being renamed is 'Read Only', the source folder is Write Protected, or the file is "
+    "in-use by another applicaton.");
+inline const QString kOverwrittenFileLocked = QStringLiteral(
+    "The file being overwritten is 'Read Only', the source folder is Write Protected, or the "
+    "file is in-use by another applicaton.");
+inline const QString kMemoryCardLine1 =
+    QStringLiteral("If you are accessing a memory card through a memory card reader/slot or");
+inline const QString kMemoryCardLine2 =
+    QStringLiteral("a cable connected from the camera to computer, examine memory card");
+inline const QString kMemoryCardLine3 =
+    QStringLiteral("to be sure the Write Protect (or Lock) switch is not enabled.");
+inline const QString kRenameCancelled = QStringLiteral("File renaming operation cancelled.");
+inline const QString kFileSetErrorTitle = QStringLiteral("File Set - Renaming Error");
+
+// ---- Batch rename ------------------------------------------------------
+// "No base name": two lines joined by LF.
+inline const QString kNoBaseNameLine1 =
+    QStringLiteral("Before batch-renaming files, you must enter a New 'base' Filename.");
+inline const QString kNoBaseNameLine2 =
+    QStringLiteral("Click the 'Help' button in the Batch Mode pane for help.");
+inline const QString kPleaseEnterBaseFilename =
+    QStringLiteral("Please enter a new 'base' filename.");
+// Duplicate warning without time or series: lines joined by CR LF.
+inline const QString kNoTimeOrSeriesLines[] = {
+    QStringLiteral("The base filename does not contain EXIF TIME or a SERIES #.  This could cause "
+                   "duplicate filenames!"),
+    QStringLiteral("Windows does not allow duplicate filenames in the same folder.  Do not "
+                   "continue unless you are certain"),
+    QStringLiteral("that duplicate filenames will not occur."),
+    QStringLiteral("If you are renaming MP3s with ID3 data, be sure *ALL* selected MP3 files "
+                   "contain ID3 information."),
+    QStringLiteral("Continue with the batch renaming?")};
+// Duplicate warning for time without seconds: two lines joined by LF.
+inline const QString kTimeWithoutSecondsLine1 = QStringLiteral(
+    "The base filename does not contain a SERIES # and although EXIF TIME is included, the time "
+    "format chosen does not include seconds (See Options).  This could cause duplicate filenames!");
+inline const QString kContinueBatch = QStringLiteral("Continue with the batch renaming?");
+inline const QString kProcessingFiles = QStringLiteral("Processing files.  Please wait.......");
+inline const QString kRandomSeriesNote = QStringLiteral(
+    "NOTE: Batch-renaming using RANDOM series #s does not work correctly with file sets, and is "
+    "therefore not recommended.");
+
+}  // namespace renvale::core::texts
