@@ -1,0 +1,105 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QTimer>
+#include <functional>
+#include <vector>
+
+#include "core/RenameSession.h"
+#include "core/SettingsRecord.h"
+#include "platform/MountList.h"
+#include "shell/MainWindowUi.h"
+
+namespace renvale::platform {
+class FileSystem;
+class MessagePort;
+class SettingsStorage;
+}  // namespace renvale::platform
+
+namespace renvale::shell {
+
+class FileListModel;
+class QuickTipOffer;
+
+// What the main window needs from the world; tests pass fakes.
+struct MainWindowServices {
+  platform::FileSystem& fs;
+  platform::MessagePort& messages;
+  platform::SettingsStorage& settings;
+  QuickTipOffer& tips;
+  // The desktop's folder dialog (title, start folder) -> chosen folder.
+  std::function<QString(QWidget*, const QString&, const QString&)> pickFolder;
+  std::function<std::vector<platform::Volume>()> drives;
+  std::function<QByteArray()> startFolder;  // used when no folder is remembered
+};
+
+// The main window `main`: owns the session record and the settings record,
+// and keeps them in step with the file list and the folder panes.
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  explicit MainWindow(MainWindowServices services, QWidget* parent = nullptr);
+  ~MainWindow() override;
+
+  // The start-up steps after the window exists: placement, settings, folder.
+  void Start();
+
+  core::RenameSession& Session() { return session_; }
+  core::SettingsRecord& Settings() { return settings_; }
+  MainWindowUi& Ui() { return ui_; }
+  FileListModel& Files() { return *files_; }
+
+  void ApplyBrowseMode(int mode);
+  void ChangeFolder(const QByteArray& folder);
+  void RefreshFileList();
+  void SelectAll();
+  void SetBatchMode(bool on);
+  bool FileIsSelected() const;
+  void ApplyToolTips(bool on);
+  void ApplyFileFilter(int filter);
+  // Saves every setting and closes every window; both the close button and
+  // File > Exit end here.
+  void Shutdown();
+
+ protected:
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void ConnectSignals();
+  void ApplyLoadedSettings();
+  void ApplyPlacement();
+  void GatherSettings();
+  void OnSelectionChanged();
+  const platform::FileName* CurrentSelectedFile(int selectedCount) const;
+  void OnDriveChosen(int index);
+  void OnChooseFolder();
+  void OnUrlsDropped(const QList<QUrl>& urls);
+  void OnFolderOpened(const QByteArray& folder);
+  void ShowFolderInPanes();
+  void FillDriveList();
+  bool HandleEnter();
+  void OfferBoxTips(QObject* watched);
+  void DisableLaterFeatures();
+  void ScaleFonts();
+
+  MainWindowServices services_;
+  core::RenameSession session_;
+  core::SettingsRecord settings_;
+  MainWindowUi ui_;
+  FileListModel* files_ = nullptr;
+  std::vector<platform::Volume> drives_;
+  QTimer FNDelay;
+  QTimer SerDelay;
+  QTimer Timer1;
+  QFont baseFont_;
+  QSize baseSize_;
+  bool shuttingDown_ = false;
+  bool fnDelayUsed_ = false;
+  bool serDelayUsed_ = false;
+};
+
+}  // namespace renvale::shell

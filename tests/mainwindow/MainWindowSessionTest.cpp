@@ -1,0 +1,167 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "mainwindow/MainWindowFixture.h"
+#include "shell/BrowsePane.h"
+#include "shell/FileListModel.h"
+
+namespace renvale::test {
+namespace {
+
+using platform::MessageIcon;
+
+class MainWindowSession : public MainWindowFixture {};
+
+TEST_F(MainWindowSession, StartListsTheStartFolderWithNothingSelected) {
+  MakeFiles({"IMG_10.JPG", "IMG_9.JPG", "notes.txt", ".hidden"});
+  shell::MainWindow& main = Open();
+  EXPECT_EQ(ListedNames(), QStringList({"IMG_9.JPG", "IMG_10.JPG", "notes.txt"}));
+  EXPECT_EQ(main.Ui().fileCountLabel->text(), "Files in folder (3):");
+  EXPECT_EQ(main.Ui().selectionLabel->text(), "(No File Selected)");
+  EXPECT_EQ(main.Session().CurrentFolder, Folder());
+  EXPECT_FALSE(main.Ui().BatchFrame->isVisibleTo(&main));
+  EXPECT_TRUE(messages.messages.empty());
+}
+
+TEST_F(MainWindowSession, OneFileIsIndividualModeAndTwoAreBatchMode) {
+  MakeFiles({"a.JPG", "b.JPG", "c.JPG"});
+  shell::MainWindow& main = Open();
+  main.show();
+  ClickRow(0);
+  EXPECT_EQ(main.Session().SelectedCount, 1);
+  EXPECT_FALSE(main.Session().BatchMode);
+  EXPECT_EQ(main.Ui().Text1->text(), "a.JPG");
+  EXPECT_EQ(main.Session().SelectedBase, "a");
+  EXPECT_EQ(main.Session().SelectedExt, ".JPG");
+
+  ClickRow(2, Qt::ControlModifier);
+  EXPECT_EQ(main.Session().SelectedCount, 2);
+  EXPECT_TRUE(main.Session().BatchMode);
+  EXPECT_TRUE(main.Ui().BatchFrame->isVisible());
+  EXPECT_EQ(main.Ui().Text1->text(), "a.JPG") << "batch mode leaves the box for the base name";
+
+  ClickRow(1);
+  EXPECT_FALSE(main.Session().BatchMode);
+  EXPECT_FALSE(main.Ui().BatchFrame->isVisible());
+  EXPECT_EQ(main.Ui().Text1->text(), "b.JPG");
+}
+
+TEST_F(MainWindowSession, ForcedLowerCaseExtensionFillsTheBoxLowerCased) {
+  MakeFiles({"IMG_0001.JPG"});
+  storage->WriteSettingString("", "ForceLCE", "1");
+  shell::MainWindow& main = Open();
+  main.show();
+  ClickRow(0);
+  EXPECT_EQ(main.Ui().Text1->text(), "IMG_0001.jpg");
+  EXPECT_EQ(main.Session().SelectedExt, ".jpg");
+}
+
+TEST_F(MainWindowSession, SelectAllInAnEmptyFolderOnlyTellsSo) {
+  shell::MainWindow& main = Open();
+  main.Ui().Command14->click();
+  ASSERT_EQ(messages.messages.size(), 1u);
+  EXPECT_EQ(messages.Last().text, "There are no files in this folder to select!");
+  EXPECT_EQ(messages.Last().title, "Renvale");
+  EXPECT_FALSE(main.FileIsSelected());
+}
+
+TEST_F(MainWindowSession, SelectAllIsOneSelectionChangeAndEntersBatchMode) {
+  QStringList names;
+  for (int i = 0; i < 500; ++i) names << QStringLiteral("f%1.jpg").arg(i);
+  MakeFiles(names);
+  shell::MainWindow& main = Open();
+  QSignalSpy changes(main.Ui().File1->selectionModel(), &QItemSelectionModel::selectionChanged);
+  main.Ui().Command14->click();
+  EXPECT_EQ(changes.count(), 1);
+  EXPECT_EQ(main.Session().SelectedCount, 500);
+  EXPECT_TRUE(main.Session().BatchMode);
+}
+
+TEST_F(MainWindowSession, CtrlAInTheListSelectsAllButInATextBoxSelectsText) {
+  MakeFiles({"a.jpg", "b.jpg"});
+  shell::MainWindow& main = Open();
+  main.show();
+  main.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
+  main.Ui().File1->setFocus();
+  QTest::keyClick(main.Ui().File1, Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(main.Session().SelectedCount, 2);
+
+  ClickRow(0);
+  main.Ui().Text1->setFocus();
+  QTest::keyClick(main.Ui().Text1, Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(main.Session().SelectedCount, 1);
+  EXPECT_EQ(main.Ui().Text1->selectedText(), "a.jpg");
+}
+
+TEST_F(MainWindowSession, RefreshRereadsTheFolderAndClearsTheSelection) {
+  MakeFiles({"a.jpg"});
+  shell::MainWindow& main = Open();
+  main.show();
+  ClickRow(0);
+  MakeFiles({"b.jpg"});
+  main.Ui().CmdRefresh->click();
+  EXPECT_EQ(ListedNames(), QStringList({"a.jpg", "b.jpg"}));
+  EXPECT_FALSE(main.FileIsSelected());
+  EXPECT_EQ(main.Ui().selectionLabel->text(), "(No File Selected)");
+  EXPECT_EQ(main.Ui().fileCountLabel->text(), "Files in folder (2):");
+}
+
+TEST_F(MainWindowSession, ANameThatIsNotUtf8IsListedAndSelectable) {
+  MakeFile(QByteArray("caf\xe9.jpg"));
+  shell::MainWindow& main = Open();
+  main.show();
+  ASSERT_EQ(main.Files().Count(), 1);
+  ClickRow(0);
+  EXPECT_EQ(main.Session().SelectedFileName.raw, QByteArray("caf\xe9.jpg"));
+  EXPECT_EQ(main.Session().SelectedExt, ".jpg");
+}
+
+TEST_F(MainWindowSession, TheWelcomeTipIsOfferedOnTheFirstActivationOnly) {
+  shell::MainWindow& main = Open();
+  main.show();
+  main.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  main.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
+  EXPECT_EQ(tips.offered, std::vector<int>({1}));
+}
+
+TEST_F(MainWindowSession, ToolTipsFollowTheSetting) {
+  shell::MainWindow& main = Open();
+  EXPECT_EQ(main.Ui().Text2->toolTip(), "Adjust next series # (Double-click to reset to 1)");
+  EXPECT_EQ(main.Ui().Command1[4]->toolTip(), "Click to add to filename, Right-click to edit");
+  main.ApplyToolTips(false);
+  EXPECT_TRUE(main.Ui().Text2->toolTip().isEmpty());
+  EXPECT_TRUE(main.Ui().browse->Drive1->toolTip().isEmpty());
+}
+
+TEST_F(MainWindowSession, EveryControlCanBeFoundByNameAndHasAnAccessibleName) {
+  shell::MainWindow& main = Open();
+  for (const char* name : {"File1", "Text1", "Text2", "BatchFrame", "Command2", "Command11", "Command14",
+                           "CmdRefresh", "Check1", "ProgressBar1", "Drive1", "Dir1", "toggleBrowseS",
+                           "CurFold", "Command15", "toggleBrowseA", "OrigFN", "exif", "Command5",
+                           "Command6", "Command7", "Command8", "Command10", "Command4", "Command13",
+                           "ShPrev", "UnSupported", "namebutton", "Text3", "Command3"}) {
+    auto* widget = main.findChild<QWidget*>(QString::fromLatin1(name));
+    ASSERT_NE(widget, nullptr) << name;
+    EXPECT_FALSE(widget->accessibleName().isEmpty()) << name;
+  }
+  EXPECT_EQ(main.findChildren<QPushButton*>("Command1").size(), 9);
+  EXPECT_EQ(main.findChildren<QPushButton*>("Command9").size(), 3);
+}
+
+}  // namespace
+}  // namespace renvale::test

@@ -1,0 +1,74 @@
+#include <gtest/gtest.h>
+
+#include "core/FileSelection.h"
+
+namespace renvale::core {
+namespace {
+
+platform::FileName Name(const char* raw) { return platform::FileName{QByteArray(raw)}; }
+
+TEST(FileSelection, NothingSelectedKeepsTheModeAndClearsTheHeldName) {
+  RenameSession session;
+  session.BatchMode = true;
+  session.SelectedFileName = Name("old.jpg");
+  const SelectionView view = ApplySelection(session, 0, nullptr, SettingsRecord{});
+  EXPECT_EQ(view.mode, WindowMode::NoSelection);
+  EXPECT_EQ(view.selectionLabel, "(No File Selected)");
+  EXPECT_TRUE(session.SelectedFileName.raw.isEmpty());
+  EXPECT_EQ(session.SelectedCount, 0);
+}
+
+struct SplitCase {
+  const char* name;
+  bool forceLce;
+  const char* base;
+  const char* ext;
+  const char* newName;
+};
+
+class OneFileSelected : public ::testing::TestWithParam<SplitCase> {};
+
+TEST_P(OneFileSelected, SplitsTheNameAndFillsTheBox) {
+  const SplitCase& c = GetParam();
+  RenameSession session;
+  session.BatchMode = true;
+  SettingsRecord settings;
+  settings.forceLowerCaseExtension = c.forceLce;
+  const platform::FileName file = Name(c.name);
+  const SelectionView view = ApplySelection(session, 1, &file, settings);
+  EXPECT_EQ(view.mode, WindowMode::Individual);
+  EXPECT_FALSE(session.BatchMode);
+  EXPECT_EQ(session.SelectedBase, c.base);
+  EXPECT_EQ(session.SelectedExt, c.ext);
+  EXPECT_EQ(view.newName, c.newName);
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, OneFileSelected,
+                         ::testing::Values(SplitCase{"IMG_0001.JPG", false, "IMG_0001", ".JPG", "IMG_0001.JPG"},
+                                           SplitCase{"IMG_0001.JPG", true, "IMG_0001", ".jpg", "IMG_0001.jpg"},
+                                           SplitCase{"README", true, "README", "", "README"},
+                                           SplitCase{"ends.", false, "ends", ".", "ends."},
+                                           SplitCase{"a.b.TAR", true, "a.b", ".tar", "a.b.tar"}));
+
+TEST(FileSelection, AutoPreviewOffExplainsWhereToTurnItOn) {
+  RenameSession session;
+  SettingsRecord settings;
+  settings.autoPreview = false;
+  const platform::FileName file = Name("a.jpg");
+  EXPECT_EQ(ApplySelection(session, 1, &file, settings).previewCaption,
+            "Auto-Preview is disabled.  See 'Tools|Program Options' menu.");
+}
+
+TEST(FileSelection, TwoOrMoreSelectedIsBatchModeAndKeepsTheBox) {
+  RenameSession session;
+  const platform::FileName file = Name("b.CRW");
+  const SelectionView view = ApplySelection(session, 3, &file, SettingsRecord{});
+  EXPECT_EQ(view.mode, WindowMode::Batch);
+  EXPECT_TRUE(session.BatchMode);
+  EXPECT_TRUE(view.newName.isEmpty());
+  EXPECT_EQ(session.SelectedExt, ".CRW") << "the batch pane needs the current item's extension";
+  EXPECT_EQ(session.SelectedCount, 3);
+}
+
+}  // namespace
+}  // namespace renvale::core
