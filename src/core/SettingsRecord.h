@@ -8,8 +8,9 @@ namespace renvale::core {
 // The in-memory copy of every setting, loaded once at start-up and written
 // back once at shutdown. Defaults are the first-run values.
 struct SettingsRecord {
-  // Window placement in twips, as last read or last seen; the main window
-  // applies the placement rules (floors, screen fit) itself.
+  // Window placement in twips as stored texts, as last read or last seen.
+  // ApplyStoredPlacement (WindowPlacement.h) turns them into a geometry;
+  // PlacementTexts gives them back from the window's geometry before saving.
   QString windowTop, windowLeft, windowHeight, windowWidth;
 
   int browseMode = 0;          // 0 simple pane, 1 advanced pane
@@ -40,6 +41,8 @@ struct SettingsRecord {
   bool playQuickTime = true;   // "PlayQT"
   bool playRealMedia = true;   // "PlayRM"
   bool fixDirectShow = false;
+
+  bool operator==(const SettingsRecord&) const = default;
 };
 
 }  // namespace renvale::core
