@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+#include <optional>
+
+#include "core/RandomSeriesPool.h"
+#include "core/RenameContext.h"
+#include "core/SeriesCounter.h"
+#include "core/ViewSeriesBox.h"
+
+namespace renvale::core {
+
+// Turns the batch's base name into each file's new name: the base with the
+// file's own extension, its tokens replaced by that file's values in the
+// batch's fixed order, one series number per file that uses one.
+class BatchFileNamer {
+ public:
+  // `base` has no extension. With `randomCount` set, the numbers v .. v +
+  // randomCount - 1 (v read from "Next Series #:") are handed out once each
+  // in a random order instead of counting up.
+  BatchFileNamer(const RenameContext& context, const QString& base, std::optional<int> randomCount,
+                 RandomSeriesPool::RandomSource random = RandomSeriesPool::TimeSeededSource());
+
+  // The base followed by the file's extension, tokens still in it.
+  QString Unexpanded(const platform::FileName& file) const;
+  // The new name of `file` made from Unexpanded(file).
+  QString Expand(const platform::FileName& file, const QString& unexpanded);
+  // Whether the last Expand took a series number.
+  bool SeriesTaken() const { return seriesTaken_; }
+
+  // Gives back the number the last Expand took.
+  void StepBackSeries() { counter_.StepBackSeries(); }
+
+ private:
+  QString TokenValue(const platform::FileName& file, Token token);
+  QString NextSeriesText();
+
+  const RenameContext& context_;
+  QString base_;
+  ViewSeriesBox box_;
+  SeriesCounter counter_;
+  std::optional<RandomSeriesPool> pool_;
+  Id3Values id3_;  // of the last ".mp3"; other files keep them, as the menu's values do
+  bool seriesTaken_ = false;
+};
+
+}  // namespace renvale::core

@@ -1,0 +1,66 @@
+#include "core/FileRenamer.h"
+
+#include "platform/PathParts.h"
+
+namespace renvale::core {
+
+FileRenamer::FileRenamer(const RenameContext& context, const QByteArray& folder,
+                         const std::vector<platform::FileName>& selection)
+    : context_(context),
+      folder_(folder),
+      index_(FolderIndex::Read(context.fs, folder)),
+      finder_(index_, selection),
+      setRenamer_(context.fs, context.messages) {}
+
+bool FileRenamer::InFolder(const QByteArray& path) const {
+  return platform::ParentFolder(path) == folder_;
+}
+
+int FileRenamer::RenameFile(const QByteArray& oldPath, const QByteArray& newPath) {
+  failureShown_ = false;
+  ReleasePreviewIfHeld(oldPath);
+  if (!InFolder(oldPath) || !InFolder(newPath)) return context_.fs.RenameNoReplace(oldPath, newPath);
+  const NamePair head{platform::BaseName(oldPath), platform::BaseName(newPath)};
+  const std::vector<NamePair> companions = finder_.Companions(head.from, head.to);
+  for (const NamePair& companion : companions) ReleasePreviewIfHeld(folder_ + companion.from);
+  if (companions.empty()) return RenameSingle(head);
+  return RenameWithCompanions(head, companions);
+}
+
+int FileRenamer::RenameSingle(const NamePair& pair) {
+  const int error = context_.fs.RenameNoReplace(folder_ + pair.from, folder_ + pair.to);
+  if (error == 0) index_.Move(pair.from, pair.to);
+  return error;
+}
+
+int FileRenamer::RenameWithCompanions(const NamePair& head, const std::vector<NamePair>& companions) {
+  const int error = setRenamer_.RenameSet(folder_, head, companions);
+  failureShown_ = setRenamer_.FailureShown();
+  if (error != 0) return error;
+  index_.Move(head.from, head.to);
+  for (const NamePair& companion : companions) index_.Move(companion.from, companion.to);
+  return 0;
+}
+
+int FileRenamer::CheckCompanionTargets(const QByteArray& oldName, const QByteArray& newName) {
+  const NamePair head{oldName, newName};
+  const int error = setRenamer_.CheckCompanionTargets(folder_, head, finder_.Companions(oldName, newName));
+  failureShown_ = error != 0;
+  return error;
+}
+
+bool FileRenamer::HasSeparateEntries(const QByteArray& a, const QByteArray& b) {
+  const FolderIndex fresh = FolderIndex::Read(context_.fs, folder_);
+  return a != b && fresh.Contains(a) && fresh.Contains(b);
+}
+
+// The preview may hold a file open (a playing video); it lets go of it
+// before the name changes under it.
+void FileRenamer::ReleasePreviewIfHeld(const QByteArray& path) {
+  QByteArray& previewed = context_.session.PreviewedPath;
+  if (previewed.isEmpty() || previewed != path) return;
+  previewed.clear();
+  context_.view.ResetPreview(QString());
+}
+
+}  // namespace renvale::core

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QByteArray>
+#include <vector>
+
+#include "core/FileSetFinder.h"
+#include "core/FileSetRenamer.h"
+#include "core/FolderIndex.h"
+#include "core/RenameContext.h"
+
+namespace renvale::core {
+
+// The one way the renames change a file's name: the shared RenameFile.
+// One is made per operation for the folder it works in and the files the
+// user selected; it reads the folder's names once and keeps them current.
+class FileRenamer {
+ public:
+  FileRenamer(const RenameContext& context, const QByteArray& folder,
+              const std::vector<platform::FileName>& selection);
+
+  // Renames `oldPath` to `newPath` (both in the folder) and returns 0 or an
+  // error number. Releases the preview when it holds a file that moves.
+  // When the file heads a set its companions move with it, or nothing moves;
+  // otherwise the single file is renamed. Never replaces a file: an existing
+  // target gives kFileAlreadyExists.
+  int RenameFile(const QByteArray& oldPath, const QByteArray& newPath);
+
+  // Whether the last failing RenameFile or CheckCompanionTargets has told the
+  // user itself (a file set's failure); if not, the caller does.
+  bool FailureShown() const { return failureShown_; }
+
+  // Before an existing target is deleted to make room for `oldName`: 0 when
+  // its companions could follow, else the error, shown to the user.
+  int CheckCompanionTargets(const QByteArray& oldName, const QByteArray& newName);
+
+  // Removes a file of the folder that the caller has deleted.
+  void Forget(const QByteArray& name) { index_.Remove(name); }
+
+  // True when the folder, read afresh, holds entries spelled exactly `a` and
+  // exactly `b`: on a case-folding file system two names that differ only
+  // in letter case are one entry, one file.
+  bool HasSeparateEntries(const QByteArray& a, const QByteArray& b);
+
+  const FolderIndex& Index() const { return index_; }
+  const FileSetFinder& Sets() const { return finder_; }
+
+ private:
+  bool InFolder(const QByteArray& path) const;
+  void ReleasePreviewIfHeld(const QByteArray& path);
+  int RenameSingle(const NamePair& pair);
+  int RenameWithCompanions(const NamePair& head, const std::vector<NamePair>& companions);
+
+  const RenameContext& context_;
+  QByteArray folder_;
+  FolderIndex index_;
+  FileSetFinder finder_;
+  FileSetRenamer setRenamer_;
+  bool failureShown_ = false;
+};
+
+}  // namespace renvale::core

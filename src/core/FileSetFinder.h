@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QSet>
+#include <vector>
+
+#include "core/FolderIndex.h"
+#include "platform/FileName.h"
+
+namespace renvale::core {
+
+// One file of a set with its old and new name (no folder).
+struct NamePair {
+  QByteArray from;
+  QByteArray to;
+  bool operator==(const NamePair&) const = default;
+};
+
+// Which files travel with a renamed file ("the head") so that a camera
+// set is never split:
+//  - a Canon CRW takes its THM (same base name, ".thm" in any letter case)
+//    when both are selected, as the camera's pairing has always worked;
+//  - any file except a THM or a sidecar takes its XMP sidecars, selected or
+//    not, in both spellings editors use: "Name.xmp" beside "Name.CR2", and
+//    "Name.CR2.xmp". A picture parted from its sidecar loses its edits.
+// Companions keep their own extensions; they get the head's new base name.
+// Names compare without regard to ASCII letter case. When several heads
+// share a base (RAW and JPEG shot together), "Name.xmp" goes with whichever
+// of them is renamed first.
+class FileSetFinder {
+ public:
+  FileSetFinder(const FolderIndex& index, const std::vector<platform::FileName>& selection);
+
+  // The companions of `head`, renamed for `newHead`; empty when it heads no
+  // set. Pairs whose name would not change are left out.
+  std::vector<NamePair> Companions(const QByteArray& head, const QByteArray& newHead) const;
+
+  // True for a selected name that a selected head takes along; a batch
+  // passes over its list entry, whether the head comes before or after it.
+  bool TravelsWithSelectedHead(const QByteArray& name) const;
+
+ private:
+  void AddThm(const QByteArray& head, const QByteArray& newBase, std::vector<NamePair>* pairs) const;
+  void AddSidecars(const QByteArray& head, const QByteArray& newHead, std::vector<NamePair>* pairs) const;
+
+  const FolderIndex& index_;
+  QSet<QByteArray> selected_;               // exact names
+  QSet<QByteArray> selectedFolded_;         // lower-cased names
+  QSet<QByteArray> selectedHeadNames_;      // lower-cased names that can take sidecars
+  QSet<QByteArray> selectedHeadBases_;      // their lower-cased base names
+};
+
+}  // namespace renvale::core

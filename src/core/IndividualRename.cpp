@@ -1,0 +1,139 @@
+#include "core/IndividualRename.h"
+
+#include "core/CoreTexts.h"
+#include "core/FileNameRules.h"
+#include "core/FileRenamer.h"
+#include "core/RenameFailureTexts.h"
+#include "core/RenameSafetyTexts.h"
+#include "core/SeriesCounter.h"
+#include "core/ViewSeriesBox.h"
+#include "platform/ErrorNumbers.h"
+
+namespace renvale::core {
+
+namespace {
+
+constexpr int kRenameDoneTip = 10;
+
+}  // namespace
+
+IndividualRename::IndividualRename(const RenameContext& context) : context_(context) {}
+
+void IndividualRename::RenameSelectedFile() {
+  context_.view.ShowQuickTip(kRenameDoneTip);
+  const QString text = context_.view.NewNameText();
+  if (!NameCanBeUsed(text)) return;
+  context_.session.SeriesUsed = false;
+  const QString newName = ComposeName(text);
+  context_.view.ProcessEvents();
+  if (newName == context_.session.SelectedFileName.Display()) {
+    context_.messages.Notify(texts::kSameAsOriginal);
+    return;
+  }
+  if (CarryOut(newName)) ShowRenamedFile(newName);
+}
+
+bool IndividualRename::NameCanBeUsed(const QString& text) {
+  if (context_.session.SelectedFileName.raw.isEmpty()) {
+    context_.messages.Notify(texts::kPleaseSelectFileFirst);
+    return false;
+  }
+  if (text.isEmpty()) {
+    context_.messages.Notify(texts::kPleaseEnterNewFilename);
+    return false;
+  }
+  if (HasInvalidFilenameChars(text)) {
+    context_.messages.Notify(texts::kInvalidFilenameChars);
+    return false;
+  }
+  return true;
+}
+
+// The extension guard, then the tokens. Both results are written back into
+// the box, so after a failure the user sees the name that was tried.
+QString IndividualRename::ComposeName(const QString& text) {
+  const QString guarded = AppendMissingExtension(text, context_.session.SelectedExt,
+                                                 context_.settings.forceLowerCaseExtension);
+  const QString expanded = ExpandIndividualTokens(guarded, [this](Token token) { return TokenValue(token); });
+  if (expanded != text) context_.view.SetNewNameText(expanded);
+  return expanded;
+}
+
+QString IndividualRename::TokenValue(Token token) {
+  const RenameSession& session = context_.session;
+  switch (token) {
+    case Token::OrigFn:
+      return CutExtension(session.SelectedFileName.Display(), session.SelectedExt);
+    case Token::Series: {
+      ViewSeriesBox box(context_.view);
+      context_.session.SeriesUsed = true;
+      return SeriesCounter(box, context_.settings).TakeSeriesText();
+    }
+    default:
+      return context_.tokens.ExifValue(session.CurrentFolder, session.SelectedFileName, token);
+  }
+}
+
+bool IndividualRename::CarryOut(const QString& newName) {
+  const RenameSession& session = context_.session;
+  const platform::FileName& oldName = session.SelectedFileName;
+  FileRenamer renamer(context_, session.CurrentFolder, {oldName});
+  // A change of letter case alone is renamed without asking.
+  const bool caseOnly = newName.compare(oldName.Display(), Qt::CaseInsensitive) == 0;
+  const bool targetKnown = !caseOnly && context_.fs.Exists(session.CurrentFolder + newName.toUtf8());
+  const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(oldName, newName, targetKnown);
+  switch (outcome.kind) {
+    case OverwriteOutcome::Kind::Renamed:
+      return true;
+    case OverwriteOutcome::Kind::Declined:
+    case OverwriteOutcome::Kind::Cancelled:
+      if (session.SeriesUsed) {
+        ViewSeriesBox box(context_.view);
+        SeriesCounter(box, context_.settings).StepBackSeries();
+      }
+      return false;
+    case OverwriteOutcome::Kind::Failed:
+      ReportFailure(outcome, newName);
+      return false;
+  }
+  return false;
+}
+
+void IndividualRename::ReportFailure(const OverwriteOutcome& outcome, const QString& newName) {
+  if (outcome.failureShown) return;
+  QString text = IndividualRenameFailureText(outcome.error, platform::ErrorDescription(outcome.error));
+  if (outcome.targetDeleted) {
+    text += texts::kCr +
+            texts::kTargetDeletedRenameFailed.arg(newName, context_.session.SelectedFileName.Display());
+  }
+  context_.messages.Notify(text, platform::MessageIcon::Critical);
+}
+
+void IndividualRename::ShowRenamedFile(const QString& newName) {
+  RenameView& view = context_.view;
+  view.ResetPreview(QString());
+  view.SetSelectionLabel(texts::kNoFileSelectedLabelAfterRename);
+  view.SetNewNameText(QString());
+  view.RefreshFileList();
+  context_.session.SelectedFileName = platform::FileName{};
+  view.SelectFileNamed(newName);
+  if (context_.settings.autoPreview) {
+    view.PreviewSelected();
+  } else {
+    view.ResetPreview(texts::kAutoPreviewDisabledAfterRename);
+  }
+}
+
+void IndividualRename::RevertNewName() {
+  const RenameSession& session = context_.session;
+  if (session.SelectedFileName.raw.isEmpty()) {
+    context_.messages.Notify(texts::kNoFileIsSelected);
+    return;
+  }
+  context_.view.SetNewNameText(ApplyForcedExtensionCase(session.SelectedFileName.Display(),
+                                                        context_.settings.forceLowerCaseExtension));
+}
+
+void IndividualRename::ClearNewName() { context_.view.SetNewNameText(QString()); }
+
+}  // namespace renvale::core

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include "core/TokenExpansion.h"
+#include "platform/FileName.h"
+
+namespace renvale::core {
+
+// The four ID3v1 values a name can use. A file without a tag, or with an
+// empty field, has the placeholder words ("Title", ...) instead.
+struct Id3Values {
+  QString title;
+  QString artist;
+  QString album;
+  QString track;
+};
+
+// Where the renames get the values that live inside files: the picture's
+// exposure date and serial number, and a song's ID3 tag. The window
+// implements it over the EXIF and ID3 readers; tests use fixed values.
+// Calls come once per token and file, so an implementation that reads the
+// EXIF block once per file may keep the last file's values.
+class TokenSource {
+ public:
+  virtual ~TokenSource() = default;
+
+  // The text for Token::Date, Token::Time, Token::DateTime or Token::Serial
+  // of `file` in `folder`, formatted with the user's date and time patterns.
+  // A reader failure is shown by the implementation ("EXIF Error: ...") and
+  // gives an empty text, as does any other token.
+  virtual QString ExifValue(const QByteArray& folder, const platform::FileName& file, Token token) = 0;
+
+  // The ID3 values of an ".mp3" file.
+  virtual Id3Values Id3(const QByteArray& folder, const platform::FileName& file) = 0;
+};
+
+}  // namespace renvale::core

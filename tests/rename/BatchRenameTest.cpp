@@ -1,0 +1,172 @@
+#include "core/BatchRename.h"
+
+#include <QSet>
+
+#include "RenameFixture.h"
+#include "core/BatchBaseCheck.h"
+#include "core/CoreTexts.h"
+#include "core/RenameFailureTexts.h"
+
+namespace renvale::test {
+namespace {
+
+using platform::MessageAnswer;
+using Files = std::map<QByteArray, QByteArray>;
+
+class BatchRenameTest : public RenameFixture {
+ protected:
+  void Batch(const QString& base) {
+    view.newName = base;
+    core::BatchRename(context).StartBatchRename();
+  }
+  void MakeAbc() {
+    Make({"a.jpg", "b.JPG", "c.png"});
+    Select({"a.jpg", "b.JPG", "c.png"});
+  }
+};
+
+TEST_F(BatchRenameTest, HolidaySeries) {
+  for (const bool autoReset : {false, true}) {
+    for (const auto& [name, contents] : Folder()) platform::RealFileSystem().RemoveFile(Path(name));
+    MakeAbc();
+    settings.placeholders = 3;
+    settings.autoResetSeries = autoReset;
+    view.series = "7";
+    Batch("Holiday %SERIES%");
+    EXPECT_TRUE(port.messages.empty());
+    EXPECT_EQ(Folder(), (Files{{"Holiday 007.jpg", "a.jpg"}, {"Holiday 008.JPG", "b.JPG"},
+                               {"Holiday 009.png", "c.png"}}));
+    EXPECT_EQ(view.series, autoReset ? "001" : "010");
+  }
+}
+
+TEST_F(BatchRenameTest, RandomSeriesUsesEachNumberOnce) {
+  MakeAbc();
+  view.random = true;
+  settings.placeholders = 0;
+  view.series = "7";
+  Batch("R%SERIES%");
+  QSet<QByteArray> numbers;
+  for (const auto& [name, contents] : Folder()) numbers.insert(name.mid(1, 1));
+  EXPECT_EQ(numbers, (QSet<QByteArray>{"7", "8", "9"}));
+}
+
+TEST_F(BatchRenameTest, BaseChecksComeBeforeAnyFile) {
+  struct Case { const char* base; core::BatchBaseIssue issue; };
+  const Case cases[] = {
+      {"A.JPG", core::BatchBaseIssue::NoBaseName},
+      {"", core::BatchBaseIssue::EmptyBase},
+      {"x|y", core::BatchBaseIssue::InvalidCharacters},
+      {"Trip %DATE%", core::BatchBaseIssue::NoTimeOrSeries},
+      {"Trip %TIME%", core::BatchBaseIssue::TimeWithoutSeconds},
+  };
+  settings.exifTime = "hh-mm";
+  Make({"a.JPG", "b.JPG"});
+  Select({"a.JPG", "b.JPG"});
+  for (const Case& c : cases) {
+    port.Clear();
+    port.Script(MessageAnswer::No);
+    Batch(c.base);
+    const core::BatchBaseVerdict verdict = core::CheckBatchBase(c.base, "a.JPG", "hh-mm");
+    ASSERT_EQ(verdict.issue, c.issue);
+    EXPECT_EQ(port.Texts(), QStringList{verdict.text});
+    EXPECT_EQ(port.Last().buttons, verdict.IsQuestion() ? platform::MessageButtons::YesNo : platform::MessageButtons::Ok);
+    EXPECT_EQ(Folder(), (Files{{"a.JPG", "a.JPG"}, {"b.JPG", "b.JPG"}}));
+    EXPECT_TRUE(view.tips.empty());
+  }
+  port.Clear();
+  port.Script(MessageAnswer::Yes);  // go on despite the warning...
+  port.Script(MessageAnswer::No);   // ...and the duplicate it warned of is asked about
+  Batch("Trip %DATE%");
+  EXPECT_EQ(view.tips, std::vector<int>{15});
+  EXPECT_EQ(port.messages.size(), 2u);
+  EXPECT_EQ(Folder(), (Files{{"Trip 2004-05-01.JPG", "a.JPG"}, {"b.JPG", "b.JPG"}}));
+}
+
+TEST_F(BatchRenameTest, TokensPerFileInTheirOrder) {
+  Make({"s.mp3", "t.jpg", "u.JPG"});
+  Select({"s.mp3", "t.jpg", "u.JPG"});
+  tokens.id3["s.mp3"] = core::Id3Values{"Song", "Band", "Disc", "07"};
+  tokens.serials["t.jpg"] = "123";
+  Batch("%TRACK% %title% %SERIAL% %serial% %ORIGFN%");
+  EXPECT_EQ(Folder(), (Files{{"07 Song  %serial% s.mp3", "s.mp3"}, {"07 Song 123 %serial% t.jpg", "t.jpg"},
+                             {"07 Song  %serial% u.JPG", "u.JPG"}}));
+  EXPECT_EQ(tokens.id3Reads, 1);  // only the ".mp3" is read; the others keep its values
+}
+
+TEST_F(BatchRenameTest, UnchangedNamesArePassedOverSilently) {
+  MakeAbc();
+  Batch("%ORIGFN%");
+  EXPECT_TRUE(port.messages.empty());
+  EXPECT_EQ(Folder().size(), 3u);
+  EXPECT_EQ(view.reselected, "");
+}
+
+TEST_F(BatchRenameTest, ExistingTargets) {
+  struct Case { MessageAnswer answer; Files after; const char* series; const char* reselected; };
+  const Case cases[] = {
+      {MessageAnswer::No, {{"2.jpg", "2.jpg"}, {"a.jpg", "a.jpg"}, {"3.jpg", "b.jpg"}, {"4.jpg", "c.jpg"}}, "5", "4.jpg"},
+      {MessageAnswer::Cancel, {{"2.jpg", "2.jpg"}, {"a.jpg", "a.jpg"}, {"b.jpg", "b.jpg"}, {"c.jpg", "c.jpg"}}, "2", ""},
+      {MessageAnswer::Yes, {{"2.jpg", "a.jpg"}, {"3.jpg", "b.jpg"}, {"4.jpg", "c.jpg"}}, "5", "4.jpg"},
+  };
+  settings.placeholders = 0;
+  for (const Case& c : cases) {
+    for (const auto& [name, contents] : Folder()) platform::RealFileSystem().RemoveFile(Path(name));
+    Make({"2.jpg", "a.jpg", "b.jpg", "c.jpg"});
+    Select({"a.jpg", "b.jpg", "c.jpg"});
+    view.series = "2";
+    view.reselected.clear();
+    port.Clear();
+    port.Script(c.answer);
+    Batch("%SERIES%");
+    EXPECT_EQ(port.Texts(), QStringList{"Overwrite file: '2.jpg'?\nOverwriting an existing file will cause that file to be lost!"});
+    EXPECT_EQ(Folder(), c.after);
+    EXPECT_EQ(view.series, c.series);
+    EXPECT_EQ(view.reselected, c.reselected);
+  }
+}
+
+TEST_F(BatchRenameTest, EveryFailureEndsTheBatch) {
+  for (const int error : {70, 75, 1028}) {
+    for (const auto& [name, contents] : Folder()) platform::RealFileSystem().RemoveFile(Path(name));
+    MakeAbc();
+    fs.ClearFaults();
+    fs.FailRename(Path("b.JPG"), error);
+    port.Clear();
+    view.series = "1";
+    Batch("N%SERIES%");
+    EXPECT_EQ(port.Texts(), QStringList{core::BatchRenameFailureText(error)});
+    EXPECT_EQ(port.Last().icon, platform::MessageIcon::Critical);
+    EXPECT_EQ(Folder(), (Files{{"N01.jpg", "a.jpg"}, {"b.JPG", "b.JPG"}, {"c.png", "c.png"}}));
+  }
+  Make({"N01.png"});
+  fs.ClearFaults();
+  fs.FailRemove(Path("N01.png"), 70);
+  Select({"c.png"});
+  port.Clear();
+  view.series = "1";
+  Batch("N%SERIES%");
+  EXPECT_EQ(port.Texts(), (QStringList{core::OverwriteQuestionText("N01.png"), core::OverwriteFailureText(70)}));
+}
+
+TEST_F(BatchRenameTest, WindowDuringAndAfterTheBatch) {
+  MakeAbc();
+  settings.autoPreview = false;
+  view.onEvents = [&] { core::BatchRename(context).StartBatchRename(); };  // Enter pressed again
+  Batch("%SERIES%");
+  EXPECT_EQ(Folder().size(), 3u);
+  EXPECT_TRUE(view.busyInEvents);
+  EXPECT_FALSE(session.Busy);
+  EXPECT_LE(view.events, 4);
+  EXPECT_EQ(view.progress, (std::vector<int>{0, 33, 66, 100}));
+  EXPECT_FALSE(view.progressVisible);
+  EXPECT_EQ(view.labels, (QStringList{"Processing files.  Please wait.......", "( No File Selected )"}));
+  EXPECT_EQ(view.refreshes, 1);
+  EXPECT_EQ(view.leftBatch, 1);
+  EXPECT_EQ(view.newName, "");
+  EXPECT_EQ(view.reselected, "03.png");
+  EXPECT_EQ(view.previewCaptions.back(), "Auto-Preview is disabled.  See 'Options' menu.");
+}
+
+}  // namespace
+}  // namespace renvale::test

@@ -1,0 +1,102 @@
+#include "core/FileSetFinder.h"
+
+#include "RenameFixture.h"
+#include "core/BatchRename.h"
+#include "core/CoreTexts.h"
+#include "core/IndividualRename.h"
+
+namespace renvale::test {
+namespace {
+
+using Files = std::map<QByteArray, QByteArray>;
+using Pairs = std::vector<core::NamePair>;
+
+std::vector<platform::FileName> Names(std::initializer_list<const char*> names) {
+  std::vector<platform::FileName> files;
+  for (const char* name : names) files.push_back(platform::FileName{name});
+  return files;
+}
+
+TEST(FileSetFinder, FindsCompanionsByTheirRules) {
+  const core::FolderIndex index(std::vector<QByteArray>{
+      "A.CRW", "A.THM", "A.xmp", "B.CR2", "B.CR2.XMP", "B.XMP", "C.jpg", "C.THM", "N", "N.xmp", "D.xmp"});
+  const core::FileSetFinder finder(index, Names({"A.CRW", "A.THM", "B.CR2", "C.jpg", "C.THM", "N", "D.xmp"}));
+  struct Case { const char* head; const char* newHead; Pairs companions; };
+  const Case cases[] = {
+      {"A.CRW", "x.crw", {{"A.THM", "x.THM"}, {"A.xmp", "x.xmp"}}},
+      {"B.CR2", "y.CR2", {{"B.CR2.XMP", "y.CR2.XMP"}, {"B.XMP", "y.XMP"}}},
+      {"C.jpg", "z.jpg", {}},   // a THM goes only with a CRW
+      {"C.THM", "z.THM", {}},   // and takes no sidecar itself
+      {"N", "M", {{"N.xmp", "M.xmp"}}},
+      {"D.xmp", "E.xmp", {}},   // a sidecar renamed on its own goes alone
+      {"A.CRW", "a.CRW", {{"A.THM", "a.THM"}, {"A.xmp", "a.xmp"}}},
+  };
+  for (const Case& c : cases) EXPECT_EQ(finder.Companions(c.head, c.newHead), c.companions) << c.head;
+
+  for (const char* travels : {"A.THM", "a.thm", "B.CR2.XMP", "B.xmp", "N.xmp", "C.xmp"}) {
+    EXPECT_TRUE(finder.TravelsWithSelectedHead(travels)) << travels;
+  }
+  for (const char* alone : {"A.CRW", "C.THM", "D.xmp", "C.jpg", "Q.xmp", "C.THM.xmp"}) {
+    EXPECT_FALSE(finder.TravelsWithSelectedHead(alone)) << alone;
+  }
+}
+
+class FileSetTest : public RenameFixture {
+ protected:
+  void Batch(const QString& base) {
+    view.newName = base;
+    core::BatchRename(context).StartBatchRename();
+  }
+};
+
+TEST_F(FileSetTest, PictureTakesItsSidecarsInIndividualMode) {
+  Make({"IMG_1.CR2", "IMG_1.XMP", "IMG_1.CR2.xmp", "IMG_1.THM"});
+  Select({"IMG_1.CR2"});
+  view.newName = "Trip";
+  core::IndividualRename(context).RenameSelectedFile();
+  EXPECT_TRUE(port.messages.empty());
+  EXPECT_EQ(Folder(), (Files{{"Trip.CR2", "IMG_1.CR2"}, {"Trip.XMP", "IMG_1.XMP"},
+                             {"Trip.CR2.xmp", "IMG_1.CR2.xmp"}, {"IMG_1.THM", "IMG_1.THM"}}));
+}
+
+TEST_F(FileSetTest, BatchPassesOverCompanionEntriesWhateverTheirPlace) {
+  Make({"A.CRW", "A.THM", "B.jpg", "B.xmp", "C.jpg"});
+  Select({"B.xmp", "A.CRW", "A.THM", "B.jpg", "C.jpg"});  // the sidecar listed before its picture
+  settings.placeholders = 2;
+  Batch("Set %SERIES%");
+  EXPECT_TRUE(port.messages.empty());
+  EXPECT_EQ(Folder(), (Files{{"Set 01.CRW", "A.CRW"}, {"Set 01.THM", "A.THM"}, {"Set 02.jpg", "B.jpg"},
+                             {"Set 02.xmp", "B.xmp"}, {"Set 03.jpg", "C.jpg"}}));
+  EXPECT_EQ(view.series, "04");
+}
+
+TEST_F(FileSetTest, FailingCompanionPutsTheSetBack) {
+  Make({"A.CRW", "A.THM", "A.xmp", "B.jpg"});
+  Select({"A.CRW", "A.THM", "B.jpg"});
+  fs.FailRename(Path("A.xmp"), 75);
+  Batch("Set %SERIES%");
+  ASSERT_EQ(port.messages.size(), 1u);  // the set's own report, no second one from the batch
+  EXPECT_EQ(port.Last().title, "File Set - Renaming Error");
+  EXPECT_EQ(port.Last().icon, platform::MessageIcon::Critical);
+  EXPECT_EQ(port.Last().text, "The file set of 'A.CRW' could not be renamed to 'Set 01.CRW'.\r"
+                              "'A.xmp' could not be renamed to 'Set 01.xmp': Read-only file system\r"
+                              "All files of the set have kept their old names.\r"
+                              "File renaming operation cancelled.");
+  EXPECT_EQ(Folder(), (Files{{"A.CRW", "A.CRW"}, {"A.THM", "A.THM"}, {"A.xmp", "A.xmp"}, {"B.jpg", "B.jpg"}}));
+  EXPECT_EQ(view.reselected, "");
+}
+
+TEST_F(FileSetTest, TakenCompanionNameStopsTheSetBeforeAnythingIsDeleted) {
+  Make({"A.jpg", "A.xmp", "T.jpg", "T.xmp"});
+  Select({"A.jpg"});
+  view.newName = "T";
+  core::IndividualRename(context).RenameSelectedFile();  // Yes to overwriting T.jpg
+  ASSERT_EQ(port.messages.size(), 2u);
+  EXPECT_EQ(port.messages[0].title, core::texts::kOverwriteTitle);
+  EXPECT_EQ(port.Last().title, "File Set - Renaming Error");
+  EXPECT_TRUE(port.Last().text.contains("'A.xmp' cannot be renamed to 'T.xmp', because a file of that name already exists."));
+  EXPECT_EQ(Folder().size(), 4u);
+}
+
+}  // namespace
+}  // namespace renvale::test
