@@ -28,8 +28,8 @@ int RunLength(const QString& s, qsizetype at, QChar letter) {
   return n;
 }
 
-bool StartsWithNoCase(const QString& s, qsizetype at, const QString& word) {
-  return s.mid(at, word.size()).compare(word, Qt::CaseInsensitive) == 0;
+bool StartsWithNoCase(const QString& s, qsizetype at, QLatin1StringView word) {
+  return QStringView(s).mid(at).startsWith(word, Qt::CaseInsensitive);
 }
 
 // Takes the longest code of a run of one letter; returns the letters used.
@@ -63,41 +63,41 @@ int TakeRun(QChar letter, int run, Code* code) {
   }
 }
 
-void AddLiteral(std::vector<Piece>* pieces, const QString& text) {
+void AddLiteral(std::vector<Piece>* pieces, QStringView text) {
   if (!pieces->empty() && pieces->back().code == Code::Literal) {
     pieces->back().text += text;
   } else {
-    pieces->push_back({Code::Literal, text});
+    pieces->push_back({Code::Literal, text.toString()});
   }
 }
 
 // Quoted text and backslash escapes; returns the characters consumed, 0 if none.
 qsizetype TakeEscape(const QString& s, qsizetype i, std::vector<Piece>* pieces) {
   if (s[i] == u'\\') {
-    if (i + 1 < s.size()) AddLiteral(pieces, s.mid(i + 1, 1));
+    if (i + 1 < s.size()) AddLiteral(pieces, QStringView(s).mid(i + 1, 1));
     return i + 1 < s.size() ? 2 : 1;
   }
   if (s[i] != u'"') return 0;
   const qsizetype close = s.indexOf(u'"', i + 1);
   const qsizetype end = close < 0 ? s.size() : close;
-  AddLiteral(pieces, s.mid(i + 1, end - i - 1));
+  AddLiteral(pieces, QStringView(s).mid(i + 1, end - i - 1));
   return end - i + (close < 0 ? 0 : 1);
 }
 
 qsizetype TakeMarker(const QString& s, qsizetype i, std::vector<Piece>* pieces) {
-  if (StartsWithNoCase(s, i, QStringLiteral("AM/PM"))) {
+  if (StartsWithNoCase(s, i, QLatin1StringView("AM/PM"))) {
     pieces->push_back({Code::AmPm, s.mid(i, 5)});
     return 5;
   }
-  if (StartsWithNoCase(s, i, QStringLiteral("A/P"))) {
+  if (StartsWithNoCase(s, i, QLatin1StringView("A/P"))) {
     pieces->push_back({Code::AP, s.mid(i, 3)});
     return 3;
   }
-  if (StartsWithNoCase(s, i, QStringLiteral("AMPM"))) {
+  if (StartsWithNoCase(s, i, QLatin1StringView("AMPM"))) {
     pieces->push_back({Code::AmPmLocale, {}});
     return 4;
   }
-  if (StartsWithNoCase(s, i, QStringLiteral("ttttt"))) {
+  if (StartsWithNoCase(s, i, QLatin1StringView("ttttt"))) {
     pieces->push_back({Code::LongTime, {}});
     return 5;
   }
@@ -106,6 +106,7 @@ qsizetype TakeMarker(const QString& s, qsizetype i, std::vector<Piece>* pieces) 
 
 std::vector<Piece> Parse(const QString& s) {
   std::vector<Piece> pieces;
+  pieces.reserve(s.size());
   qsizetype i = 0;
   while (i < s.size()) {
     qsizetype used = TakeEscape(s, i, &pieces);
@@ -117,7 +118,7 @@ std::vector<Piece> Parse(const QString& s) {
       if (used > 0) pieces.push_back({code, {}});
     }
     if (used == 0) {
-      AddLiteral(&pieces, s.mid(i, 1));
+      AddLiteral(&pieces, QStringView(s).mid(i, 1));
       used = 1;
     }
     i += used;
