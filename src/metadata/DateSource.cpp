@@ -5,6 +5,7 @@
 #include "metadata/ExifDateTime.h"
 #include "metadata/FileDates.h"
 #include "metadata/HeadScan.h"
+#include "metadata/MetadataTexts.h"
 #include "platform/FileName.h"
 #include "platform/FileSystem.h"
 
@@ -18,8 +19,8 @@ constexpr qsizetype kExtensionLength = 4;
 QByteArray ThmCompanionName(platform::FileSystem& fs, const QByteArray& folder,
                             const QByteArray& rawName) {
   if (rawName.size() < kExtensionLength) return rawName;
-  if (rawName.right(kExtensionLength).toLower() != ".crw") return rawName;
-  const QByteArray partner = rawName.left(rawName.size() - kExtensionLength) + ".thm";
+  if (rawName.right(kExtensionLength).toLower() != texts::kCrwExtension) return rawName;
+  const QByteArray partner = rawName.left(rawName.size() - kExtensionLength) + texts::kThmExtension;
   return fs.Exists(platform::JoinPath(folder, partner)) ? partner : rawName;
 }
 

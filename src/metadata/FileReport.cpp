@@ -58,21 +58,21 @@ QStringList FileSetNotes() { return {kNoteFileSet, kNoteRandomSeries}; }
 
 QStringList ScanFoundLines(const MissingExifFacts& f, const QString& ext) {
   const QStringList dateLines{kDateOnly, kExposureDateTime + f.scan};
-  if (ext == u"crw") {
+  if (ext == kCrwEnding) {
     return QStringList{f.name + kCrwIntro, kCrwSource, kThmFound, kExposureDateTime + f.scan} +
            FileSetNotes();
   }
-  if (ext == u"thm") {
+  if (ext == kThmEnding) {
     return QStringList{f.name + kThmIntro, kThmSource, kExposureDateTime + f.scan} +
            FileSetNotes();
   }
-  if (ext == u"cr2") return QStringList{f.name + kCr2Intro} + dateLines;
-  if (ext == u"jpg" || ext == u"tif") return QStringList{f.name + kPartialExif} + dateLines;
+  if (ext == kCr2Ending) return QStringList{f.name + kCr2Intro} + dateLines;
+  if (ext == kJpgEnding || ext == kTifEnding) return QStringList{f.name + kPartialExif} + dateLines;
   return QStringList{f.name + kProprietaryRaw} + dateLines;
 }
 
 QStringList ScanEmptyLines(const MissingExifFacts& f, const QString& ext) {
-  if (ext == u"crw") {
+  if (ext == kCrwEnding) {
     return QStringList{f.name + kCrwIntro, kCrwSource, kThmNotFound} + FileSetNotes();
   }
   return {f.name + kNoExif, kNoExifFallback, kCreatedDateTime + f.created,
@@ -89,7 +89,7 @@ QString BuildGeneralInfo(platform::FileSystem& fs, const QByteArray& path) {
       kFileSize + KilobytesText(size) + kKilobytes + MegabytesText(size) + kMegabytes,
       kCreatedOn + FileCreatedText(fs, path), kModifiedOn + FileModifiedText(fs, path),
       known && platform::AttributeLettersOf(info).contains(u'R') ? kReadOnlyYes : kReadOnlyNo};
-  if (path.toLower().endsWith(".mp3")) lines += Id3Lines(fs, path);
+  if (path.toLower().endsWith(kMp3Extension)) lines += Id3Lines(fs, path);
   return Lines(lines, kGeneralLineEnd);
 }
 

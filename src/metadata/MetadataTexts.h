@@ -21,6 +21,18 @@ inline const QString kSerialMissingSingle = QStringLiteral(
     "number.  It is recommended that you use a Series # instead when renaming this file.");
 inline const QString kSelectFileFirst = QStringLiteral("Please select a file first.");
 
+// File name endings, compared in lower case. File names are bytes, so the
+// full extensions are byte texts; the report compares the last three
+// letters of the shown name.
+inline constexpr char kCrwExtension[] = ".crw";
+inline constexpr char kThmExtension[] = ".thm";
+inline constexpr char kMp3Extension[] = ".mp3";
+inline const QString kCrwEnding = QStringLiteral("crw");
+inline const QString kThmEnding = QStringLiteral("thm");
+inline const QString kCr2Ending = QStringLiteral("cr2");
+inline const QString kJpgEnding = QStringLiteral("jpg");
+inline const QString kTifEnding = QStringLiteral("tif");
+
 // EXIF tokens of file names.
 inline const QString kTokenDate = QStringLiteral("%DATE%");
 inline const QString kTokenTime = QStringLiteral("%TIME%");
