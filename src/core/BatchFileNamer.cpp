@@ -11,9 +11,10 @@ const QString kMp3 = QStringLiteral(".mp3");
 
 }  // namespace
 
-BatchFileNamer::BatchFileNamer(const RenameContext& context, const QString& base,
-                               std::optional<int> randomCount, RandomSeriesPool::RandomSource random)
-    : context_(context), base_(base), box_(context.view), counter_(box_, context.settings) {
+BatchFileNamer::BatchFileNamer(const RenameContext& context, const QByteArray& folder,
+                               const QString& base, std::optional<int> randomCount,
+                               RandomSeriesPool::RandomSource random)
+    : context_(context), folder_(folder), base_(base), box_(context.view), counter_(box_, context.settings) {
   if (randomCount) {
     pool_.emplace(ReadSeriesNumber(box_.Text()), *randomCount, std::move(random));
   }
@@ -26,7 +27,7 @@ QString BatchFileNamer::Unexpanded(const platform::FileName& file) const {
 QString BatchFileNamer::Expand(const platform::FileName& file, const QString& unexpanded) {
   seriesTaken_ = false;
   if (SplitFileName(file.Display(), false).extension.toLower() == kMp3) {
-    id3_ = context_.tokens.Id3(context_.session.CurrentFolder, file);
+    id3_ = context_.tokens.Id3(folder_, file);
   }
   return ExpandBatchTokens(unexpanded, [&](Token token) { return TokenValue(file, token); });
 }
@@ -39,7 +40,7 @@ QString BatchFileNamer::TokenValue(const platform::FileName& file, Token token) 
     case Token::Track: return id3_.track;
     case Token::OrigFn: return SplitFileName(file.Display(), false).base;
     case Token::Series: return NextSeriesText();
-    default: return context_.tokens.ExifValue(context_.session.CurrentFolder, file, token);
+    default: return context_.tokens.ExifValue(folder_, file, token);
   }
 }
 

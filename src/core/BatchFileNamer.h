@@ -15,10 +15,11 @@ namespace renvale::core {
 // batch's fixed order, one series number per file that uses one.
 class BatchFileNamer {
  public:
-  // `base` has no extension. With `randomCount` set, the numbers v .. v +
+  // Names the files of `folder`; `base` has no extension. With `randomCount` set, the numbers v .. v +
   // randomCount - 1 (v read from "Next Series #:") are handed out once each
   // in a random order instead of counting up.
-  BatchFileNamer(const RenameContext& context, const QString& base, std::optional<int> randomCount,
+  BatchFileNamer(const RenameContext& context, const QByteArray& folder, const QString& base,
+                 std::optional<int> randomCount,
                  RandomSeriesPool::RandomSource random = RandomSeriesPool::TimeSeededSource());
 
   // The base followed by the file's extension, tokens still in it.
@@ -36,6 +37,7 @@ class BatchFileNamer {
   QString NextSeriesText();
 
   const RenameContext& context_;
+  QByteArray folder_;
   QString base_;
   ViewSeriesBox box_;
   SeriesCounter counter_;

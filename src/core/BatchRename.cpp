@@ -83,10 +83,12 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, QString* lastNew
   shownPercent_ = -1;
   view.ShowProgress(true);
   const std::vector<platform::FileName> files = view.SelectedFiles();
+  // The folder is held for the whole batch: events that run meanwhile may
+  // change the window's current folder, never the files being renamed.
   FileRenamer renamer(context_, context_.session.CurrentFolder, files);
   std::optional<int> randomCount;
   if (view.RandomSeries()) randomCount = NumberedFiles(files, renamer);
-  BatchFileNamer namer(context_, base, randomCount);
+  BatchFileNamer namer(context_, renamer.Folder(), base, randomCount);
   for (size_t i = 0; i < files.size(); ++i) {
     ShowProgress(i, files.size());
     if (renamer.Sets().TravelsWithSelectedHead(files[i].raw)) continue;

@@ -41,6 +41,7 @@ class FileRenamer {
   // in letter case are one entry, one file.
   bool HasSeparateEntries(const QByteArray& a, const QByteArray& b);
 
+  const QByteArray& Folder() const { return folder_; }
   const FolderIndex& Index() const { return index_; }
   const FileSetFinder& Sets() const { return finder_; }
 

@@ -23,17 +23,20 @@ void IndividualRename::RenameSelectedFile() {
   context_.view.ShowQuickTip(kRenameDoneTip);
   const QString text = context_.view.NewNameText();
   if (!NameCanBeUsed(text)) return;
+  folder_ = context_.session.CurrentFolder;
+  file_ = context_.session.SelectedFileName;
+  extension_ = context_.session.SelectedExt;
   context_.session.SeriesUsed = false;
   const QString newName = ComposeName(text);
   context_.view.ProcessEvents();
-  if (newName == context_.session.SelectedFileName.Display()) {
+  if (newName == file_.Display()) {
     context_.messages.Notify(texts::kSameAsOriginal);
     return;
   }
   if (CarryOut(newName)) ShowRenamedFile(newName);
 }
 
-bool IndividualRename::NameCanBeUsed(const QString& text) {
+bool IndividualRename::NameCanBeUsed(const QString& text) const {
   if (context_.session.SelectedFileName.raw.isEmpty()) {
     context_.messages.Notify(texts::kPleaseSelectFileFirst);
     return false;
@@ -52,7 +55,7 @@ bool IndividualRename::NameCanBeUsed(const QString& text) {
 // The extension guard, then the tokens. Both results are written back into
 // the box, so after a failure the user sees the name that was tried.
 QString IndividualRename::ComposeName(const QString& text) {
-  const QString guarded = AppendMissingExtension(text, context_.session.SelectedExt,
+  const QString guarded = AppendMissingExtension(text, extension_,
                                                  context_.settings.forceLowerCaseExtension);
   const QString expanded = ExpandIndividualTokens(guarded, [this](Token token) { return TokenValue(token); });
   if (expanded != text) context_.view.SetNewNameText(expanded);
@@ -60,34 +63,31 @@ QString IndividualRename::ComposeName(const QString& text) {
 }
 
 QString IndividualRename::TokenValue(Token token) {
-  const RenameSession& session = context_.session;
   switch (token) {
     case Token::OrigFn:
-      return CutExtension(session.SelectedFileName.Display(), session.SelectedExt);
+      return CutExtension(file_.Display(), extension_);
     case Token::Series: {
       ViewSeriesBox box(context_.view);
       context_.session.SeriesUsed = true;
       return SeriesCounter(box, context_.settings).TakeSeriesText();
     }
     default:
-      return context_.tokens.ExifValue(session.CurrentFolder, session.SelectedFileName, token);
+      return context_.tokens.ExifValue(folder_, file_, token);
   }
 }
 
 bool IndividualRename::CarryOut(const QString& newName) {
-  const RenameSession& session = context_.session;
-  const platform::FileName& oldName = session.SelectedFileName;
-  FileRenamer renamer(context_, session.CurrentFolder, {oldName});
+  FileRenamer renamer(context_, folder_, {file_});
   // A change of letter case alone is renamed without asking.
-  const bool caseOnly = newName.compare(oldName.Display(), Qt::CaseInsensitive) == 0;
-  const bool targetKnown = !caseOnly && context_.fs.Exists(session.CurrentFolder + newName.toUtf8());
-  const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(oldName, newName, targetKnown);
+  const bool caseOnly = newName.compare(file_.Display(), Qt::CaseInsensitive) == 0;
+  const bool targetKnown = !caseOnly && context_.fs.Exists(folder_ + newName.toUtf8());
+  const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(file_, newName, targetKnown);
   switch (outcome.kind) {
     case OverwriteOutcome::Kind::Renamed:
       return true;
     case OverwriteOutcome::Kind::Declined:
     case OverwriteOutcome::Kind::Cancelled:
-      if (session.SeriesUsed) {
+      if (context_.session.SeriesUsed) {
         ViewSeriesBox box(context_.view);
         SeriesCounter(box, context_.settings).StepBackSeries();
       }
@@ -104,7 +104,7 @@ void IndividualRename::ReportFailure(const OverwriteOutcome& outcome, const QStr
   QString text = IndividualRenameFailureText(outcome.error, platform::ErrorDescription(outcome.error));
   if (outcome.targetDeleted) {
     text += texts::kCr +
-            texts::kTargetDeletedRenameFailed.arg(newName, context_.session.SelectedFileName.Display());
+            texts::kTargetDeletedRenameFailed.arg(newName, file_.Display());
   }
   context_.messages.Notify(text, platform::MessageIcon::Critical);
 }

@@ -24,7 +24,7 @@ class IndividualRename {
   void ClearNewName();
 
  private:
-  bool NameCanBeUsed(const QString& text);
+  bool NameCanBeUsed(const QString& text) const;
   QString ComposeName(const QString& text);
   QString TokenValue(Token token);
   bool CarryOut(const QString& newName);
@@ -32,6 +32,11 @@ class IndividualRename {
   void ShowRenamedFile(const QString& newName);
 
   const RenameContext& context_;
+  // The file being renamed, held from the start: window events that run
+  // during the rename may change the selection, never the file renamed.
+  QByteArray folder_;
+  platform::FileName file_;
+  QString extension_;
 };
 
 }  // namespace renvale::core

@@ -52,7 +52,7 @@ OverwriteOutcome OverwritingRename::AskAndReplace(const platform::FileName& oldN
 }
 
 int OverwritingRename::DeleteTarget(const QByteArray& newName) {
-  const int error = context_.fs.RemoveFile(context_.session.CurrentFolder + newName);
+  const int error = context_.fs.RemoveFile(renamer_.Folder() + newName);
   if (error == 0) {
     renamer_.Forget(newName);
   } else {
@@ -62,7 +62,7 @@ int OverwritingRename::DeleteTarget(const QByteArray& newName) {
 }
 
 OverwriteOutcome OverwritingRename::Rename(const platform::FileName& oldName, const QByteArray& newName) {
-  const QByteArray& folder = context_.session.CurrentFolder;
+  const QByteArray& folder = renamer_.Folder();
   const int error = renamer_.RenameFile(folder + oldName.raw, folder + newName);
   if (error == 0) return OverwriteOutcome{};
   return Failed(error, renamer_.FailureShown());
