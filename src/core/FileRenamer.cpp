@@ -1,5 +1,8 @@
 #include "core/FileRenamer.h"
 
+#include <cerrno>
+
+#include "platform/ErrorNumbers.h"
 #include "platform/PathParts.h"
 
 namespace renvale::core {
@@ -18,8 +21,10 @@ bool FileRenamer::InFolder(const QByteArray& path) const {
 
 int FileRenamer::RenameFile(const QByteArray& oldPath, const QByteArray& newPath) {
   failureShown_ = false;
+  // A value put into a name can hold a slash ("AC/DC" from a song's tag);
+  // the file must not slip into a sub-folder of that name.
+  if (!InFolder(oldPath) || !InFolder(newPath)) return platform::ErrorNumberFromErrno(EINVAL);
   ReleasePreviewIfHeld(oldPath);
-  if (!InFolder(oldPath) || !InFolder(newPath)) return context_.fs.RenameNoReplace(oldPath, newPath);
   const NamePair head{platform::BaseName(oldPath), platform::BaseName(newPath)};
   const std::vector<NamePair> companions = finder_.Companions(head.from, head.to);
   for (const NamePair& companion : companions) ReleasePreviewIfHeld(folder_ + companion.from);

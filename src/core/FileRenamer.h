@@ -18,8 +18,8 @@ class FileRenamer {
   FileRenamer(const RenameContext& context, const QByteArray& folder,
               const std::vector<platform::FileName>& selection);
 
-  // Renames `oldPath` to `newPath` (both in the folder) and returns 0 or an
-  // error number. Releases the preview when it holds a file that moves.
+  // Renames `oldPath` to `newPath` (both in the folder; anything else is
+  // refused as an invalid argument) and returns 0 or an error number. Releases the preview when it holds a file that moves.
   // When the file heads a set its companions move with it, or nothing moves;
   // otherwise the single file is renamed. Never replaces a file: an existing
   // target gives kFileAlreadyExists.

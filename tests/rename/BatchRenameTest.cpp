@@ -1,6 +1,8 @@
 #include "core/BatchRename.h"
 
+#include <QDir>
 #include <QSet>
+#include <cerrno>
 
 #include "RenameFixture.h"
 #include "core/BatchBaseCheck.h"
@@ -92,6 +94,17 @@ TEST_F(BatchRenameTest, TokensPerFileInTheirOrder) {
   EXPECT_EQ(Folder(), (Files{{"07 Song  %serial% s.mp3", "s.mp3"}, {"07 Song 123 %serial% t.jpg", "t.jpg"},
                              {"07 Song  %serial% u.JPG", "u.JPG"}}));
   EXPECT_EQ(tokens.id3Reads, 1);  // only the ".mp3" is read; the others keep its values
+}
+
+TEST_F(BatchRenameTest, SlashFromATagNeverMovesAFileIntoAFolder) {
+  Make({"s.mp3"});
+  QDir(dir.path()).mkdir("AC");
+  Select({"s.mp3"});
+  tokens.id3["s.mp3"] = core::Id3Values{"Song", "AC/DC", "Disc", "07"};
+  Batch("%ARTIST% %SERIES%");
+  EXPECT_EQ(port.Texts(), QStringList{core::BatchRenameFailureText(1000 + EINVAL)});
+  EXPECT_EQ(Folder(), (Files{{"s.mp3", "s.mp3"}}));
+  EXPECT_TRUE(QDir(dir.path() + "/AC").isEmpty());
 }
 
 TEST_F(BatchRenameTest, UnchangedNamesArePassedOverSilently) {
