@@ -12,13 +12,14 @@ ByteReader::ByteReader(ByteSource& source, qint64 base, qint64 length, bool bigE
     return;
   }
   length_ = qMin(length_, size - base_);
+  direct_ = qMin(source.Direct(base_, &data_), length_);
 }
 
 bool ByteReader::Has(qint64 pos, qint64 length) const {
   return pos >= 0 && length >= 0 && pos <= length_ && length <= length_ - pos;
 }
 
-bool ByteReader::Fetch(qint64 pos, unsigned char* out, int length) {
+bool ByteReader::FetchSlow(qint64 pos, unsigned char* out, int length) {
   if (ok_ && Has(pos, length) && source_->Read(base_ + pos, reinterpret_cast<char*>(out), length)) {
     return true;
   }
@@ -33,20 +34,6 @@ quint8 ByteReader::U8(qint64 pos) {
   return b[0];
 }
 
-quint16 ByteReader::U16(qint64 pos) {
-  unsigned char b[2];
-  Fetch(pos, b, 2);
-  return bigEndian_ ? quint16((b[0] << 8) | b[1]) : quint16((b[1] << 8) | b[0]);
-}
-
-quint32 ByteReader::U32(qint64 pos) {
-  unsigned char b[4];
-  Fetch(pos, b, 4);
-  quint32 value = 0;
-  for (int i = 0; i < 4; ++i) value = (value << 8) | b[bigEndian_ ? i : 3 - i];
-  return value;
-}
-
 quint64 ByteReader::U64(qint64 pos) {
   unsigned char b[8];
   Fetch(pos, b, 8);
@@ -56,6 +43,10 @@ quint64 ByteReader::U64(qint64 pos) {
 }
 
 bool ByteReader::Bytes(qint64 pos, char* out, qint64 length) {
+  if (ok_ && pos >= 0 && length >= 0 && pos <= direct_ && length <= direct_ - pos) {
+    if (length > 0) std::memcpy(out, data_ + pos, size_t(length));
+    return true;
+  }
   if (ok_ && Has(pos, length) && source_->Read(base_ + pos, out, length)) return true;
   ok_ = false;
   return false;

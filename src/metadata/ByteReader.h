@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtGlobal>
+#include <cstring>
 
 #include "metadata/ByteSource.h"
 
@@ -16,8 +17,17 @@ class ByteReader {
   ByteReader(ByteSource& source, qint64 base, qint64 length, bool bigEndian = true);
 
   quint8 U8(qint64 pos);
-  quint16 U16(qint64 pos);
-  quint32 U32(qint64 pos);
+  quint16 U16(qint64 pos) {
+    unsigned char b[2];
+    Fetch(pos, b, 2);
+    return bigEndian_ ? quint16(b[0] << 8 | b[1]) : quint16(b[1] << 8 | b[0]);
+  }
+  quint32 U32(qint64 pos) {
+    unsigned char b[4];
+    Fetch(pos, b, 4);
+    return bigEndian_ ? quint32(b[0]) << 24 | quint32(b[1]) << 16 | quint32(b[2]) << 8 | b[3]
+                      : quint32(b[3]) << 24 | quint32(b[2]) << 16 | quint32(b[1]) << 8 | b[0];
+  }
   quint64 U64(qint64 pos);
   // Copies `length` bytes at `pos` into `out`.
   bool Bytes(qint64 pos, char* out, qint64 length);
@@ -40,13 +50,23 @@ class ByteReader {
   ByteSource& Source() const { return *source_; }
 
  private:
-  bool Fetch(qint64 pos, unsigned char* out, int length);
+  // The common case inline: bytes in the source's memory, no virtual call.
+  bool Fetch(qint64 pos, unsigned char* out, int length) {
+    if (ok_ && pos >= 0 && pos <= direct_ - length) {
+      std::memcpy(out, data_ + pos, size_t(length));
+      return true;
+    }
+    return FetchSlow(pos, out, length);
+  }
+  bool FetchSlow(qint64 pos, unsigned char* out, int length);
 
   ByteSource* source_;
   qint64 base_;
   qint64 length_;
   bool bigEndian_;
   bool ok_ = true;
+  const char* data_ = nullptr;  // the view's first bytes in the source's memory
+  qint64 direct_ = 0;           // how many of them
 };
 
 }  // namespace renvale::metadata

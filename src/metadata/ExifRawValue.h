@@ -14,7 +14,7 @@ struct ExifRawValue {
   quint32 count = 0;
   bool bigEndian = false;
   int size = 0;  // bytes held in `bytes`, at most kMaxBytes
-  char bytes[kMaxBytes] = {};
+  char bytes[kMaxBytes];  // only the first `size` are meaningful
 };
 
 }  // namespace renvale::metadata

@@ -1,14 +1,25 @@
 #include "metadata/ExifTagSet.h"
 
+#include <cstring>
+
 namespace renvale::metadata {
 
+bool ExifTagSet::Wants(ExifTag tag, ExifIfd foundIn) const {
+  const Slot& slot = slots_[size_t(tag)];
+  return !slot.present || (!slot.fromHome && foundIn == ExifTagTable::HomeIfd(tag));
+}
+
 void ExifTagSet::Offer(ExifTag tag, ExifIfd foundIn, const ExifRawValue& value) {
+  if (!Wants(tag, foundIn)) return;
   Slot& slot = slots_[size_t(tag)];
   const bool home = foundIn == ExifTagTable::HomeIfd(tag);
-  if (slot.present && (slot.fromHome || !home)) return;
   slot.present = true;
   slot.fromHome = home;
-  slot.value = value;
+  slot.value.type = value.type;
+  slot.value.count = value.count;
+  slot.value.bigEndian = value.bigEndian;
+  slot.value.size = value.size;
+  std::memcpy(slot.value.bytes, value.bytes, size_t(value.size));
 }
 
 const ExifRawValue* ExifTagSet::Get(ExifTag tag) const {
@@ -23,6 +34,8 @@ bool ExifTagSet::Empty() const {
   return true;
 }
 
-void ExifTagSet::Clear() { slots_ = {}; }
+void ExifTagSet::Clear() {
+  for (Slot& slot : slots_) slot.present = false;
+}
 
 }  // namespace renvale::metadata

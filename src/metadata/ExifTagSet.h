@@ -12,6 +12,8 @@ namespace renvale::metadata {
 // kind of directory the first one in file order.
 class ExifTagSet {
  public:
+  // Whether a value for `tag` found in `foundIn` would be taken.
+  bool Wants(ExifTag tag, ExifIfd foundIn) const;
   void Offer(ExifTag tag, ExifIfd foundIn, const ExifRawValue& value);
   // The value, or nullptr when the file does not have the tag.
   const ExifRawValue* Get(ExifTag tag) const;
@@ -24,7 +26,7 @@ class ExifTagSet {
     bool fromHome = false;
     ExifRawValue value;
   };
-  std::array<Slot, ExifTagTable::kCount> slots_{};
+  std::array<Slot, ExifTagTable::kCount> slots_;
 };
 
 }  // namespace renvale::metadata

@@ -42,7 +42,10 @@ bool ExifTagTable::FromName(const QString& name, ExifTag* tag) {
   return false;
 }
 
+// Called for every directory entry of every file, most of them not ours:
+// a cheap range test turns those away before the table is searched.
 bool ExifTagTable::FromNumber(quint16 number, ExifTag* tag) {
+  if (number < 0x010F || (number > 0x0112 && number < 0x829D) || number > 0xA003) return false;
   for (int i = 0; i < kCount; ++i) {
     if (kRows[i].number == number) {
       *tag = ExifTag(i);

@@ -15,19 +15,17 @@ FileByteSource::FileByteSource(platform::ReadableFile& file) : file_(file) {
     ioError_ = platform::kErrnoBase + EIO;
     return;
   }
-  Fill(&head_, 0, qMin(size_, kHeadSize));
+  if (Fill(head_, 0, qMin(size_, kHeadSize))) headSize_ = qMin(size_, kHeadSize);
 }
 
 // Reads exactly `length` bytes at `offset`; a short read means the file
 // changed under us and counts as an I/O failure like an error return.
-bool FileByteSource::Fill(QByteArray* buffer, qint64 offset, qint64 length) {
-  buffer->resize(length);
+bool FileByteSource::Fill(char* buffer, qint64 offset, qint64 length) {
   qint64 done = 0;
   while (done < length) {
-    const qint64 got = file_.ReadAt(offset + done, buffer->data() + done, length - done);
+    const qint64 got = file_.ReadAt(offset + done, buffer + done, length - done);
     if (got <= 0) {
       ioError_ = platform::ErrorNumberFromErrno(got < 0 && errno != 0 ? errno : EIO);
-      buffer->clear();
       return false;
     }
     done += got;
@@ -38,19 +36,29 @@ bool FileByteSource::Fill(QByteArray* buffer, qint64 offset, qint64 length) {
 bool FileByteSource::Read(qint64 offset, char* out, qint64 length) {
   if (!InRange(offset, length, size_)) return false;
   if (length == 0) return true;
-  if (InRange(offset, length, head_.size())) {
-    std::memcpy(out, head_.constData() + offset, size_t(length));
+  if (InRange(offset, length, headSize_)) {
+    std::memcpy(out, head_ + offset, size_t(length));
     return true;
   }
   const bool inWindow = windowStart_ >= 0 && offset >= windowStart_ &&
                         InRange(offset - windowStart_, length, window_.size());
   if (!inWindow) {
     windowStart_ = -1;
-    if (!Fill(&window_, offset, qMax(length, qMin(kWindowSize, size_ - offset)))) return false;
+    window_.resize(qMax(length, qMin(kWindowSize, size_ - offset)));
+    if (!Fill(window_.data(), offset, window_.size())) return false;
     windowStart_ = offset;
   }
   std::memcpy(out, window_.constData() + (offset - windowStart_), size_t(length));
   return true;
+}
+
+qint64 FileByteSource::Direct(qint64 offset, const char** data) const {
+  if (offset < 0 || offset > headSize_) {
+    *data = nullptr;
+    return 0;
+  }
+  *data = head_ + offset;
+  return headSize_ - offset;
 }
 
 }  // namespace renvale::metadata

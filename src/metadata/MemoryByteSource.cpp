@@ -13,4 +13,13 @@ bool MemoryByteSource::Read(qint64 offset, char* out, qint64 length) {
   return true;
 }
 
+qint64 MemoryByteSource::Direct(qint64 offset, const char** data) const {
+  if (offset < 0 || offset > size_) {
+    *data = nullptr;
+    return 0;
+  }
+  *data = data_ + offset;
+  return size_ - offset;
+}
+
 }  // namespace renvale::metadata

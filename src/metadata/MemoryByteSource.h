@@ -10,6 +10,7 @@ class MemoryByteSource : public ByteSource {
   MemoryByteSource(const char* data, qint64 size);
   qint64 Size() const override { return size_; }
   bool Read(qint64 offset, char* out, qint64 length) override;
+  qint64 Direct(qint64 offset, const char** data) const override;
 
  private:
   const char* data_;

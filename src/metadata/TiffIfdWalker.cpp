@@ -2,12 +2,24 @@
 
 #include "metadata/TiffHeader.h"
 
+#include <cstring>
+
 namespace renvale::metadata {
 
 namespace {
 constexpr quint16 kTypeLong = 4;
 constexpr quint16 kTypeIfd = 13;
 constexpr quint16 kPanasonicIso = 0x0017;
+
+inline quint16 Get16(const unsigned char* p, bool bigEndian) {
+  return bigEndian ? quint16(p[0] << 8 | p[1]) : quint16(p[1] << 8 | p[0]);
+}
+
+inline quint32 Get32(const unsigned char* p, bool bigEndian) {
+  return bigEndian ? quint32(Get16(p, true)) << 16 | Get16(p + 2, true)
+                   : quint32(Get16(p + 2, false)) << 16 | Get16(p, false);
+}
+
 }  // namespace
 
 int TiffIfdWalker::TypeSize(quint16 type) {
@@ -41,41 +53,49 @@ bool TiffIfdWalker::WalkIfd(ByteReader& block, qint64 offset, ExifIfd ifd, ExifT
   ByteReader reader = block;  // its own error flag: a bad entry must not spoil the rest
   const quint16 count = reader.U16(offset);
   if (!reader.Ok()) return false;
+  const bool bigEndian = block.BigEndian();
   for (quint16 i = 0; i < count; ++i) {
-    const qint64 entry = offset + 2 + kEntrySize * i;
-    if (!block.Has(entry, kEntrySize)) break;  // a truncated directory: keep what is there
-    ByteReader entryReader = block;
-    const quint16 tag = entryReader.U16(entry);
-    const quint16 type = entryReader.U16(entry + 2);
+    const qint64 at = offset + 2 + kEntrySize * i;
+    unsigned char entry[kEntrySize];
+    // A truncated directory: keep what is there.
+    if (!reader.Bytes(at, reinterpret_cast<char*>(entry), kEntrySize)) break;
+    const quint16 tag = Get16(entry, bigEndian);
+    const quint16 type = Get16(entry + 2, bigEndian);
     if (exifPointer != nullptr && *exifPointer == 0 && tag == ExifTagTable::kExifIfdPointer &&
-        (type == kTypeLong || type == kTypeIfd) && entryReader.U32(entry + 4) >= 1) {
-      *exifPointer = entryReader.U32(entry + 8);
+        (type == kTypeLong || type == kTypeIfd) && Get32(entry + 4, bigEndian) >= 1) {
+      *exifPointer = Get32(entry + 8, bigEndian);
       continue;
     }
     ExifTag ours;
     if (panasonicIso && tag == kPanasonicIso) {
-      TakeEntry(entryReader, entry, ExifTag::IsoSpeedRatings, ExifIfd::Zero, tags);
+      TakeEntry(block, entry, ExifTag::IsoSpeedRatings, ExifIfd::Zero, tags);
     } else if (ExifTagTable::FromNumber(tag, &ours)) {
-      TakeEntry(entryReader, entry, ours, ifd, tags);
+      TakeEntry(block, entry, ours, ifd, tags);
     }
   }
   return true;
 }
 
-void TiffIfdWalker::TakeEntry(ByteReader& block, qint64 entry, ExifTag tag, ExifIfd ifd, ExifTagSet* tags) {
+void TiffIfdWalker::TakeEntry(ByteReader block, const unsigned char* entry, ExifTag tag, ExifIfd ifd,
+                              ExifTagSet* tags) {
+  if (!tags->Wants(tag, ifd)) return;
   ExifRawValue value;
-  value.type = block.U16(entry + 2);
-  value.count = block.U32(entry + 4);
   value.bigEndian = block.BigEndian();
-  const quint64 total = quint64(TypeSize(value.type)) * value.count;
+  value.type = Get16(entry + 2, value.bigEndian);
+  value.count = Get32(entry + 4, value.bigEndian);
+  const int unit = TypeSize(value.type);
+  const quint64 total = quint64(unit) * value.count;
   if (total == 0) return;
-  const qint64 at = total <= 4 ? entry + 8 : qint64(block.U32(entry + 8));
   // A value that does not lie wholly inside the block is skipped, so a cut
   // file never yields a cut text. Of a long value only the head is kept (and
   // must be there); no tag of ours needs more.
   value.size = int(qMin<quint64>(total, ExifRawValue::kMaxBytes));
-  value.size -= value.size % TypeSize(value.type);
-  if (value.size == 0 || !block.Bytes(at, value.bytes, value.size)) return;
+  value.size -= value.size % unit;
+  if (total <= 4) {
+    std::memcpy(value.bytes, entry + 8, size_t(value.size));
+  } else if (value.size == 0 || !block.Bytes(Get32(entry + 8, value.bigEndian), value.bytes, value.size)) {
+    return;
+  }
   tags->Offer(tag, ifd, value);
 }
 

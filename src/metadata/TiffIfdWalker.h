@@ -25,7 +25,8 @@ class TiffIfdWalker {
   // speed (a standard ISO tag in the Exif IFD still wins).
   static bool WalkIfd(ByteReader& block, qint64 offset, ExifIfd ifd, ExifTagSet* tags, quint32* exifPointer,
                       bool panasonicIso = false);
-  static void TakeEntry(ByteReader& block, qint64 entry, ExifTag tag, ExifIfd ifd, ExifTagSet* tags);
+  // `entry` holds the directory entry's twelve bytes.
+  static void TakeEntry(ByteReader block, const unsigned char* entry, ExifTag tag, ExifIfd ifd, ExifTagSet* tags);
   static int TypeSize(quint16 type);
 };
 
