@@ -17,9 +17,12 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "core/BatchRename.h"
 #include "core/FileSelection.h"
+#include "core/IndividualRename.h"
 #include "core/FolderListing.h"
 #include "core/NaturalOrder.h"
+#include "core/SeriesCounter.h"
 #include "core/SettingsStore.h"
 #include "core/WindowPlacement.h"
 #include "platform/AppPaths.h"
@@ -27,11 +30,17 @@
 #include "platform/FileSystem.h"
 #include "platform/MessagePort.h"
 #include "shell/BrowsePane.h"
+#include "shell/ButtonEditor.h"
+#include "shell/ComposeController.h"
+#include "shell/FilenameAsTemp.h"
+#include "shell/ManTempDialog.h"
 #include "shell/FileListModel.h"
 #include "shell/FolderBrowsing.h"
 #include "shell/QuickTipOffer.h"
+#include "shell/SeriesLineEdit.h"
 #include "shell/ShellTexts.h"
 #include "shell/ToolTipTable.h"
+#include "shell/ViewExifDialog.h"
 
 namespace renvale::shell {
 namespace {
@@ -62,7 +71,10 @@ void SetupOneShot(QTimer& timer, const char* name) {
 }  // namespace
 
 MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
-    : QMainWindow(parent), services_(std::move(services)) {
+    : QMainWindow(parent),
+      services_(std::move(services)),
+      tokens_(services_.fs, services_.messages, settings_),
+      renameView_(*this) {
   ui_.Setup(this);
   files_ = new FileListModel(this);
   ui_.File1->setModel(files_);
@@ -72,6 +84,8 @@ MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
   Timer1.setInterval(0);
   ConnectSignals();
   DisableLaterFeatures();
+  BuildComposeControllers();
+  ConnectRenameButtons();
   qApp->installEventFilter(this);
 }
 
@@ -105,6 +119,8 @@ void MainWindow::ApplyLoadedSettings() {
   ApplyBrowseMode(settings_.browseMode);
   for (size_t n = 0; n < ui_.Command1.size(); ++n) ui_.Command1[n]->setText(settings_.customCaptions[n]);
   ApplyToolTips(settings_.toolTips);
+  SeriesLineEdit seriesBox(*ui_.Text2);
+  core::SeriesCounter(seriesBox, settings_).ReformatSeriesBox();
   QApplication::processEvents();
 }
 
@@ -134,6 +150,7 @@ void MainWindow::ConnectSignals() {
   connect(ui_.browse, &BrowsePane::FolderOpened, this, &MainWindow::OnFolderOpened);
   connect(ui_.browse, &BrowsePane::ChooseFolderClicked, this, &MainWindow::OnChooseFolder);
   connect(ui_.browse, &BrowsePane::UrlsDropped, this, &MainWindow::OnUrlsDropped);
+  connect(ui_.vEX, &QAction::triggered, this, &MainWindow::ShowFileReport);
   connect(&FNDelay, &QTimer::timeout, this, [this] { services_.tips.ShowQuickTip(kNewNameTip); });
   connect(&SerDelay, &QTimer::timeout, this, [this] { services_.tips.ShowQuickTip(kSeriesBoxTip); });
   // Once the window is up, the file list takes the keyboard so that arrow
@@ -141,15 +158,38 @@ void MainWindow::ConnectSignals() {
   connect(&Timer1, &QTimer::timeout, this, [this] { ui_.File1->setFocus(); });
 }
 
+// Each controller connects and enables the controls it makes work.
+void MainWindow::BuildComposeControllers() {
+  new ComposeController(ui_, session_, settings_,
+                        {services_.fs, services_.messages, services_.tips, [this] { ShowFileReport(); }}, this);
+  new ButtonEditor(ui_, settings_, services_.messages, this);
+  new FilenameAsTemp(ui_, session_, services_.messages, services_.tips, this);
+  connect(ui_.templatesAction, &QAction::triggered, this,
+          [this] { ManTempDialog::Run(ui_, settings_, services_.fs, services_.messages, this); });
+  ui_.templatesAction->setEnabled(true);
+}
+
+core::RenameContext MainWindow::RenameContext() {
+  return {session_, settings_, renameView_, services_.messages, services_.fs, tokens_};
+}
+
+void MainWindow::ConnectRenameButtons() {
+  connect(ui_.Command2, &QPushButton::clicked, this, [this] { core::IndividualRename(RenameContext()).RenameSelectedFile(); });
+  connect(ui_.Command7, &QPushButton::clicked, this, [this] { core::IndividualRename(RenameContext()).RevertNewName(); });
+  connect(ui_.Command8, &QPushButton::clicked, this, [this] { core::IndividualRename(RenameContext()).ClearNewName(); });
+  connect(ui_.Command11, &QPushButton::clicked, this, [this] { core::BatchRename(RenameContext()).StartBatchRename(); });
+  // Random numbers and file sets do not mix well; say so while it is ticked.
+  auto* note = findChild<QLabel*>(QStringLiteral("RandomNote"));
+  connect(ui_.Check1, &QCheckBox::toggled, note, &QLabel::setVisible);
+}
+
 // Controls whose features are not built yet stay visible but unusable.
 void MainWindow::DisableLaterFeatures() {
   QWidget* const widgets[] = {
-      ui_.OrigFN, ui_.exif, ui_.Command5, ui_.Command6, ui_.Text2, ui_.Command7, ui_.Command8,
-      ui_.Command2, ui_.Command4, ui_.Command13, ui_.Command10, ui_.Command11, ui_.Check1,
-      ui_.Command12, ui_.ShPrev, ui_.UnSupported};
+      ui_.Command4, ui_.Command13, ui_.Command12, ui_.ShPrev, ui_.UnSupported};
   for (QWidget* widget : widgets) widget->setEnabled(false);
-  for (QAction* action : {ui_.optionsAction, ui_.templatesAction, ui_.FSR, ui_.MapNet, ui_.UnMap,
-                          ui_.vEX, ui_.RotIP}) {
+  for (QAction* action : {ui_.optionsAction, ui_.FSR, ui_.MapNet, ui_.UnMap,
+                          ui_.RotIP}) {
     action->setEnabled(false);
   }
   for (QAction* action : ui_.HelpMen) action->setEnabled(false);
@@ -235,6 +275,11 @@ const platform::FileName* MainWindow::CurrentSelectedFile(int selectedCount) con
   }
   const QItemSelection ranges = selection->selection();
   return ranges.isEmpty() ? nullptr : &files_->FileAt(ranges.first().top());
+}
+
+void MainWindow::ShowFileReport() {
+  const QByteArray selected = FileIsSelected() ? session_.SelectedFileName.raw : QByteArray();
+  ViewExifDialog::RunViewCommand(this, services_.fs, services_.messages, session_.CurrentFolder, selected);
 }
 
 void MainWindow::SelectAll() {

@@ -5,9 +5,12 @@
 #include <functional>
 #include <vector>
 
+#include "core/RenameContext.h"
 #include "core/RenameSession.h"
 #include "core/SettingsRecord.h"
 #include "platform/MountList.h"
+#include "shell/MainWindowRenameView.h"
+#include "shell/MetadataTokenSource.h"
 #include "shell/MainWindowUi.h"
 
 namespace renvale::platform {
@@ -49,11 +52,14 @@ class MainWindow : public QMainWindow {
   core::SettingsRecord& Settings() { return settings_; }
   MainWindowUi& Ui() { return ui_; }
   FileListModel& Files() { return *files_; }
+  QuickTipOffer& Tips() { return services_.tips; }
 
   void ApplyBrowseMode(int mode);
   void ChangeFolder(const QByteArray& folder);
   void RefreshFileList();
   void SelectAll();
+  // The "View EXIF & Other Info" command for the selected file.
+  void ShowFileReport();
   void SetBatchMode(bool on);
   bool FileIsSelected() const;
   void ApplyToolTips(bool on);
@@ -84,6 +90,9 @@ class MainWindow : public QMainWindow {
   bool HandleEnter();
   void OfferBoxTips(QObject* watched);
   void DisableLaterFeatures();
+  void BuildComposeControllers();
+  void ConnectRenameButtons();
+  core::RenameContext RenameContext();
   void ScaleFonts();
 
   MainWindowServices services_;
@@ -91,6 +100,8 @@ class MainWindow : public QMainWindow {
   core::SettingsRecord settings_;
   MainWindowUi ui_;
   FileListModel* files_ = nullptr;
+  MetadataTokenSource tokens_;
+  MainWindowRenameView renameView_;
   std::vector<platform::Volume> drives_;
   QTimer FNDelay;
   QTimer SerDelay;

@@ -1,3 +1,4 @@
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -161,6 +162,19 @@ TEST_F(MainWindowSession, EveryControlCanBeFoundByNameAndHasAnAccessibleName) {
   }
   EXPECT_EQ(main.findChildren<QPushButton*>("Command1").size(), 9);
   EXPECT_EQ(main.findChildren<QPushButton*>("Command9").size(), 3);
+}
+
+}  // namespace
+}  // namespace renvale::test
+
+namespace renvale::test {
+namespace {
+
+TEST_F(MainWindowFixture, TheReportCommandAsksForAFileFirst) {
+  shell::MainWindow& main = Open();
+  main.Ui().vEX->trigger();
+  ASSERT_EQ(messages.messages.size(), 1u);
+  EXPECT_EQ(messages.Last().text, "Please select a file first.");
 }
 
 }  // namespace

@@ -132,3 +132,15 @@ TEST_F(MainWindowSettings, TheFolderListOpensAncestorsAndSubfolders) {
 
 }  // namespace
 }  // namespace renvale::test
+
+namespace renvale::test {
+namespace {
+
+TEST_F(MainWindowFixture, TheSeriesBoxTakesTheLoadedPlaceholders) {
+  storage->WriteSettingString("", "Placeholders", "4");
+  shell::MainWindow& main = Open();
+  EXPECT_EQ(main.Ui().Text2->text(), "0001");
+}
+
+}  // namespace
+}  // namespace renvale::test

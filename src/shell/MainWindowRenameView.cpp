@@ -1,0 +1,94 @@
+#include "shell/MainWindowRenameView.h"
+
+#include <QApplication>
+#include <QItemSelectionModel>
+#include <QLabel>
+#include <QLineEdit>
+#include <QCheckBox>
+#include <QListView>
+#include <QProgressBar>
+#include <algorithm>
+
+#include "shell/BrowsePane.h"
+#include "shell/FileListModel.h"
+#include "shell/MainWindow.h"
+#include "shell/QuickTipOffer.h"
+
+namespace renvale::shell {
+namespace {
+
+// Files can go faster than a screen refreshes; drawing more often than this
+// only slows the batch down.
+constexpr qint64 kEventIntervalMs = 30;
+
+}  // namespace
+
+QString MainWindowRenameView::NewNameText() const { return window_.Ui().Text1->text(); }
+
+void MainWindowRenameView::SetNewNameText(const QString& text) { window_.Ui().Text1->setText(text); }
+
+QString MainWindowRenameView::SeriesText() const { return window_.Ui().Text2->text(); }
+
+void MainWindowRenameView::SetSeriesText(const QString& text) { window_.Ui().Text2->setText(text); }
+
+bool MainWindowRenameView::RandomSeries() const { return window_.Ui().Check1->isChecked(); }
+
+std::vector<platform::FileName> MainWindowRenameView::SelectedFiles() const {
+  std::vector<int> rows;
+  for (const QItemSelectionRange& range : window_.Ui().File1->selectionModel()->selection()) {
+    for (int row = range.top(); row <= range.bottom(); ++row) rows.push_back(row);
+  }
+  std::sort(rows.begin(), rows.end());
+  std::vector<platform::FileName> files;
+  files.reserve(rows.size());
+  for (int row : rows) files.push_back(window_.Files().FileAt(row));
+  return files;
+}
+
+void MainWindowRenameView::RefreshFileList() { window_.RefreshFileList(); }
+
+bool MainWindowRenameView::SelectFileNamed(const QString& name) {
+  const int row = window_.Files().FindCaseInsensitive(name);
+  if (row < 0) return false;
+  const QModelIndex index = window_.Files().index(row);
+  QItemSelectionModel* selection = window_.Ui().File1->selectionModel();
+  selection->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+  window_.Ui().File1->scrollTo(index);
+  return true;
+}
+
+void MainWindowRenameView::LeaveBatchMode() { window_.SetBatchMode(false); }
+
+void MainWindowRenameView::SetSelectionLabel(const QString& text) { window_.Ui().selectionLabel->setText(text); }
+
+void MainWindowRenameView::ResetPreview(const QString& caption) {
+  window_.Session().PreviewedPath.clear();
+  window_.Ui().Gvbox1->clear();
+  window_.Ui().previewCaption->setText(caption);
+}
+
+void MainWindowRenameView::PreviewSelected() {
+  window_.Ui().previewCaption->setText(window_.Session().SelectedFileName.Display());
+}
+
+// While a batch runs the list and the folder panes take no clicks.
+void MainWindowRenameView::ShowProgress(bool visible) {
+  MainWindowUi& ui = window_.Ui();
+  ui.ProgressBar1->setValue(0);
+  ui.processingLabel->setVisible(visible);
+  ui.File1->setEnabled(!visible);
+  ui.browse->setEnabled(!visible);
+  sinceEvents_.start();
+}
+
+void MainWindowRenameView::SetProgress(int percent) { window_.Ui().ProgressBar1->setValue(percent); }
+
+void MainWindowRenameView::ProcessEvents() {
+  if (sinceEvents_.isValid() && sinceEvents_.elapsed() < kEventIntervalMs) return;
+  QApplication::processEvents();
+  sinceEvents_.start();
+}
+
+void MainWindowRenameView::ShowQuickTip(int tipNumber) { window_.Tips().ShowQuickTip(tipNumber); }
+
+}  // namespace renvale::shell

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QHash>
+
+#include "core/SettingsRecord.h"
+#include "core/TokenSource.h"
+
+namespace renvale::platform {
+class FileSystem;
+class MessagePort;
+}  // namespace renvale::platform
+
+namespace renvale::shell {
+
+// The renames' file values, read with the EXIF and ID3 readers. A batch asks
+// for several tokens of one file in a row, so the values of the last file
+// are kept until another file is asked about.
+class MetadataTokenSource : public core::TokenSource {
+ public:
+  MetadataTokenSource(platform::FileSystem& fs, platform::MessagePort& messages,
+                      const core::SettingsRecord& settings)
+      : fs_(fs), messages_(messages), settings_(settings) {}
+
+  QString ExifValue(const QByteArray& folder, const platform::FileName& file, core::Token token) override;
+  core::Id3Values Id3(const QByteArray& folder, const platform::FileName& file) override;
+
+ private:
+  platform::FileSystem& fs_;
+  platform::MessagePort& messages_;
+  const core::SettingsRecord& settings_;
+  QByteArray cachedPath_;
+  QHash<int, QString> cachedValues_;
+};
+
+}  // namespace renvale::shell
