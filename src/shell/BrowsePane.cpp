@@ -57,6 +57,8 @@ QWidget* BrowsePane::BuildSimplePane() {
   Drive1 = new QComboBox(pane);
   Drive1->setObjectName(QStringLiteral("Drive1"));
   Drive1->setAccessibleName(QStringLiteral("Drive"));
+  Drive1->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  Drive1->setMinimumContentsLength(14);
   driveLabel->setBuddy(Drive1);
   toggleBrowseS = MakeToggle(pane, "toggleBrowseS", QStringLiteral("Advanced >>"));
   top->addWidget(driveLabel);

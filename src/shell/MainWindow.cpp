@@ -13,6 +13,7 @@
 #include <QListView>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -392,9 +393,11 @@ bool MainWindow::event(QEvent* event) {
   return QMainWindow::event(event);
 }
 
+// Only a resize by the person scales the fonts: a resize the layout forces
+// (a pane appearing) must not feed back into larger fonts and a larger window.
 void MainWindow::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
-  if (settings_.resizeFonts) ScaleFonts();
+  if (settings_.resizeFonts && event->spontaneous()) ScaleFonts();
 }
 
 // Fonts grow and shrink with the window, within reason, so that a large

@@ -215,7 +215,9 @@ QWidget* MainWindowUi::BuildPreviewPane(QWidget* parent) {
   layout->addWidget(previewCaption);
   Gvbox1 = Make<QLabel>(previewFrame, "Gvbox1");
   Gvbox1->setAccessibleName(QStringLiteral("Picture preview"));
-  Gvbox1->setMinimumSize(160, 120);
+  // The picture gives way first when the batch pane needs the room.
+  Gvbox1->setMinimumSize(1, 1);
+  Gvbox1->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
   Gvbox1->setAlignment(Qt::AlignCenter);
   layout->addWidget(Gvbox1, 1);
   mediaControls = new QWidget(previewFrame);
