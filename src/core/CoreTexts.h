@@ -6,7 +6,7 @@
 // the renames, word for word as the user sees them. Double blanks and
 // misspellings ("applicaton") are deliberate: users and help pages quote
 // them. ("( No File Selected )" here has blanks inside the brackets; the
-// list's own label in SessionTexts.h has none. Both are the product's.)
+// list's own label, kNoFileSelected, has none. Both are the product's.)
 // Messages made of several lines keep their lines here and are joined by the
 // functions that build them (CR in message boxes, CR LF or LF where noted).
 
@@ -149,5 +149,28 @@ inline const QString kProcessingFiles = QStringLiteral("Processing files.  Pleas
 inline const QString kRandomSeriesNote = QStringLiteral(
     "NOTE: Batch-renaming using RANDOM series #s does not work correctly with file sets, and is "
     "therefore not recommended.");
+
+
+// What the selection tells the window.
+inline const QString kNoFileSelected = QStringLiteral("(No File Selected)");
+inline const QString kAutoPreviewDisabledTools =
+    QStringLiteral("Auto-Preview is disabled.  See 'Tools|Program Options' menu.");
+inline QString FilesSelected(int count) { return QStringLiteral("%1 files selected").arg(count); }
+
+// Where files stand after a rename went wrong half-way. They name the files,
+// so they are patterns filled with QString::arg.
+// "File Set - Renaming Error" (critical icon); lines joined by CR.
+inline const QString kFileSetNotRenamed = QStringLiteral("The file set of '%1' could not be renamed to '%2'.");
+inline const QString kFileSetMemberFailed = QStringLiteral("'%1' could not be renamed to '%2': %3");
+inline const QString kFileSetTargetTaken =
+    QStringLiteral("'%1' cannot be renamed to '%2', because a file of that name already exists.");
+inline const QString kFileSetKeptOldNames = QStringLiteral("All files of the set have kept their old names.");
+inline const QString kFileSetNotRestored =
+    QStringLiteral("These files could not be given back their old names:");
+inline const QString kFileSetNotRestoredFile = QStringLiteral("'%1' (was '%2')");
+
+// Appended to a rename failure after the user agreed to overwrite.
+inline const QString kTargetDeletedRenameFailed = QStringLiteral(
+    "The existing file '%1' had already been deleted as you agreed, but '%2' keeps its old name.");
 
 }  // namespace renvale::core::texts

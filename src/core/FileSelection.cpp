@@ -1,7 +1,7 @@
 #include "core/FileSelection.h"
 
 #include "core/FileNameRules.h"
-#include "core/SessionTexts.h"
+#include "core/CoreTexts.h"
 
 namespace renvale::core {
 namespace {

@@ -3,7 +3,6 @@
 #include <QStringList>
 
 #include "core/CoreTexts.h"
-#include "core/RenameSafetyTexts.h"
 #include "platform/ErrorNumbers.h"
 
 namespace renvale::core {

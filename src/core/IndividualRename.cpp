@@ -4,7 +4,6 @@
 #include "core/FileNameRules.h"
 #include "core/FileRenamer.h"
 #include "core/RenameFailureTexts.h"
-#include "core/RenameSafetyTexts.h"
 #include "core/SeriesCounter.h"
 #include "core/ViewSeriesBox.h"
 #include "platform/ErrorNumbers.h"

@@ -2,14 +2,12 @@
 
 #include <QString>
 
-#include "core/SessionTexts.h"
+#include "core/CoreTexts.h"
 
 // The main window's own texts, kept exactly as the program shows them.
 namespace renvale::shell::texts {
 
 inline const QString& kNoFileSelected = core::texts::kNoFileSelected;
-inline const QString kFilesInFolderPrefix = QStringLiteral("Files in folder (");
-inline const QString kFilesInFolderSuffix = QStringLiteral("):");
 inline const QString kNoFilesToSelect = QStringLiteral("There are no files in this folder to select!");
 
 inline const QString kDriveUnaccessableTitle = QStringLiteral("Drive Unaccessable");
@@ -31,13 +29,11 @@ inline const QString kNextSeriesCaption = QStringLiteral("Next Series #:");
 inline const QString kBatchFrameCaption = QStringLiteral("Batch Mode (Multiple files selected)");
 inline const QString kBatchHint =
     QStringLiteral("To exit \"Batch Mode\", select a single file from the Files list below.");
-inline const QString kRandomSeriesNote = QStringLiteral(
-    "NOTE: Batch-renaming using RANDOM series #s does not work correctly with file sets, and is "
-    "therefore not recommended.");
-inline const QString kProcessingFiles = QStringLiteral("Processing files.  Please wait.......");
+using core::texts::kProcessingFiles;
+using core::texts::kRandomSeriesNote;
 
 inline QString FilesInFolderLabel(int count) {
-  return kFilesInFolderPrefix + QString::number(count) + kFilesInFolderSuffix;
+  return core::texts::kFilesInFolderPrefix + QString::number(count) + core::texts::kFilesInFolderSuffix;
 }
 
 }  // namespace renvale::shell::texts

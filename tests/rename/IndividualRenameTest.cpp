@@ -3,7 +3,6 @@
 #include "RenameFixture.h"
 #include "core/CoreTexts.h"
 #include "core/RenameFailureTexts.h"
-#include "core/RenameSafetyTexts.h"
 #include "platform/ErrorNumbers.h"
 #include "support/MemoryFileSystem.h"
 
