@@ -34,6 +34,11 @@ class ByteReader {
   // Whether the bytes at `pos` are `text`; false, without setting the
   // error flag, when they lie outside the view.
   bool Matches(qint64 pos, const char* text, qint64 length);
+  // The address of [pos, pos + length) when it lies in the source's memory
+  // (no copy, no virtual call), else nullptr; never sets the error flag.
+  const char* Peek(qint64 pos, qint64 length) const {
+    return ok_ && pos >= 0 && length >= 0 && pos <= direct_ && length <= direct_ - pos ? data_ + pos : nullptr;
+  }
   // Whether [pos, pos + length) lies inside the view.
   bool Has(qint64 pos, qint64 length) const;
 

@@ -4,22 +4,23 @@
 
 namespace renvale::metadata {
 
-bool ExifTagSet::Wants(ExifTag tag, ExifIfd foundIn) const {
-  const Slot& slot = slots_[size_t(tag)];
-  return !slot.present || (!slot.fromHome && foundIn == ExifTagTable::HomeIfd(tag));
+ExifRawValue* ExifTagSet::Claim(ExifTag tag, ExifIfd foundIn) {
+  Slot& slot = slots_[size_t(tag)];
+  if (!slot.present) return &slot.value;
+  return !slot.fromHome && foundIn == ExifTagTable::HomeIfd(tag) ? &spare_ : nullptr;
 }
 
-void ExifTagSet::Offer(ExifTag tag, ExifIfd foundIn, const ExifRawValue& value) {
-  if (!Wants(tag, foundIn)) return;
+void ExifTagSet::Keep(ExifTag tag, ExifIfd foundIn, const ExifRawValue* filled) {
   Slot& slot = slots_[size_t(tag)];
-  const bool home = foundIn == ExifTagTable::HomeIfd(tag);
+  if (filled == &spare_) {
+    slot.value.type = spare_.type;
+    slot.value.count = spare_.count;
+    slot.value.bigEndian = spare_.bigEndian;
+    slot.value.size = spare_.size;
+    std::memcpy(slot.value.bytes, spare_.bytes, size_t(spare_.size));
+  }
   slot.present = true;
-  slot.fromHome = home;
-  slot.value.type = value.type;
-  slot.value.count = value.count;
-  slot.value.bigEndian = value.bigEndian;
-  slot.value.size = value.size;
-  std::memcpy(slot.value.bytes, value.bytes, size_t(value.size));
+  slot.fromHome = foundIn == ExifTagTable::HomeIfd(tag);
 }
 
 const ExifRawValue* ExifTagSet::Get(ExifTag tag) const {

@@ -12,9 +12,11 @@ namespace renvale::metadata {
 // kind of directory the first one in file order.
 class ExifTagSet {
  public:
-  // Whether a value for `tag` found in `foundIn` would be taken.
-  bool Wants(ExifTag tag, ExifIfd foundIn) const;
-  void Offer(ExifTag tag, ExifIfd foundIn, const ExifRawValue& value);
+  // Where to put a value for `tag` found in `foundIn`, or nullptr when it
+  // would not be taken. What is put there counts only after Keep(), so a
+  // value that cannot be read whole leaves the tag as it was.
+  ExifRawValue* Claim(ExifTag tag, ExifIfd foundIn);
+  void Keep(ExifTag tag, ExifIfd foundIn, const ExifRawValue* filled);
   // The value, or nullptr when the file does not have the tag.
   const ExifRawValue* Get(ExifTag tag) const;
   bool Empty() const;
@@ -27,6 +29,7 @@ class ExifTagSet {
     ExifRawValue value;
   };
   std::array<Slot, ExifTagTable::kCount> slots_;
+  ExifRawValue spare_;  // for a value that may replace one already kept
 };
 
 }  // namespace renvale::metadata

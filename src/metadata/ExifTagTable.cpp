@@ -1,5 +1,7 @@
 #include "metadata/ExifTagTable.h"
 
+#include <array>
+
 namespace renvale::metadata {
 
 namespace {
@@ -33,8 +35,15 @@ constexpr Row kRows[ExifTagTable::kCount] = {
 }  // namespace
 
 bool ExifTagTable::FromName(const QString& name, ExifTag* tag) {
+  // Asked twice or more per file in a batch: compare against ready QStrings
+  // (length first) rather than converting each row's name on every call.
+  static const std::array<QString, kCount> names = [] {
+    std::array<QString, kCount> made;
+    for (int i = 0; i < kCount; ++i) made[size_t(i)] = QString::fromLatin1(kRows[i].name);
+    return made;
+  }();
   for (int i = 0; i < kCount; ++i) {
-    if (name == QLatin1String(kRows[i].name)) {
+    if (name.size() == names[size_t(i)].size() && name == names[size_t(i)]) {
       *tag = ExifTag(i);
       return true;
     }
@@ -42,17 +51,27 @@ bool ExifTagTable::FromName(const QString& name, ExifTag* tag) {
   return false;
 }
 
-// Called for every directory entry of every file, most of them not ours:
-// a cheap range test turns those away before the table is searched.
+// Called for every directory entry of every file, most of them not ours.
 bool ExifTagTable::FromNumber(quint16 number, ExifTag* tag) {
-  if (number < 0x010F || (number > 0x0112 && number < 0x829D) || number > 0xA003) return false;
-  for (int i = 0; i < kCount; ++i) {
-    if (kRows[i].number == number) {
-      *tag = ExifTag(i);
-      return true;
-    }
+  switch (number) {
+    case 0x9003: *tag = ExifTag::DateTimeOriginal; return true;
+    case 0x9211: *tag = ExifTag::ImageNumber; return true;
+    case 0x0112: *tag = ExifTag::Orientation; return true;
+    case 0x9000: *tag = ExifTag::ExifVersion; return true;
+    case 0x010F: *tag = ExifTag::Make; return true;
+    case 0x0110: *tag = ExifTag::Model; return true;
+    case 0xA002: *tag = ExifTag::ExifImageWidth; return true;
+    case 0xA003: *tag = ExifTag::ExifImageLength; return true;
+    case 0x9202: *tag = ExifTag::ApertureValue; return true;
+    case 0x9201: *tag = ExifTag::ShutterSpeedValue; return true;
+    case 0x920A: *tag = ExifTag::FocalLength; return true;
+    case 0x8827: *tag = ExifTag::IsoSpeedRatings; return true;
+    case 0x9204: *tag = ExifTag::ExposureBiasValue; return true;
+    case 0x8822: *tag = ExifTag::ExposureProgram; return true;
+    case 0x829D: *tag = ExifTag::FNumber; return true;
+    case 0x9209: *tag = ExifTag::Flash; return true;
+    default: return false;
   }
-  return false;
 }
 
 ExifIfd ExifTagTable::HomeIfd(ExifTag tag) { return kRows[int(tag)].home; }

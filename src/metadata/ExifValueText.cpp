@@ -69,7 +69,17 @@ QString ExifValueText::Format(ExifTag tag, const ExifRawValue& value) {
 QString ExifValueText::Text(const ExifRawValue& value) {
   if (value.type != kAscii && value.type != kUndefined && value.type != kByte) return {};
   int length = 0;
-  while (length < value.size && value.bytes[length] != '\0') ++length;
+  bool plain = true;  // printable ASCII only, the usual case: one conversion
+  while (length < value.size && value.bytes[length] != '\0') {
+    plain = plain && value.bytes[length] >= 0x20 && value.bytes[length] < 0x7F;
+    ++length;
+  }
+  if (plain) {
+    int start = 0;
+    while (start < length && value.bytes[start] == ' ') ++start;
+    while (length > start && value.bytes[length - 1] == ' ') --length;
+    return QString::fromLatin1(value.bytes + start, length - start);
+  }
   const QByteArray bytes(value.bytes, length);
   QString text = QString::fromUtf8(bytes);
   if (text.contains(QChar::ReplacementCharacter)) text = QString::fromLatin1(bytes);

@@ -56,9 +56,11 @@ bool TiffIfdWalker::WalkIfd(ByteReader& block, qint64 offset, ExifIfd ifd, ExifT
   const bool bigEndian = block.BigEndian();
   for (quint16 i = 0; i < count; ++i) {
     const qint64 at = offset + 2 + kEntrySize * i;
-    unsigned char entry[kEntrySize];
+    char copy[kEntrySize];
+    const char* peeked = block.Peek(at, kEntrySize);
     // A truncated directory: keep what is there.
-    if (!reader.Bytes(at, reinterpret_cast<char*>(entry), kEntrySize)) break;
+    if (peeked == nullptr && !reader.Bytes(at, copy, kEntrySize)) break;
+    const auto* entry = reinterpret_cast<const unsigned char*>(peeked != nullptr ? peeked : copy);
     const quint16 tag = Get16(entry, bigEndian);
     const quint16 type = Get16(entry + 2, bigEndian);
     if (exifPointer != nullptr && *exifPointer == 0 && tag == ExifTagTable::kExifIfdPointer &&
@@ -76,27 +78,31 @@ bool TiffIfdWalker::WalkIfd(ByteReader& block, qint64 offset, ExifIfd ifd, ExifT
   return true;
 }
 
-void TiffIfdWalker::TakeEntry(ByteReader block, const unsigned char* entry, ExifTag tag, ExifIfd ifd,
+void TiffIfdWalker::TakeEntry(const ByteReader& block, const unsigned char* entry, ExifTag tag, ExifIfd ifd,
                               ExifTagSet* tags) {
-  if (!tags->Wants(tag, ifd)) return;
-  ExifRawValue value;
-  value.bigEndian = block.BigEndian();
-  value.type = Get16(entry + 2, value.bigEndian);
-  value.count = Get32(entry + 4, value.bigEndian);
-  const int unit = TypeSize(value.type);
-  const quint64 total = quint64(unit) * value.count;
+  ExifRawValue* value = tags->Claim(tag, ifd);
+  if (value == nullptr) return;
+  value->bigEndian = block.BigEndian();
+  value->type = Get16(entry + 2, value->bigEndian);
+  value->count = Get32(entry + 4, value->bigEndian);
+  const int unit = TypeSize(value->type);
+  const quint64 total = quint64(unit) * value->count;
   if (total == 0) return;
   // A value that does not lie wholly inside the block is skipped, so a cut
   // file never yields a cut text. Of a long value only the head is kept (and
   // must be there); no tag of ours needs more.
-  value.size = int(qMin<quint64>(total, ExifRawValue::kMaxBytes));
-  value.size -= value.size % unit;
-  if (total <= 4) {
-    std::memcpy(value.bytes, entry + 8, size_t(value.size));
-  } else if (value.size == 0 || !block.Bytes(Get32(entry + 8, value.bigEndian), value.bytes, value.size)) {
-    return;
+  value->size = int(qMin<quint64>(total, ExifRawValue::kMaxBytes));
+  value->size -= value->size % unit;
+  if (value->size == 0) return;
+  const qint64 at = Get32(entry + 8, value->bigEndian);
+  const char* peeked = total <= 4 ? reinterpret_cast<const char*>(entry + 8) : block.Peek(at, value->size);
+  if (peeked != nullptr) {
+    std::memcpy(value->bytes, peeked, size_t(value->size));
+  } else {
+    ByteReader reader = block;  // a failed read must not mark the whole block
+    if (!reader.Bytes(at, value->bytes, value->size)) return;
   }
-  tags->Offer(tag, ifd, value);
+  tags->Keep(tag, ifd, value);
 }
 
 }  // namespace renvale::metadata

@@ -26,7 +26,7 @@ class TiffIfdWalker {
   static bool WalkIfd(ByteReader& block, qint64 offset, ExifIfd ifd, ExifTagSet* tags, quint32* exifPointer,
                       bool panasonicIso = false);
   // `entry` holds the directory entry's twelve bytes.
-  static void TakeEntry(ByteReader block, const unsigned char* entry, ExifTag tag, ExifIfd ifd, ExifTagSet* tags);
+  static void TakeEntry(const ByteReader& block, const unsigned char* entry, ExifTag tag, ExifIfd ifd, ExifTagSet* tags);
   static int TypeSize(quint16 type);
 };
 

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "metadata/ExifReader.h"
+#include "metadata/ExifTagTable.h"
 #include "support/TiffBuilder.h"
 
 namespace renvale::test {
@@ -180,6 +181,29 @@ TEST(ExifValueText, OnlyTheSixteenNamesAnswerAndCaseMatters) {
   EXPECT_EQ(reader.Tag("ExifImageLength"), "");
   EXPECT_EQ(reader.Tag("Software"), "");
   EXPECT_EQ(reader.Tag(""), "");
+}
+
+}  // namespace
+}  // namespace renvale::test
+
+namespace renvale::test {
+namespace {
+
+// The number lookup is written out for speed; it must agree with the table.
+TEST(ExifTagTable, NumberAndNameLookupsAgreeWithTheTable) {
+  using metadata::ExifTag;
+  using metadata::ExifTagTable;
+  for (int i = 0; i < ExifTagTable::kCount; ++i) {
+    const auto tag = ExifTag(i);
+    ExifTag found = ExifTag(0);
+    EXPECT_TRUE(ExifTagTable::FromNumber(ExifTagTable::Number(tag), &found)) << ExifTagTable::Name(tag);
+    EXPECT_EQ(found, tag) << ExifTagTable::Name(tag);
+    EXPECT_TRUE(ExifTagTable::FromName(QString::fromLatin1(ExifTagTable::Name(tag)), &found));
+    EXPECT_EQ(found, tag) << ExifTagTable::Name(tag);
+  }
+  ExifTag unused;
+  EXPECT_FALSE(ExifTagTable::FromNumber(ExifTagTable::kExifIfdPointer, &unused));
+  EXPECT_FALSE(ExifTagTable::FromNumber(0x0132, &unused));  // DateTime, not DateTimeOriginal
 }
 
 }  // namespace
