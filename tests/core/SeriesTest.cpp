@@ -97,16 +97,13 @@ std::vector<qint64> DrawAll(core::RandomSeriesPool& pool) {
   return drawn;
 }
 
-TEST(RandomSeriesPool, ZeroSourceTakesTheFirstEntryEachTime) {
-  core::RandomSeriesPool pool(7, 3, [] { return 0.0; });
-  EXPECT_EQ(DrawAll(pool), (std::vector<qint64>{7, 8, 9}));
-}
-
 TEST(RandomSeriesPool, KthRemainingEntryIsTaken) {
-  // k = floor(size * 0.5) + 1 of what is left: 3rd of 10..14 -> 12, 3rd of
-  // {10,11,13,14} -> 13, 2nd of {10,11,14} -> 11, 2nd of {10,14} -> 14.
-  core::RandomSeriesPool pool(10, 5, [] { return 0.5; });
-  EXPECT_EQ(DrawAll(pool), (std::vector<qint64>{12, 13, 11, 14, 10}));
+  // k = floor(size * r) + 1 of what is left: with r = 0.5, 3rd of 10..14 ->
+  // 12, 3rd of {10,11,13,14} -> 13, 2nd of {10,11,14} -> 11, 2nd of {10,14} -> 14.
+  core::RandomSeriesPool first(7, 3, [] { return 0.0; });
+  EXPECT_EQ(DrawAll(first), (std::vector<qint64>{7, 8, 9}));
+  core::RandomSeriesPool middle(10, 5, [] { return 0.5; });
+  EXPECT_EQ(DrawAll(middle), (std::vector<qint64>{12, 13, 11, 14, 10}));
 }
 
 TEST(RandomSeriesPool, SourceOutsideRangeStillDrawsEveryNumberOnce) {

@@ -1,38 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "core/ButtonCaptions.h"
 #include "core/TemplateFile.h"
 
 namespace renvale::test {
 namespace {
-
-TEST(ButtonCaptions, EscapingPairsLeftToRight) {
-  EXPECT_EQ(core::EscapeCaption("A&B"), "A&&B");
-  EXPECT_EQ(core::UnescapeCaption("A&&B"), "A&B");
-  EXPECT_EQ(core::UnescapeCaption("&&&"), "&&");
-  EXPECT_EQ(core::UnescapeCaption(core::EscapeCaption("Kids & Pets &")), "Kids & Pets &");
-}
-
-TEST(ButtonCaptions, EditorPromptHasABlankAfterTheHash) {
-  EXPECT_EQ(core::EditorPrompt(core::CustomEditIndex(9)), "Enter new text for Button # 9");
-  EXPECT_EQ(core::EditorPrompt(core::TempEditIndex(0)), "Enter new text for Temp # 1");
-  EXPECT_EQ(core::EditorPrompt(core::TempEditIndex(2)), "Enter new text for Temp # 3");
-  EXPECT_FALSE(core::IsTempEditIndex(core::CustomEditIndex(9)));
-}
-
-TEST(ButtonCaptions, TempTextDropsTheSelectedExtension) {
-  EXPECT_EQ(core::TempTextFromFilename("Beach 2004.jpg", ".JPG"), "Beach 2004");
-  EXPECT_EQ(core::TempTextFromFilename("Beach", ".JPG"), "Beach");
-  EXPECT_EQ(core::TempTextFromFilename("Beach.jpg", ""), "Beach.jpg");
-  EXPECT_EQ(core::TempTextFromFilename("G", ".JPG"), "G");
-}
-
-TEST(TemplateFile, NameGetsTheExtensionOnce) {
-  EXPECT_EQ(core::TemplateFileName("Kids"), "Kids.rnt");
-  EXPECT_EQ(core::TemplateFileName("Kids.RNT"), "Kids.RNT");
-  EXPECT_EQ(core::TemplateFileName("rnt"), "rnt.rnt");
-  EXPECT_EQ(core::TemplateFileName(""), ".rnt");
-}
 
 std::array<QString, core::kTemplateRecordCount> Captions() {
   return {"Kids && Pets", "", " lead", "Smith, John", "Ünïcödé €", "6", "7", "8", "9"};
