@@ -30,10 +30,6 @@ TEST(FileSystemTrash, MovesTheFileIntoTheUserTrashWithAnEscapedPath) {
   const QByteArray escaped = (folder / name).toPercentEncoding("/");
   EXPECT_TRUE(info.contains("\nPath=" + escaped + "\n")) << info.constData();
   EXPECT_TRUE(escaped.endsWith("a%20b%25%E9.jpg"));
-}
-
-TEST(FileSystemTrash, MissingFileIsReportedNotFound) {
-  ScratchFolder folder;
   EXPECT_EQ(RealFileSystem().MoveToTrash(folder / "absent.jpg"), platform::kFileNotFound);
 }
 
@@ -94,26 +90,6 @@ TEST(AttributeLetters, LettersFollowKindNameAndWritability) {
   EXPECT_EQ(platform::AttributeLetters(fs, folder / "absent.jpg"), "");
   fs.MakeReadOnly(folder.path());
   EXPECT_EQ(platform::AttributeLetters(fs, folder / "sub"), "DR");
-}
-
-TEST(FaultyFileSystem, InjectsErrorsAndWriteProtection) {
-  ScratchFolder folder;
-  ASSERT_TRUE(WriteRaw(folder / "a.jpg", "a"));
-  FaultyFileSystem fs(RealFileSystem());
-  fs.Fail(FsOperation::Rename, folder / "b.jpg", platform::kPathFileAccess, 1);
-  EXPECT_EQ(fs.RenameNoReplace(folder / "a.jpg", folder / "b.jpg"), platform::kPathFileAccess);
-  EXPECT_TRUE(RawExists(folder / "a.jpg"));
-  EXPECT_EQ(fs.RenameNoReplace(folder / "a.jpg", folder / "b.jpg"), 0);  // the fault was used up
-  EXPECT_EQ(fs.Calls(FsOperation::Rename), 2);
-
-  fs.MakeReadOnly(folder.path());
-  EXPECT_EQ(fs.WriteWholeFile(folder / "RV_TestFile", "probe"), platform::kPathFileAccess);
-  EXPECT_EQ(fs.CopyFile(folder / "b.jpg", folder / "c.jpg", false), platform::kPathFileAccess);
-  EXPECT_FALSE(RawExists(folder / "RV_TestFile"));
-  EXPECT_FALSE(RawExists(folder / "c.jpg"));
-  QByteArray contents;
-  EXPECT_EQ(fs.ReadWholeFile(folder / "b.jpg", 10, &contents), 0);
-  EXPECT_EQ(contents, "a");
 }
 
 }  // namespace
