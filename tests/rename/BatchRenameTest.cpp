@@ -29,8 +29,8 @@ class BatchRenameTest : public RenameFixture {
 
 TEST_F(BatchRenameTest, HolidaySeries) {
   for (const bool autoReset : {false, true}) {
-    for (const auto& [name, contents] : Folder()) platform::RealFileSystem().RemoveFile(Path(name));
-    MakeAbc();
+    Remake({"a.jpg", "b.JPG", "c.png"});
+    Select({"a.jpg", "b.JPG", "c.png"});
     settings.placeholders = 3;
     settings.autoResetSeries = autoReset;
     view.series = "7";
@@ -124,8 +124,7 @@ TEST_F(BatchRenameTest, ExistingTargets) {
   };
   settings.placeholders = 0;
   for (const Case& c : cases) {
-    for (const auto& [name, contents] : Folder()) platform::RealFileSystem().RemoveFile(Path(name));
-    Make({"2.jpg", "a.jpg", "b.jpg", "c.jpg"});
+    Remake({"2.jpg", "a.jpg", "b.jpg", "c.jpg"});
     Select({"a.jpg", "b.jpg", "c.jpg"});
     view.series = "2";
     view.reselected.clear();
@@ -141,8 +140,8 @@ TEST_F(BatchRenameTest, ExistingTargets) {
 
 TEST_F(BatchRenameTest, EveryFailureEndsTheBatch) {
   for (const int error : {70, 75, 1028}) {
-    for (const auto& [name, contents] : Folder()) platform::RealFileSystem().RemoveFile(Path(name));
-    MakeAbc();
+    Remake({"a.jpg", "b.JPG", "c.png"});
+    Select({"a.jpg", "b.JPG", "c.png"});
     fs.ClearFaults();
     fs.FailRename(Path("b.JPG"), error);
     port.Clear();

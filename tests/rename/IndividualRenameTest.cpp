@@ -82,16 +82,14 @@ TEST_F(IndividualRenameTest, SuccessReselectsTheRenamedFile) {
   EXPECT_EQ(view.previews, 0);
 }
 
-TEST_F(IndividualRenameTest, CaseOnlyChangeRenamesWithoutAsking) {
+TEST_F(IndividualRenameTest, CaseOnlyChangeAsksOnlyWhenTheOtherNameIsAnotherFile) {
   Make({"photo.jpg"});
   Select({"photo.jpg"});
   Rename("Photo.jpg");
   EXPECT_TRUE(port.messages.empty());
   EXPECT_EQ(Folder(), (Files{{"Photo.jpg", "photo.jpg"}}));
-}
 
-TEST_F(IndividualRenameTest, CaseOnlyChangeOntoAnotherFileAsks) {
-  Make({"photo.jpg", "Photo.jpg"});
+  Remake({"photo.jpg", "Photo.jpg"});
   Select({"photo.jpg"});
   port.Script(MessageAnswer::No);
   Rename("Photo.jpg");
@@ -124,8 +122,7 @@ TEST_F(IndividualRenameTest, OverwriteAnswers) {
       {MessageAnswer::Yes, {{"05.JPG", "a.JPG"}}, "06"},
   };
   for (const Case& c : cases) {
-    for (const auto& [name, contents] : Folder()) platform::RealFileSystem().RemoveFile(Path(name));
-    Make({"a.JPG", "05.JPG"});
+    Remake({"a.JPG", "05.JPG"});
     Select({"a.JPG"});
     view.series = "05";
     port.Clear();
@@ -177,7 +174,7 @@ TEST_F(IndividualRenameTest, OverwriteFailuresSayWhatHappened) {
   EXPECT_EQ(Folder(), (Files{{"a.JPG", "a.JPG"}}));
 }
 
-TEST_F(IndividualRenameTest, RevertAndClear) {
+TEST_F(IndividualRenameTest, RevertNeedsASelectionAndForcesTheCase) {
   core::IndividualRename rename(context);
   rename.RevertNewName();
   EXPECT_EQ(port.Texts(), QStringList{"No file is selected!"});
@@ -185,8 +182,6 @@ TEST_F(IndividualRenameTest, RevertAndClear) {
   settings.forceLowerCaseExtension = true;
   rename.RevertNewName();
   EXPECT_EQ(view.newName, "a.jpg");
-  rename.ClearNewName();
-  EXPECT_EQ(view.newName, "");
 }
 
 }  // namespace

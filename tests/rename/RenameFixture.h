@@ -31,6 +31,12 @@ class RenameFixture : public ::testing::Test {
     for (const char* name : names) platform::RealFileSystem().WriteWholeFile(Path(name), name);
   }
 
+  // Empties the folder, then makes `names`.
+  void Remake(std::initializer_list<const char*> names) {
+    for (const auto& entry : Folder()) platform::RealFileSystem().RemoveFile(Path(entry.first));
+    Make(names);
+  }
+
   // Name -> contents of every file in the folder.
   std::map<QByteArray, QByteArray> Folder() {
     std::vector<QByteArray> names;
