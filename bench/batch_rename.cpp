@@ -37,8 +37,8 @@ void MakeFolder() {
   renvale::test::ExifFields fields = renvale::test::TypicalExifFields();
   for (int i = 0; i < kFileCount; ++i) {
     fields.dateTimeOriginal = QStringLiteral("2004:07:%1 %2:%3:%4")
-                                  .arg(1 + i / 3600 % 28, 2, 10, QLatin1Char('0'))
-                                  .arg(i / 60 % 60, 2, 10, QLatin1Char('0'))
+                                  .arg(1 + i / 86400, 2, 10, QLatin1Char('0'))
+                                  .arg(i / 3600 % 24, 2, 10, QLatin1Char('0'))
                                   .arg(i / 60 % 60, 2, 10, QLatin1Char('0'))
                                   .arg(i % 60, 2, 10, QLatin1Char('0'));
     const QByteArray bytes = renvale::test::MakeExifJpeg(&fields);

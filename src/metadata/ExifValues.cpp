@@ -57,6 +57,19 @@ QString ExifTokenValue(const ExifFile& file, const QString& token, const ExifDat
   return ValueOf(file, tags, form, formats);
 }
 
+ExifTokenValues ReadExifTokenValues(const ExifFile& file, const ExifDateFormats& formats) {
+  FileTags tags;
+  ExifTokenValues values;
+  if (!ReadTags(file, &tags)) return values;
+  values.ok = true;
+  values.serial = tags.serial;
+  const QString when = ExposureDateTime(file.fs, file.folder, file.rawName, tags.dateTimeOriginal);
+  values.date = ExifDateTimeText(when, kFormDate, formats.date, formats.time);
+  values.time = ExifDateTimeText(when, kFormTime, formats.date, formats.time);
+  values.dateTime = ExifDateTimeText(when, kFormDateAndTime, formats.date, formats.time);
+  return values;
+}
+
 QString ExifInsertValue(const ExifFile& file, int form, bool batchMode,
                         const ExifDateFormats& formats) {
   FileTags tags;

@@ -37,6 +37,18 @@ QString ExifTokenValue(const ExifFile& file, const QString& token, const ExifDat
 // modes read the file: a missing serial number is warned about with the
 // message of the mode, and the result is returned all the same. A reader
 // error gives an empty string; a form outside 1 to 4 too.
+// Every token value of one file from a single read of its EXIF block: what a
+// batch needs when a name holds both the date and the time. `ok` is false
+// after a reader error (already shown), and every value is then empty.
+struct ExifTokenValues {
+  bool ok = false;
+  QString date;
+  QString time;
+  QString dateTime;
+  QString serial;
+};
+ExifTokenValues ReadExifTokenValues(const ExifFile& file, const ExifDateFormats& formats);
+
 QString ExifInsertValue(const ExifFile& file, int form, bool batchMode,
                         const ExifDateFormats& formats);
 

@@ -35,6 +35,7 @@
 #include "shell/ComposeController.h"
 #include "shell/FilenameAsTemp.h"
 #include "shell/ManTempDialog.h"
+#include "shell/MetadataTokenSource.h"
 #include "shell/FileListModel.h"
 #include "shell/FolderBrowsing.h"
 #include "shell/QuickTipOffer.h"
@@ -74,7 +75,6 @@ void SetupOneShot(QTimer& timer, const char* name) {
 MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
     : QMainWindow(parent),
       services_(std::move(services)),
-      tokens_(services_.fs, services_.messages, settings_),
       renameView_(*this) {
   ui_.Setup(this);
   files_ = new FileListModel(this);
@@ -170,15 +170,25 @@ void MainWindow::BuildComposeControllers() {
   ui_.templatesAction->setEnabled(true);
 }
 
-core::RenameContext MainWindow::RenameContext() {
-  return {session_, settings_, renameView_, services_.messages, services_.fs, tokens_};
+// Each operation gets its own token source, so values read from a file
+// never outlive the operation that read them.
+template <typename Operation, typename Action>
+void MainWindow::RunRename(Action action) {
+  MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
+  const core::RenameContext context{session_, settings_, renameView_, services_.messages, services_.fs, tokens};
+  Operation operation(context);
+  action(operation);
 }
 
 void MainWindow::ConnectRenameButtons() {
-  connect(ui_.Command2, &QPushButton::clicked, this, [this] { core::IndividualRename(RenameContext()).RenameSelectedFile(); });
-  connect(ui_.Command7, &QPushButton::clicked, this, [this] { core::IndividualRename(RenameContext()).RevertNewName(); });
-  connect(ui_.Command8, &QPushButton::clicked, this, [this] { core::IndividualRename(RenameContext()).ClearNewName(); });
-  connect(ui_.Command11, &QPushButton::clicked, this, [this] { core::BatchRename(RenameContext()).StartBatchRename(); });
+  connect(ui_.Command2, &QPushButton::clicked, this,
+          [this] { RunRename<core::IndividualRename>([](auto& rename) { rename.RenameSelectedFile(); }); });
+  connect(ui_.Command7, &QPushButton::clicked, this,
+          [this] { RunRename<core::IndividualRename>([](auto& rename) { rename.RevertNewName(); }); });
+  connect(ui_.Command8, &QPushButton::clicked, this,
+          [this] { RunRename<core::IndividualRename>([](auto& rename) { rename.ClearNewName(); }); });
+  connect(ui_.Command11, &QPushButton::clicked, this,
+          [this] { RunRename<core::BatchRename>([](auto& batch) { batch.StartBatchRename(); }); });
   // Random numbers and file sets do not mix well; say so while it is ticked.
   auto* note = findChild<QLabel*>(QStringLiteral("RandomNote"));
   connect(ui_.Check1, &QCheckBox::toggled, note, &QLabel::setVisible);

@@ -10,7 +10,6 @@
 #include "core/SettingsRecord.h"
 #include "platform/MountList.h"
 #include "shell/MainWindowRenameView.h"
-#include "shell/MetadataTokenSource.h"
 #include "shell/MainWindowUi.h"
 
 namespace renvale::platform {
@@ -92,7 +91,8 @@ class MainWindow : public QMainWindow {
   void DisableLaterFeatures();
   void BuildComposeControllers();
   void ConnectRenameButtons();
-  core::RenameContext RenameContext();
+  template <typename Operation, typename Action>
+  void RunRename(Action action);
   void ScaleFonts();
 
   MainWindowServices services_;
@@ -100,7 +100,6 @@ class MainWindow : public QMainWindow {
   core::SettingsRecord settings_;
   MainWindowUi ui_;
   FileListModel* files_ = nullptr;
-  MetadataTokenSource tokens_;
   MainWindowRenameView renameView_;
   std::vector<platform::Volume> drives_;
   QTimer FNDelay;

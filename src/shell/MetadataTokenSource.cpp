@@ -1,7 +1,6 @@
 #include "shell/MetadataTokenSource.h"
 
 #include "core/TokenExpansion.h"
-#include "metadata/ExifValues.h"
 #include "metadata/mdlID3.h"
 #include "platform/FileName.h"
 
@@ -11,16 +10,16 @@ QString MetadataTokenSource::ExifValue(const QByteArray& folder, const platform:
   const QByteArray path = platform::JoinPath(folder, file.raw);
   if (path != cachedPath_) {
     cachedPath_ = path;
-    cachedValues_.clear();
+    cached_ = metadata::ReadExifTokenValues({fs_, messages_, folder, file.raw},
+                                            {settings_.exifDate, settings_.exifTime});
   }
-  const int key = static_cast<int>(token);
-  const auto found = cachedValues_.constFind(key);
-  if (found != cachedValues_.constEnd()) return *found;
-  const metadata::ExifFile exifFile{fs_, messages_, folder, file.raw};
-  const QString value = metadata::ExifTokenValue(exifFile, core::TokenUpper(token),
-                                                 {settings_.exifDate, settings_.exifTime});
-  cachedValues_.insert(key, value);
-  return value;
+  switch (token) {
+    case core::Token::Date: return cached_.date;
+    case core::Token::Time: return cached_.time;
+    case core::Token::DateTime: return cached_.dateTime;
+    case core::Token::Serial: return cached_.serial;
+    default: return {};
+  }
 }
 
 core::Id3Values MetadataTokenSource::Id3(const QByteArray& folder, const platform::FileName& file) {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QHash>
 
 #include "core/SettingsRecord.h"
 #include "core/TokenSource.h"
+#include "metadata/ExifValues.h"
 
 namespace renvale::platform {
 class FileSystem;
@@ -13,8 +13,8 @@ class MessagePort;
 namespace renvale::shell {
 
 // The renames' file values, read with the EXIF and ID3 readers. A batch asks
-// for several tokens of one file in a row, so the values of the last file
-// are kept until another file is asked about.
+// for several tokens of one file in a row, so each file's EXIF block is read
+// once and its values kept until another file is asked about.
 class MetadataTokenSource : public core::TokenSource {
  public:
   MetadataTokenSource(platform::FileSystem& fs, platform::MessagePort& messages,
@@ -29,7 +29,7 @@ class MetadataTokenSource : public core::TokenSource {
   platform::MessagePort& messages_;
   const core::SettingsRecord& settings_;
   QByteArray cachedPath_;
-  QHash<int, QString> cachedValues_;
+  metadata::ExifTokenValues cached_;
 };
 
 }  // namespace renvale::shell
