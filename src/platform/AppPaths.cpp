@@ -26,6 +26,6 @@ QString DataFolder() {
   return folder;
 }
 
-QString HelpFilePath() { return QStringLiteral("qrc:/help/index.html"); }
+QString HelpFilePath() { return QStringLiteral("qrc:/help/"); }
 
 }  // namespace renvale::platform
