@@ -1,58 +1,22 @@
 #include "compose/ComposeFixture.h"
 
 #include <QAction>
-#include <QDir>
-#include <QFile>
 #include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QTest>
 
-#include "platform/ErrorNumbers.h"
-#include "platform/FileSystem.h"
 #include "shell/FileListModel.h"
 
 namespace renvale::test {
-namespace {
-
-template <typename Controller, typename Make>
-Controller* Attached(shell::MainWindow& window, Make make) {
-  if (auto* existing = window.findChild<Controller*>()) return existing;
-  return make();
-}
-
-}  // namespace
-
-void ComposeFixture::SetUp() {
-  ASSERT_TRUE(dir.isValid());
-  QDir(dir.path()).mkpath(QStringLiteral("files"));
-  storage = std::make_unique<platform::QtSettingsStorage>(dir.path() + QStringLiteral("/Renvale.conf"));
-}
-
-QByteArray ComposeFixture::Folder() const { return QFile::encodeName(dir.path()) + "/files/"; }
 
 shell::MainWindow& ComposeFixture::Open() {
-  shell::MainWindowServices services{
-      platform::RealFileSystem(), messages, *storage, tips,
-      [](QWidget*, const QString&, const QString&) { return QString(); },
-      [] { return std::vector<platform::Volume>{}; }, [this] { return Folder(); }};
-  window = std::make_unique<shell::MainWindow>(std::move(services));
-  shell::MainWindow& main = *window;
-  compose = Attached<shell::ComposeController>(main, [&] {
-    return new shell::ComposeController(main.Ui(), main.Session(), main.Settings(),
-                                        {platform::RealFileSystem(), messages, tips, {}}, &main);
-  });
-  editor = Attached<shell::ButtonEditor>(
-      main, [&] { return new shell::ButtonEditor(main.Ui(), main.Settings(), messages, &main); });
-  tempSaver = Attached<shell::FilenameAsTemp>(
-      main, [&] { return new shell::FilenameAsTemp(main.Ui(), main.Session(), messages, tips, &main); });
-  main.Start();
+  shell::MainWindow& main = MainWindowFixture::Open();
+  compose = main.findChild<shell::ComposeController*>();
+  editor = main.findChild<shell::ButtonEditor*>();
+  tempSaver = main.findChild<shell::FilenameAsTemp*>();
   main.show();
   return main;
-}
-
-void ComposeFixture::MakeFile(const QString& name, const QByteArray& bytes) {
-  ASSERT_EQ(platform::RealFileSystem().WriteWholeFile(Folder() + name.toUtf8(), bytes), platform::kNoError);
 }
 
 void ComposeFixture::Select(std::initializer_list<int> rows) {

@@ -48,12 +48,12 @@ void MainWindowFixture::MakeFiles(const QStringList& names) {
   for (const QString& name : names) MakeFile(name.toUtf8());
 }
 
-void MainWindowFixture::MakeFile(const QByteArray& rawName) {
+void MainWindowFixture::MakeFile(const QByteArray& rawName, const QByteArray& bytes) {
   // Straight to the file system: the names may be bytes Qt cannot spell,
   // and thousands of them must not each wait for a flush to disk.
   const int fd = ::open((Folder() + rawName).constData(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
   ASSERT_GE(fd, 0);
-  ASSERT_EQ(::write(fd, "x", 1), 1);
+  ASSERT_EQ(::write(fd, bytes.constData(), static_cast<size_t>(bytes.size())), bytes.size());
   ::close(fd);
 }
 

@@ -32,7 +32,7 @@ class MainWindowFixture : public ::testing::Test {
   shell::MainWindow& Open();
   void CloseWindow();
   void MakeFiles(const QStringList& names);
-  void MakeFile(const QByteArray& rawName);
+  void MakeFile(const QByteArray& rawName, const QByteArray& bytes = "x");
   QByteArray Folder() const;
   QStringList ListedNames();
   void ClickRow(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
