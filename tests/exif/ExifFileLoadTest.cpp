@@ -8,10 +8,11 @@
 #include <QTemporaryDir>
 #include <cerrno>
 
-#include "FakeFileSystem.h"
+#include "ExifTestBytes.h"
 #include "metadata/ExifReader.h"
 #include "metadata/ExifTexts.h"
 #include "platform/ErrorNumbers.h"
+#include "support/MemoryFileSystem.h"
 #include "support/SampleImages.h"
 
 namespace renvale::test {
@@ -24,16 +25,10 @@ constexpr qint64 kGiB = qint64(1) << 30;
 // What a load may read at most: the head of the file and a few windows.
 constexpr qint64 kReadBudget = 64 * 1024 + 4 * 8 * 1024;
 
-QByteArray Le16(quint16 v) { return QByteArray(1, char(v & 0xFF)) + char(v >> 8); }
-QByteArray Le32(quint32 v) { return Le16(quint16(v & 0xFFFF)) + Le16(quint16(v >> 16)); }
-QByteArray Entry(quint16 tag, quint16 type, quint32 count, quint32 value) {
-  return Le16(tag) + Le16(type) + Le32(count) + Le32(value);
-}
-
 TEST(ExifFileLoad, SameAnswersAsFromMemory) {
   const ExifFields fields = TypicalExifFields();
   const QByteArray jpeg = MakeExifJpeg(&fields);
-  FakeFileSystem fs;
+  MemoryFileSystem fs;
   fs.Add("/pics/a.jpg", jpeg);
   ExifReader fromFile;
   fromFile.Load(fs, "/pics/a.jpg");
@@ -46,39 +41,42 @@ TEST(ExifFileLoad, SameAnswersAsFromMemory) {
   }
 }
 
-// A 1 GiB TIFF-based raw whose Exif IFD lies 768 MiB in: found, and only a
-// few KiB read.
-TEST(ExifFileLoad, HugeRawIsNotReadWhole) {
+// 1 GiB files: a TIFF-based raw whose Exif IFD lies 768 MiB in, and a JPEG.
+// The EXIF is found, and only a few KiB read.
+TEST(ExifFileLoad, HugeFilesAreNotReadWhole) {
   const quint32 exifAt = 768u << 20;
-  const QByteArray head = QByteArray("II*\0", 4) + Le32(8) + Le16(2) + Entry(0x010F, 2, 4, 0x00636241) +
-                          Entry(0x8769, 4, 1, exifAt) + Le32(0);
-  const QByteArray exif = Le16(1) + Entry(0x9003, 2, 20, exifAt + 18) + Le32(0) + QByteArray("2010:01:02 03:04:05", 20);
-  FakeFileSystem fs;
-  fs.Add("/raw.nef", head, kGiB);
-  fs.Put("/raw.nef", exifAt, exif);
-  ExifReader reader;
-  reader.Load(fs, "/raw.nef");
-  EXPECT_EQ(reader.Status(), "");
-  EXPECT_EQ(reader.Tag("Make"), "Abc");
-  EXPECT_EQ(reader.Tag("DateTimeOriginal"), "2010:01:02 03:04:05");
-  EXPECT_LE(fs.bytesRead, kReadBudget);
-}
-
-TEST(ExifFileLoad, HugeJpegIsNotReadWhole) {
   const ExifFields fields = TypicalExifFields();
-  FakeFileSystem fs;
-  fs.Add("/big.jpg", MakeExifJpeg(&fields), kGiB);
-  ExifReader reader;
-  reader.Load(fs, "/big.jpg");
-  EXPECT_EQ(reader.Tag("DateTimeOriginal"), fields.dateTimeOriginal);
-  EXPECT_LE(fs.bytesRead, kReadBudget);
+  const struct {
+    const char* name;
+    QByteArray head;
+    QByteArray atExif;
+    QString make;
+    QString date;
+  } cases[] = {
+      {"raw",
+       Header() + Le16(2) + Entry(0x010F, 2, 4, 0x00636241) + Entry(0x8769, 4, 1, exifAt) + Le32(0),
+       Le16(1) + Entry(0x9003, 2, 20, exifAt + 18) + Le32(0) + QByteArray("2010:01:02 03:04:05", 20), "Abc",
+       "2010:01:02 03:04:05"},
+      {"JPEG", MakeExifJpeg(&fields), {}, fields.make, fields.dateTimeOriginal},
+  };
+  for (const auto& c : cases) {
+    MemoryFileSystem fs;
+    fs.Add("/big", c.head, kGiB);
+    if (!c.atExif.isEmpty()) fs.Put("/big", exifAt, c.atExif);
+    ExifReader reader;
+    reader.Load(fs, "/big");
+    EXPECT_EQ(reader.Status(), "") << c.name;
+    EXPECT_EQ(reader.Tag("Make"), c.make) << c.name;
+    EXPECT_EQ(reader.Tag("DateTimeOriginal"), c.date) << c.name;
+    EXPECT_LE(fs.bytesRead, kReadBudget) << c.name;
+  }
 }
 
 // Failures are errors, never "no EXIF": a file that cannot be read must not
 // silently get a date from elsewhere.
 TEST(ExifFileLoad, OpenAndReadFailuresAreErrors) {
   const ExifFields fields = TypicalExifFields();
-  const QByteArray head = QByteArray("II*\0", 4) + Le32(8) + Le16(1) + Entry(0x8769, 4, 1, 1u << 20) + Le32(0);
+  const QByteArray head = Header() + Le16(1) + Entry(0x8769, 4, 1, 1u << 20) + Le32(0);
   const struct {
     const char* name;
     QByteArray path;
@@ -92,10 +90,10 @@ TEST(ExifFileLoad, OpenAndReadFailuresAreErrors) {
       {"later read fails", "/raw.tif", 0, 1, ExifTexts::kCannotRead},
   };
   for (const auto& c : cases) {
-    FakeFileSystem fs;
+    MemoryFileSystem fs;
     fs.Add("/a.jpg", MakeExifJpeg(&fields));
     fs.Add("/raw.tif", head, 2 << 20);
-    fs.openError = c.openError;
+    if (c.openError != 0) fs.FailOpen(c.path, c.openError);
     fs.readFailsAt = c.readFailsAt;
     ExifReader reader;
     reader.Load(fs, c.path);

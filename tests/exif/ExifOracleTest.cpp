@@ -10,55 +10,18 @@
 #include <QStringList>
 #include <cmath>
 
-#include "FakeFileSystem.h"
+#include "ExifTestBytes.h"
 #include "metadata/ExifReader.h"
 #include "platform/FileSystem.h"
+#include "support/MemoryFileSystem.h"
+#include "support/OracleCsv.h"
 
 namespace renvale::test {
 namespace {
 
 using metadata::ExifReader;
 
-QString TestDataFolder() { return QString::fromLocal8Bit(qgetenv("RENVALE_TESTDATA")); }
-
-// One CSV line with double-quoted fields ("" inside quotes is a quote).
-QStringList ParseCsvLine(const QString& line) {
-  QStringList fields;
-  QString field;
-  bool quoted = false;
-  for (int i = 0; i < line.size(); ++i) {
-    const QChar c = line[i];
-    if (quoted && c == '"' && i + 1 < line.size() && line[i + 1] == '"') {
-      field += '"';
-      ++i;
-    } else if (c == '"') {
-      quoted = !quoted;
-    } else if (c == ',' && !quoted) {
-      fields << field;
-      field.clear();
-    } else {
-      field += c;
-    }
-  }
-  return fields << field;
-}
-
-using Row = QHash<QString, QString>;
-
-std::vector<Row> ReadOracle(const QString& folder) {
-  QFile file(folder + "/oracle.csv");
-  std::vector<Row> rows;
-  if (!file.open(QIODevice::ReadOnly)) return rows;
-  const QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
-  const QStringList header = ParseCsvLine(lines.value(0));
-  for (int i = 1; i < lines.size(); ++i) {
-    const QStringList fields = ParseCsvLine(lines[i]);
-    Row row;
-    for (int c = 0; c < header.size(); ++c) row.insert(header[c], fields.value(c));
-    rows.push_back(row);
-  }
-  return rows;
-}
+using Row = OracleRow;
 
 // Files where our answer differs from ExifTool's on purpose, with the reason.
 struct Deliberate {
@@ -104,12 +67,6 @@ bool SameFNumber(const QString& ours, const QString& oracle) {
   if (!ours.startsWith("f/")) return false;
   return std::fabs(ours.mid(2).toDouble() - oracle.toDouble()) < 0.051;
 }
-
-const char* const kAllTags[] = {
-    "DateTimeOriginal", "ImageNumber",  "Orientation",       "ExifVersion",       "Make",
-    "Model",            "ExifImageWidth", "ExifImagelength", "ApertureValue",     "ShutterSpeedValue",
-    "FocalLength",      "ISOSpeedRatings", "ExposureBiasValue", "ExposureProgram", "Fnumber",
-    "Flash"};
 
 class OracleTest : public ::testing::Test {
  protected:
@@ -184,10 +141,9 @@ TEST_F(OracleTest, EveryTagOfEveryFileIsCleanText) {
   for (const Row& row : rows_) {
     ExifReader reader;
     Load(row["file"], &reader);
-    for (const char* tag : kAllTags) {
-      const QString value = reader.Tag(tag);
+    ForEveryTag(reader, [&](const char* tag, const QString& value) {
       for (const QChar c : value) EXPECT_GE(c.unicode(), 0x20) << row["file"].toStdString() << " " << tag;
-    }
+    });
   }
 }
 
@@ -196,7 +152,7 @@ TEST_F(OracleTest, OnlyTheHeadOfBigFilesIsRead) {
   for (const Row& row : rows_) {
     QFile file(folder_ + "/" + row["file"]);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    FakeFileSystem fs;
+    MemoryFileSystem fs;
     fs.Add("f", file.readAll());
     ExifReader reader;
     reader.Load(fs, "f");

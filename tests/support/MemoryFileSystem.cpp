@@ -1,5 +1,6 @@
 #include "support/MemoryFileSystem.h"
 
+#include <cerrno>
 #include <set>
 
 #include "platform/ErrorNumbers.h"
@@ -9,18 +10,34 @@ namespace {
 
 class MemoryFile : public platform::ReadableFile {
  public:
-  explicit MemoryFile(QByteArray bytes) : bytes_(std::move(bytes)) {}
-  qint64 Size() const override { return bytes_.size(); }
+  MemoryFile(MemoryFileSystem& owner, QByteArray contents, std::vector<std::pair<qint64, QByteArray>> placed,
+             qint64 size)
+      : owner_(owner), placed_(std::move(placed)), size_(size) {
+    placed_.insert(placed_.begin(), {0, std::move(contents)});
+  }
+  qint64 Size() const override { return size_; }
   qint64 ReadAt(qint64 offset, char* buffer, qint64 length) override {
+    if (owner_.readCalls++ == owner_.readFailsAt) {
+      errno = EIO;
+      return -1;
+    }
     if (offset < 0 || length < 0) return -1;
-    if (offset >= bytes_.size()) return 0;
-    const qint64 count = std::min(length, bytes_.size() - offset);
-    std::copy_n(bytes_.constData() + offset, count, buffer);
+    if (offset >= size_) return 0;
+    const qint64 count = std::min(length, size_ - offset);
+    std::fill_n(buffer, count, '\0');
+    for (const auto& [at, bytes] : placed_) {
+      const qint64 from = std::max(offset, at);
+      const qint64 to = std::min(offset + count, at + bytes.size());
+      if (from < to) std::copy_n(bytes.constData() + (from - at), to - from, buffer + (from - offset));
+    }
+    owner_.bytesRead += count;
     return count;
   }
 
  private:
-  QByteArray bytes_;
+  MemoryFileSystem& owner_;
+  std::vector<std::pair<qint64, QByteArray>> placed_;
+  qint64 size_;
 };
 
 const QDateTime kDefaultTime(QDate(2004, 7, 15), QTime(18, 3, 9), Qt::UTC);
@@ -31,13 +48,17 @@ QByteArray FolderPrefix(const QByteArray& folder) {
 
 }  // namespace
 
-void MemoryFileSystem::Add(const QByteArray& path, const QByteArray& contents) {
+void MemoryFileSystem::Add(const QByteArray& path, const QByteArray& contents, qint64 size) {
   Entry entry;
   entry.contents = contents;
-  entry.info.size = contents.size();
+  entry.info.size = std::max<qint64>(size, contents.size());
   entry.info.created = kDefaultTime;
   entry.info.modified = kDefaultTime;
   files_[Key(path)] = entry;
+}
+
+void MemoryFileSystem::Put(const QByteArray& path, qint64 offset, const QByteArray& bytes) {
+  if (Entry* e = Find(path)) e->placed.emplace_back(offset, bytes);
 }
 
 void MemoryFileSystem::SetTimes(const QByteArray& path, const QDateTime& createdUtc,
@@ -87,7 +108,6 @@ int MemoryFileSystem::Stat(const QByteArray& path, platform::FileInfo* info) {
   const Entry* e = Find(path);
   if (e == nullptr) return platform::kFileNotFound;
   *info = e->info;
-  info->size = e->contents.size();
   return platform::kNoError;
 }
 
@@ -124,7 +144,7 @@ int MemoryFileSystem::OpenForRead(const QByteArray& path,
   const Entry* e = Find(path);
   if (e == nullptr) return platform::kFileNotFound;
   if (e->openError != 0) return e->openError;
-  *file = std::make_unique<MemoryFile>(e->contents);
+  *file = std::make_unique<MemoryFile>(*this, e->contents, e->placed, e->info.size);
   return platform::kNoError;
 }
 

@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <map>
+#include <vector>
 
 #include "platform/FileSystem.h"
 
@@ -17,13 +18,21 @@ class MemoryFileSystem : public platform::FileSystem {
   explicit MemoryFileSystem(bool foldCase = false) : foldCase_(foldCase) {}
 
   // Adds or replaces a file; its times default to 2004-07-15 18:03:09 UTC.
-  void Add(const QByteArray& path, const QByteArray& contents);
+  // A `size` beyond the contents makes a sparse file of that size: reads
+  // past the contents give zeros, except where Put placed bytes.
+  void Add(const QByteArray& path, const QByteArray& contents, qint64 size = -1);
+  void Put(const QByteArray& path, qint64 offset, const QByteArray& bytes);
   void SetTimes(const QByteArray& path, const QDateTime& createdUtc, const QDateTime& modifiedUtc);
   void SetWritable(const QByteArray& path, bool writable);
   // Makes opening `path` fail with `errorNumber`.
   void FailOpen(const QByteArray& path, int errorNumber);
   // How often files were opened for reading.
   int opens = 0;
+  // ReadAt calls over all opened files, the bytes they gave, and the call
+  // (counted from 0) that fails with EIO.
+  int readCalls = 0;
+  qint64 bytesRead = 0;
+  int readFailsAt = -1;
 
   int ListFiles(const QByteArray& folder, std::vector<QByteArray>* names) override;
   int ListFolders(const QByteArray& folder, std::vector<QByteArray>* names) override;
@@ -40,6 +49,7 @@ class MemoryFileSystem : public platform::FileSystem {
  private:
   struct Entry {
     QByteArray contents;
+    std::vector<std::pair<qint64, QByteArray>> placed;  // by Put
     platform::FileInfo info;
     int openError = 0;
   };
