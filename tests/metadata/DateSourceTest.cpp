@@ -62,11 +62,10 @@ TEST(ThmCompanion, FoundBesideACrwFileOnly) {
   fs.Add("/p/IMG_1.thm", "x");
   fs.Add("/p/IMG_2.crw", MakeCrw());
   fs.Add("/p/IMG_3.jpg", "x");
-  EXPECT_EQ(metadata::ThmCompanionName(fs, "/p/", "IMG_1.CRW"), "IMG_1.thm");
-  EXPECT_EQ(metadata::ThmCompanionName(fs, "/p/", "IMG_2.crw"), "IMG_2.crw");
-  EXPECT_EQ(metadata::ThmCompanionName(fs, "/p/", "IMG_3.jpg"), "IMG_3.jpg");
-  EXPECT_EQ(metadata::ThmCompanionName(fs, "/p/", "crw"), "crw");
-  EXPECT_EQ(metadata::ThmCompanionName(fs, "/p/", ".crw"), ".crw");
+  const std::pair<const char*, const char*> cases[] = {
+      {"IMG_1.CRW", "IMG_1.thm"}, {"IMG_2.crw", "IMG_2.crw"}, {"IMG_3.jpg", "IMG_3.jpg"}, {"crw", "crw"},
+      {".crw", ".crw"}};
+  for (const auto& [name, partner] : cases) EXPECT_EQ(metadata::ThmCompanionName(fs, "/p/", name), partner) << name;
 }
 
 TEST(ThmCompanion, UpperCasePartnerDependsOnTheFileSystem) {

@@ -11,32 +11,26 @@ namespace {
 using metadata::ExifDateTimeText;
 using metadata::FormatDateTimePicture;
 
-struct PictureCase {
-  const char* picture;
-  const char* expected;
-};
-
 // 2004-07-15 is a Thursday, day 197 of a leap year; July (07) and the
 // minute (03) differ, so a month/minute mix-up shows.
 const QDate kDate(2004, 7, 15);
 const QTime kTime(18, 3, 9);
 
-TEST(DateTimePicture, OptionListPatternsComeOutExactly) {
-  const PictureCase cases[] = {
+TEST(DateTimePicture, PicturesComeOutExactly) {
+  const struct {
+    const char* picture;
+    const char* expected;
+    QDate date = kDate;
+    QTime time = kTime;
+  } cases[] = {
+      // the patterns of the option lists
       {"yyyy-mm-dd", "2004-07-15"}, {"yyyy.mm.dd", "2004.07.15"}, {"yyyymmdd", "20040715"},
       {"yy-mm-dd", "04-07-15"},     {"yy.mm.dd", "04.07.15"},     {"yymmdd", "040715"},
       {"mm-dd-yyyy", "07-15-2004"}, {"mm.dd.yyyy", "07.15.2004"}, {"mmddyyyy", "07152004"},
       {"mm-dd-yy", "07-15-04"},     {"mm.dd.yy", "07.15.04"},     {"mmddyy", "071504"},
       {"hh-mm-ss", "18-03-09"},     {"hh.mm.ss", "18.03.09"},     {"hhmmss", "180309"},
       {"hh-mm", "18-03"},           {"hh.mm", "18.03"},           {"hhmm", "1803"},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(FormatDateTimePicture(c.picture, kDate, kTime), QString(c.expected)) << c.picture;
-  }
-}
-
-TEST(DateTimePicture, UserPicturesFollowTheSameRules) {
-  const PictureCase cases[] = {
+      // users' own pictures follow the same rules
       {"mm-ss", "03-09"},                 // minute before a second
       {"h:m:s", "18:3:9"},                // minute after an hour, no zeros
       {"mm hh mm", "07 18 03"},           // only the one after the hour is a minute
@@ -53,36 +47,39 @@ TEST(DateTimePicture, UserPicturesFollowTheSameRules) {
       {"c", "7/15/2004 18:03:09"},
       {"dddddd", "Thursday, July 15, 2004"},
       {"", ""},
+      // week one holds the first of January and starts on Sunday
+      {"ww", "1", QDate(2004, 1, 3)},  // Saturday
+      {"ww", "2", QDate(2004, 1, 4)},  // Sunday
+      {"ww", "1", QDate(2006, 1, 1)},  // a Sunday itself
+      // the twelve-hour clock around midnight and noon
+      {"h AM/PM", "12 AM", kDate, QTime(0, 5)},
+      {"h AM/PM", "12 PM", kDate, QTime(12, 5)},
+      {"hh:nn AMPM", "09:05 AM", kDate, QTime(9, 5)},
   };
   for (const auto& c : cases) {
-    EXPECT_EQ(FormatDateTimePicture(c.picture, kDate, kTime), QString(c.expected)) << c.picture;
+    EXPECT_EQ(FormatDateTimePicture(c.picture, c.date, c.time), QString(c.expected))
+        << c.picture << " " << c.date.toString(Qt::ISODate).toStdString();
   }
 }
 
-TEST(DateTimePicture, WeekOneHoldsTheFirstOfJanuaryAndStartsOnSunday) {
-  EXPECT_EQ(FormatDateTimePicture("ww", QDate(2004, 1, 3), kTime), "1");  // Saturday
-  EXPECT_EQ(FormatDateTimePicture("ww", QDate(2004, 1, 4), kTime), "2");  // Sunday
-  EXPECT_EQ(FormatDateTimePicture("ww", QDate(2006, 1, 1), kTime), "1");  // a Sunday itself
-}
-
-TEST(DateTimePicture, TwelveHourClockAroundMidnightAndNoon) {
-  EXPECT_EQ(FormatDateTimePicture("h AM/PM", kDate, QTime(0, 5)), "12 AM");
-  EXPECT_EQ(FormatDateTimePicture("h AM/PM", kDate, QTime(12, 5)), "12 PM");
-  EXPECT_EQ(FormatDateTimePicture("hh:nn AMPM", kDate, QTime(9, 5)), "09:05 AM");
-}
-
-TEST(ExifDateTimeText, GivesTheThreeForms) {
-  const QString s = "2004:07:15 18:03:09";
-  EXPECT_EQ(ExifDateTimeText(s, 1, "yyyy-mm-dd", "hh.mm.ss"), "2004-07-15");
-  EXPECT_EQ(ExifDateTimeText(s, 2, "yyyy-mm-dd", "hh.mm.ss"), "18.03.09");
-  EXPECT_EQ(ExifDateTimeText(s, 3, "yyyy-mm-dd", "hh.mm.ss"), "2004-07-15 18.03.09");
-  EXPECT_EQ(ExifDateTimeText(s, 4, "yyyy-mm-dd", "hh.mm.ss"), "");
-}
-
-TEST(ExifDateTimeText, DateAndTimeEachCarryOnlyTheirOwnHalf) {
-  const QString s = "2004:07:15 18:03:09";
-  EXPECT_EQ(ExifDateTimeText(s, 1, "yyyy hh-nn", "hh"), "2004 00-00");
-  EXPECT_EQ(ExifDateTimeText(s, 2, "yyyy", "yyyy-mm-dd hh"), "1899-12-30 18");
+TEST(ExifDateTimeText, FormsCarryOnlyTheirOwnHalf) {
+  const struct {
+    int form;
+    const char* dateFormat;
+    const char* timeFormat;
+    const char* expected;
+  } cases[] = {
+      {1, "yyyy-mm-dd", "hh.mm.ss", "2004-07-15"},
+      {2, "yyyy-mm-dd", "hh.mm.ss", "18.03.09"},
+      {3, "yyyy-mm-dd", "hh.mm.ss", "2004-07-15 18.03.09"},
+      {4, "yyyy-mm-dd", "hh.mm.ss", ""},
+      {1, "yyyy hh-nn", "hh", "2004 00-00"},
+      {2, "yyyy", "yyyy-mm-dd hh", "1899-12-30 18"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(ExifDateTimeText("2004:07:15 18:03:09", c.form, c.dateFormat, c.timeFormat), c.expected)
+        << c.form << " " << c.dateFormat << " / " << c.timeFormat;
+  }
 }
 
 TEST(ExifDateTimeText, TextThatIsNoRealDateGivesEmptyForEveryForm) {

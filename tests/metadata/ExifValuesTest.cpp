@@ -109,12 +109,10 @@ TEST_F(ExifValuesTest, MissingSerialIsWarnedWithTheMessageOfTheMode) {
 }
 
 TEST(ExifStatus, OnlyTheEndingTellsThatThereIsNoExif) {
-  EXPECT_TRUE(metadata::IsNoExifStatus("EXIF data not found."));
-  EXPECT_TRUE(metadata::IsNoExifStatus("NOT FOUND."));
-  EXPECT_TRUE(metadata::IsNoExifStatus("The file itself was Not Found."));
-  EXPECT_FALSE(metadata::IsNoExifStatus("not found"));
-  EXPECT_FALSE(metadata::IsNoExifStatus("not found. "));
-  EXPECT_FALSE(metadata::IsNoExifStatus("ot found."));
+  const std::pair<const char*, bool> cases[] = {
+      {"EXIF data not found.", true}, {"NOT FOUND.", true},   {"The file itself was Not Found.", true},
+      {"not found", false},           {"not found. ", false}, {"ot found.", false}};
+  for (const auto& [status, noExif] : cases) EXPECT_EQ(metadata::IsNoExifStatus(status), noExif) << status;
 }
 
 TEST(PreviewTurn, FirstThreeLettersOfTheWordDecide) {

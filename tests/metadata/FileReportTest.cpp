@@ -65,21 +65,17 @@ const QString kDateOnly =
 
 TEST(FileReport, ExplanationByScanResultAndExtension) {
   const QString scan = "2004:07:15 18:03:09";
+  const QString noExif =
+      " does not contain any EXIF data, or this filetype is unsupported.\nIf EXIF Date and/or Time "
+      "from this file is inserted into the new filename, the file's Created or Modified Date/Time "
+      "(whichever is oldest) will be used instead.\nCreated Date & Time: C\nModified Date & Time: M\n";
   const struct {
     const char* name;
     QString scan;
     QString expected;
   } cases[] = {
-      {"a.jpg", "",
-       "a.jpg does not contain any EXIF data, or this filetype is unsupported.\nIf EXIF Date "
-       "and/or Time from this file is inserted into the new filename, the file's Created or "
-       "Modified Date/Time (whichever is oldest) will be used instead.\nCreated Date & Time: "
-       "C\nModified Date & Time: M\n"},
-      {"a.THM", "",
-       "a.THM does not contain any EXIF data, or this filetype is unsupported.\nIf EXIF Date "
-       "and/or Time from this file is inserted into the new filename, the file's Created or "
-       "Modified Date/Time (whichever is oldest) will be used instead.\nCreated Date & Time: "
-       "C\nModified Date & Time: M\n"},
+      {"a.jpg", "", "a.jpg" + noExif},
+      {"a.THM", "", "a.THM" + noExif},
       {"a.CRW", "",
        "a.CRW" + kCrwLines +
            "> A THM file by the same name as this file was NOT found in this folder. <\n" +

@@ -86,16 +86,11 @@ TEST(Id3Tag, FindsNoTagWhereThereIsNone) {
 }
 
 TEST(Id3Tag, GenreNamesKeepTheirSpellingsAndEndAt147) {
-  EXPECT_EQ(metadata::Id3GenreName(0), "Blues");
-  EXPECT_EQ(metadata::Id3GenreName(40), "Alt. Rock");
-  EXPECT_EQ(metadata::Id3GenreName(67), "Psychadelic");
-  EXPECT_EQ(metadata::Id3GenreName(85), "Bebob");
-  EXPECT_EQ(metadata::Id3GenreName(136), "Christian Gangsta");
-  EXPECT_EQ(metadata::Id3GenreName(140), "Contemporary C");
-  EXPECT_EQ(metadata::Id3GenreName(147), "SynthPop");
-  EXPECT_EQ(metadata::Id3GenreName(148), "");
-  EXPECT_EQ(metadata::Id3GenreName(255), "");
-  EXPECT_EQ(metadata::Id3GenreName(-1), "");
+  const std::pair<int, const char*> cases[] = {
+      {0, "Blues"},  {40, "Alt. Rock"},          {67, "Psychadelic"},     {85, "Bebob"},
+      {136, "Christian Gangsta"}, {140, "Contemporary C"}, {147, "SynthPop"},
+      {148, ""},     {255, ""},                  {-1, ""}};
+  for (const auto& [number, name] : cases) EXPECT_EQ(metadata::Id3GenreName(number), name) << number;
 }
 
 TEST(Id3FixedText, ConvertsBytesByItsRules) {
