@@ -5,6 +5,7 @@
 #include <benchmark/benchmark.h>
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <QApplication>
@@ -49,6 +50,39 @@ void MakeFolder() {
   }
 }
 
+// User and system CPU seconds of this process so far.
+struct CpuSplit {
+  double user = 0;
+  double system = 0;
+};
+
+CpuSplit CpuNow() {
+  rusage usage{};
+  getrusage(RUSAGE_SELF, &usage);
+  return {usage.ru_utime.tv_sec + usage.ru_utime.tv_usec / 1e6, usage.ru_stime.tv_sec + usage.ru_stime.tv_usec / 1e6};
+}
+
+// Reports how the timed part's CPU time splits between our code and the
+// kernel, which tells a slow batch's own work from its system calls.
+class CpuCounters {
+ public:
+  void Start() { start_ = CpuNow(); }
+  void Stop() {
+    const CpuSplit now = CpuNow();
+    user_ += now.user - start_.user;
+    system_ += now.system - start_.system;
+  }
+  void Report(benchmark::State& state) const {
+    state.counters["user_ms"] = benchmark::Counter(user_ * 1000, benchmark::Counter::kAvgIterations);
+    state.counters["sys_ms"] = benchmark::Counter(system_ * 1000, benchmark::Counter::kAvgIterations);
+  }
+
+ private:
+  CpuSplit start_;
+  double user_ = 0;
+  double system_ = 0;
+};
+
 std::vector<std::string> Names() {
   std::vector<std::string> names;
   DIR* dir = opendir(kFolder.constData());
@@ -61,11 +95,13 @@ std::vector<std::string> Names() {
 
 void BM_Floor(benchmark::State& state) {
   std::vector<char> buffer(64 * 1024);
+  CpuCounters cpu;
   for (auto _ : state) {
     state.PauseTiming();
     MakeFolder();
     const std::vector<std::string> names = Names();
     state.ResumeTiming();
+    cpu.Start();
     int serial = 0;
     for (const std::string& name : names) {
       const std::string path = kFolder.toStdString() + name;
@@ -82,7 +118,9 @@ void BM_Floor(benchmark::State& state) {
                            std::to_string(++serial) + ".JPG";
       rename(path.c_str(), target.c_str());
     }
+    cpu.Stop();
   }
+  cpu.Report(state);
 }
 
 void BM_RenvaleBatch(benchmark::State& state) {
@@ -97,6 +135,7 @@ void BM_RenvaleBatch(benchmark::State& state) {
   renvale::shell::MainWindow window(std::move(services));
   window.Start();
   window.show();
+  CpuCounters cpu;
   for (auto _ : state) {
     state.PauseTiming();
     MakeFolder();
@@ -105,7 +144,9 @@ void BM_RenvaleBatch(benchmark::State& state) {
     QApplication::processEvents();
     window.Ui().Text1->setText(QStringLiteral("%DATE% %TIME% %SERIES%"));
     state.ResumeTiming();
+    cpu.Start();
     window.Ui().Command11->click();
+    cpu.Stop();
     state.PauseTiming();
     if (!messages.messages.empty()) state.SkipWithError(messages.Last().text.toUtf8().constData());
     if (window.Files().Count() != kFileCount || Names().front().rfind("IMG_", 0) == 0) {
@@ -113,6 +154,7 @@ void BM_RenvaleBatch(benchmark::State& state) {
     }
     state.ResumeTiming();
   }
+  cpu.Report(state);
 }
 
 void BM_JheadRename(benchmark::State& state) {

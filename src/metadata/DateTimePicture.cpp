@@ -1,7 +1,8 @@
 #include "metadata/DateTimePicture.h"
 
 #include <QLocale>
-#include <QStringList>
+#include <mutex>
+#include <utility>
 #include <vector>
 
 namespace renvale::metadata {
@@ -157,7 +158,18 @@ bool HasMarker(const std::vector<Piece>& pieces) {
   return false;
 }
 
-QString Two(int n) { return QStringLiteral("%1").arg(n, 2, 10, QLatin1Char('0')); }
+// Decimal digits of a non-negative `n`, zero-padded to `width`.
+void AppendNumber(QString* out, int n, int width = 1) {
+  char digits[12];
+  int count = 0;
+  unsigned value = n < 0 ? 0u : static_cast<unsigned>(n);
+  do {
+    digits[count++] = static_cast<char>('0' + value % 10);
+    value /= 10;
+  } while (value != 0 && count < 11);
+  for (int pad = count; pad < width; ++pad) out->append(u'0');
+  while (count > 0) out->append(QChar(u'0' + (digits[--count] - '0')));
+}
 
 int WeekOfYear(const QDate& d) {
   const QDate first(d.year(), 1, 1);
@@ -171,16 +183,17 @@ struct Moment {
   bool twelveHour;
 };
 
-QString Marker(const Piece& p, bool pm) {
-  if (p.code == Code::AmPmLocale) return pm ? QStringLiteral("PM") : QStringLiteral("AM");
+void AppendMarker(QString* out, const Piece& p, bool pm) {
+  if (p.code == Code::AmPmLocale) {
+    out->append(pm ? u"PM" : u"AM");
+    return;
+  }
   const bool lower = p.text.at(0).isLower();
-  QString m = p.code == Code::AP ? QString(pm ? u'P' : u'A')
-                                 : (pm ? QStringLiteral("PM") : QStringLiteral("AM"));
-  return lower ? m.toLower() : m;
-}
-
-QString RenderPicture(const QString& picture, const Moment& m) {
-  return FormatDateTimePicture(picture, m.date, m.time);
+  if (p.code == Code::AP) {
+    out->append(lower ? (pm ? u'p' : u'a') : (pm ? u'P' : u'A'));
+  } else {
+    out->append(lower ? (pm ? u"pm" : u"am") : (pm ? u"PM" : u"AM"));
+  }
 }
 
 int DisplayHour(const Moment& m) {
@@ -189,70 +202,139 @@ int DisplayHour(const Moment& m) {
   return h == 0 ? 12 : h;
 }
 
-QString RenderDate(const Piece& p, const Moment& m) {
+void AppendPieces(QString* out, const std::vector<Piece>& pieces, const Moment& m);
+
+// The fixed pictures that some codes stand for, compiled once.
+const std::vector<Piece>& Builtin(const char16_t* picture) {
+  static std::mutex lock;
+  static std::vector<std::pair<const char16_t*, std::vector<Piece>>> compiled;
+  const std::lock_guard<std::mutex> hold(lock);
+  for (const auto& [text, pieces] : compiled) {
+    if (text == picture) return pieces;
+  }
+  std::vector<Piece> pieces = Parse(QString::fromUtf16(picture));
+  ResolveMinutes(&pieces);
+  compiled.emplace_back(picture, std::move(pieces));
+  return compiled.back().second;
+}
+
+constexpr const char16_t* kShortDate = u"m/d/yyyy";
+constexpr const char16_t* kLongDate = u"dddd, mmmm dd, yyyy";
+constexpr const char16_t* kTime24 = u"h:mm:ss";
+constexpr const char16_t* kTime12 = u"h:mm:ss AM/PM";
+
+// A fixed picture chooses its own clock, as it would when formatted alone.
+void AppendBuiltin(QString* out, const char16_t* picture, const Moment& m) {
+  const std::vector<Piece>& pieces = Builtin(picture);
+  AppendPieces(out, pieces, {m.date, m.time, HasMarker(pieces)});
+}
+
+QString EnglishName(Code code, int n) {
   const QLocale c = QLocale::c();
+  switch (code) {
+    case Code::WeekdayShort: return c.dayName(n, QLocale::ShortFormat);
+    case Code::WeekdayLong: return c.dayName(n, QLocale::LongFormat);
+    case Code::MonthShort: return c.monthName(n, QLocale::ShortFormat);
+    default: return c.monthName(n, QLocale::LongFormat);
+  }
+}
+
+void AppendDate(QString* out, const Piece& p, const Moment& m) {
   const QDate& d = m.date;
   switch (p.code) {
-    case Code::Day: return QString::number(d.day());
-    case Code::Day2: return Two(d.day());
-    case Code::WeekdayShort: return c.dayName(d.dayOfWeek(), QLocale::ShortFormat);
-    case Code::WeekdayLong: return c.dayName(d.dayOfWeek(), QLocale::LongFormat);
-    case Code::ShortDate: return RenderPicture(QStringLiteral("m/d/yyyy"), m);
-    case Code::LongDate:
-      return RenderPicture(QStringLiteral("dddd, mmmm dd, yyyy"), m);
-    case Code::Weekday: return QString::number(d.dayOfWeek() % 7 + 1);
-    case Code::WeekOfYear: return QString::number(WeekOfYear(d));
-    case Code::Month: return QString::number(d.month());
-    case Code::Month2: return Two(d.month());
-    case Code::MonthShort: return c.monthName(d.month(), QLocale::ShortFormat);
-    case Code::MonthLong: return c.monthName(d.month(), QLocale::LongFormat);
-    case Code::Quarter: return QString::number((d.month() - 1) / 3 + 1);
-    case Code::DayOfYear: return QString::number(d.dayOfYear());
-    case Code::Year2: return Two(d.year() % 100);
-    case Code::Year4: return QStringLiteral("%1").arg(d.year(), 4, 10, QLatin1Char('0'));
-    default: return {};
+    case Code::Day: return AppendNumber(out, d.day());
+    case Code::Day2: return AppendNumber(out, d.day(), 2);
+    case Code::WeekdayShort:
+    case Code::WeekdayLong: out->append(EnglishName(p.code, d.dayOfWeek())); return;
+    case Code::ShortDate: return AppendBuiltin(out, kShortDate, m);
+    case Code::LongDate: return AppendBuiltin(out, kLongDate, m);
+    case Code::Weekday: return AppendNumber(out, d.dayOfWeek() % 7 + 1);
+    case Code::WeekOfYear: return AppendNumber(out, WeekOfYear(d));
+    case Code::Month: return AppendNumber(out, d.month());
+    case Code::Month2: return AppendNumber(out, d.month(), 2);
+    case Code::MonthShort:
+    case Code::MonthLong: out->append(EnglishName(p.code, d.month())); return;
+    case Code::Quarter: return AppendNumber(out, (d.month() - 1) / 3 + 1);
+    case Code::DayOfYear: return AppendNumber(out, d.dayOfYear());
+    case Code::Year2: return AppendNumber(out, d.year() % 100, 2);
+    case Code::Year4: return AppendNumber(out, d.year(), 4);
+    default: return;
   }
 }
 
-QString RenderGeneral(const Moment& m) {
-  QStringList parts;
-  if (m.date != kZeroDate) parts << RenderPicture(QStringLiteral("ddddd"), m);
-  if (m.time != QTime(0, 0)) {
-    parts << RenderPicture(m.twelveHour ? QStringLiteral("h:mm:ss AM/PM") : QStringLiteral("h:mm:ss"), m);
-  }
-  return parts.join(u' ');
+void AppendGeneral(QString* out, const Moment& m) {
+  const bool withDate = m.date != kZeroDate;
+  if (withDate) AppendBuiltin(out, kShortDate, {m.date, m.time, false});
+  if (m.time == QTime(0, 0)) return;
+  if (withDate) out->append(u' ');
+  AppendBuiltin(out, m.twelveHour ? kTime12 : kTime24, m);
 }
 
-QString Render(const Piece& p, const Moment& m) {
+void Append(QString* out, const Piece& p, const Moment& m) {
   const QTime& t = m.time;
   switch (p.code) {
-    case Code::Literal: return p.text;
-    case Code::Hour: return QString::number(DisplayHour(m));
-    case Code::Hour2: return Two(DisplayHour(m));
-    case Code::Minute: return QString::number(t.minute());
-    case Code::Minute2: return Two(t.minute());
-    case Code::Second: return QString::number(t.second());
-    case Code::Second2: return Two(t.second());
-    case Code::LongTime:
-      return RenderPicture(m.twelveHour ? QStringLiteral("h:mm:ss AM/PM") : QStringLiteral("h:mm:ss"),
-                           m);
-    case Code::General: return RenderGeneral(m);
+    case Code::Literal: out->append(p.text); return;
+    case Code::Hour: return AppendNumber(out, DisplayHour(m));
+    case Code::Hour2: return AppendNumber(out, DisplayHour(m), 2);
+    case Code::Minute: return AppendNumber(out, t.minute());
+    case Code::Minute2: return AppendNumber(out, t.minute(), 2);
+    case Code::Second: return AppendNumber(out, t.second());
+    case Code::Second2: return AppendNumber(out, t.second(), 2);
+    case Code::LongTime: return AppendBuiltin(out, m.twelveHour ? kTime12 : kTime24, m);
+    case Code::General: return AppendGeneral(out, m);
     case Code::AmPm:
     case Code::AP:
-    case Code::AmPmLocale: return Marker(p, t.hour() >= 12);
-    default: return RenderDate(p, m);
+    case Code::AmPmLocale: return AppendMarker(out, p, t.hour() >= 12);
+    default: return AppendDate(out, p, m);
   }
+}
+
+void AppendPieces(QString* out, const std::vector<Piece>& pieces, const Moment& m) {
+  for (const Piece& p : pieces) Append(out, p, m);
 }
 
 }  // namespace
 
-QString FormatDateTimePicture(const QString& picture, const QDate& date, const QTime& time) {
-  std::vector<Piece> pieces = Parse(picture);
-  ResolveMinutes(&pieces);
-  const Moment moment{date, time, HasMarker(pieces)};
+struct DateTimePicture::Compiled {
+  std::vector<Piece> pieces;
+  bool twelveHour = false;
+};
+
+DateTimePicture::DateTimePicture(const QString& picture) {
+  auto compiled = std::make_shared<Compiled>();
+  compiled->pieces = Parse(picture);
+  ResolveMinutes(&compiled->pieces);
+  compiled->twelveHour = HasMarker(compiled->pieces);
+  compiled_ = std::move(compiled);
+}
+
+void DateTimePicture::AppendTo(QString* out, const QDate& date, const QTime& time) const {
+  AppendPieces(out, compiled_->pieces, {date, time, compiled_->twelveHour});
+}
+
+QString DateTimePicture::Format(const QDate& date, const QTime& time) const {
   QString out;
-  for (const Piece& p : pieces) out += Render(p, moment);
+  out.reserve(32);
+  AppendTo(&out, date, time);
   return out;
+}
+
+QString FormatDateTimePicture(const QString& picture, const QDate& date, const QTime& time) {
+  // A batch alternates between the date and the time picture.
+  constexpr size_t kKept = 4;
+  thread_local std::vector<std::pair<QString, DateTimePicture>> recent;
+  thread_local size_t nextSlot = 0;
+  for (const auto& [text, compiled] : recent) {
+    if (text == picture) return compiled.Format(date, time);
+  }
+  DateTimePicture compiled(picture);
+  if (recent.size() < kKept) {
+    recent.emplace_back(picture, compiled);
+  } else {
+    recent[nextSlot] = {picture, compiled};
+    nextSlot = (nextSlot + 1) % kKept;
+  }
+  return compiled.Format(date, time);
 }
 
 }  // namespace renvale::metadata

@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QString>
 #include <QTime>
+#include <memory>
 
 namespace renvale::metadata {
 
@@ -26,6 +27,24 @@ namespace renvale::metadata {
 // Codes are recognised in either letter case; every other character is
 // copied as it stands. Runs longer than a code split greedily ("yyy" is
 // "yy" then "y"). Names of days and months are English.
+//
+// A picture is read once and then applied to any number of dates, because a
+// batch formats the same two pictures for every file.
+class DateTimePicture {
+ public:
+  explicit DateTimePicture(const QString& picture);
+
+  QString Format(const QDate& date, const QTime& time) const;
+  void AppendTo(QString* out, const QDate& date, const QTime& time) const;
+
+  struct Compiled;
+
+ private:
+  std::shared_ptr<const Compiled> compiled_;
+};
+
+// The same for a picture given as text; the last few pictures are kept
+// compiled, so calling this per file costs no re-reading.
 QString FormatDateTimePicture(const QString& picture, const QDate& date, const QTime& time);
 
 }  // namespace renvale::metadata

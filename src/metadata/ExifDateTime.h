@@ -34,4 +34,9 @@ bool IsRealExifDateTime(const QString& text);
 QString ExifDateTimeText(const QString& text, int form, const QString& dateFormat,
                          const QString& timeFormat);
 
+// Forms 1 and 2 at once (form 3 is the two joined by a blank); false, with
+// the outputs left alone, for a text that is not a real date and time.
+bool ExifDateAndTimeTexts(const QString& text, const QString& dateFormat, const QString& timeFormat,
+                          QString* dateText, QString* timeText);
+
 }  // namespace renvale::metadata

@@ -64,9 +64,9 @@ ExifTokenValues ReadExifTokenValues(const ExifFile& file, const ExifDateFormats&
   values.ok = true;
   values.serial = tags.serial;
   const QString when = ExposureDateTime(file.fs, file.folder, file.rawName, tags.dateTimeOriginal);
-  values.date = ExifDateTimeText(when, kFormDate, formats.date, formats.time);
-  values.time = ExifDateTimeText(when, kFormTime, formats.date, formats.time);
-  values.dateTime = ExifDateTimeText(when, kFormDateAndTime, formats.date, formats.time);
+  if (ExifDateAndTimeTexts(when, formats.date, formats.time, &values.date, &values.time)) {
+    values.dateTime = values.date + u' ' + values.time;
+  }
   return values;
 }
 

@@ -23,13 +23,29 @@ constexpr qint64 kEventIntervalMs = 30;
 
 }  // namespace
 
-QString MainWindowRenameView::NewNameText() const { return window_.Ui().Text1->text(); }
+QString MainWindowRenameView::NewNameText() const { return nameHeld_ ? heldName_ : window_.Ui().Text1->text(); }
 
-void MainWindowRenameView::SetNewNameText(const QString& text) { window_.Ui().Text1->setText(text); }
+void MainWindowRenameView::SetNewNameText(const QString& text) {
+  if (!batchRunning_) {
+    window_.Ui().Text1->setText(text);
+    return;
+  }
+  heldName_ = text;
+  nameHeld_ = true;
+}
 
-QString MainWindowRenameView::SeriesText() const { return window_.Ui().Text2->text(); }
+QString MainWindowRenameView::SeriesText() const {
+  return seriesHeld_ ? heldSeries_ : window_.Ui().Text2->text();
+}
 
-void MainWindowRenameView::SetSeriesText(const QString& text) { window_.Ui().Text2->setText(text); }
+void MainWindowRenameView::SetSeriesText(const QString& text) {
+  if (!batchRunning_) {
+    window_.Ui().Text2->setText(text);
+    return;
+  }
+  heldSeries_ = text;
+  seriesHeld_ = true;
+}
 
 bool MainWindowRenameView::RandomSeries() const { return window_.Ui().Check1->isChecked(); }
 
@@ -74,6 +90,8 @@ void MainWindowRenameView::PreviewSelected() {
 // While a batch runs the list and the folder panes take no clicks.
 void MainWindowRenameView::ShowProgress(bool visible) {
   MainWindowUi& ui = window_.Ui();
+  ShowHeldValues();
+  batchRunning_ = visible;
   ui.ProgressBar1->setValue(0);
   ui.processingLabel->setVisible(visible);
   ui.File1->setEnabled(!visible);
@@ -81,10 +99,26 @@ void MainWindowRenameView::ShowProgress(bool visible) {
   sinceEvents_.start();
 }
 
-void MainWindowRenameView::SetProgress(int percent) { window_.Ui().ProgressBar1->setValue(percent); }
+void MainWindowRenameView::SetProgress(int percent) {
+  if (batchRunning_) {
+    heldPercent_ = percent;
+  } else {
+    window_.Ui().ProgressBar1->setValue(percent);
+  }
+}
+
+void MainWindowRenameView::ShowHeldValues() {
+  if (nameHeld_) window_.Ui().Text1->setText(heldName_);
+  if (seriesHeld_) window_.Ui().Text2->setText(heldSeries_);
+  nameHeld_ = false;
+  if (heldPercent_ >= 0) window_.Ui().ProgressBar1->setValue(heldPercent_);
+  seriesHeld_ = false;
+  heldPercent_ = -1;
+}
 
 void MainWindowRenameView::ProcessEvents() {
   if (sinceEvents_.isValid() && sinceEvents_.elapsed() < kEventIntervalMs) return;
+  ShowHeldValues();
   QApplication::processEvents();
   sinceEvents_.start();
 }
