@@ -19,13 +19,13 @@ QByteArray ExtensionOf(const QByteArray& name) {
   return dot < 0 ? QByteArray() : name.mid(dot);
 }
 
-bool HasExtension(const QByteArray& name, const QByteArray& lowerExtension) {
-  return name.toLower().endsWith(lowerExtension);
+bool HasExtension(QByteArrayView name, const QByteArray& lowerExtension) {
+  return AsciiFoldedName::EndsWith(name, lowerExtension);
 }
 
 // A THM is a thumbnail, and a sidecar describes another file: neither
 // takes sidecars of its own.
-bool CanTakeSidecars(const QByteArray& name) {
+bool CanTakeSidecars(QByteArrayView name) {
   return !HasExtension(name, kThm) && !HasExtension(name, kXmp);
 }
 
@@ -41,13 +41,14 @@ void AddPair(const QByteArray& from, const QByteArray& to, std::vector<NamePair>
 
 FileSetFinder::FileSetFinder(const FolderIndex& index, const std::vector<platform::FileName>& selection)
     : index_(index) {
+  selected_.reserve(static_cast<qsizetype>(selection.size()));
+  selectedFolded_.reserve(selection.size());
   for (const platform::FileName& file : selection) {
-    const QByteArray folded = file.raw.toLower();
     selected_.insert(file.raw);
-    selectedFolded_.insert(folded);
-    if (CanTakeSidecars(folded)) {
-      selectedHeadNames_.insert(folded);
-      selectedHeadBases_.insert(BaseOf(folded));
+    selectedFolded_.insert(file.raw);
+    if (CanTakeSidecars(file.raw)) {
+      selectedHeadNames_.insert(file.raw);
+      selectedHeadBases_.insert(BaseOf(file.raw));
     }
   }
 }
@@ -80,10 +81,9 @@ void FileSetFinder::AddSidecars(const QByteArray& head, const QByteArray& newHea
 }
 
 bool FileSetFinder::TravelsWithSelectedHead(const QByteArray& name) const {
-  const QByteArray folded = name.toLower();
-  if (folded.endsWith(kThm)) return selectedFolded_.contains(BaseOf(folded) + kCrw);
-  if (!folded.endsWith(kXmp)) return false;
-  const QByteArray described = folded.chopped(kXmp.size());
+  if (HasExtension(name, kThm)) return selectedFolded_.contains(BaseOf(name) + kCrw);
+  if (!HasExtension(name, kXmp)) return false;
+  const QByteArrayView described = QByteArrayView(name).chopped(kXmp.size());
   return selectedHeadNames_.contains(described) || selectedHeadBases_.contains(described);
 }
 

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <QByteArray>
-#include <QHash>
 #include <QSet>
+#include <unordered_set>
 #include <vector>
 
+#include "core/AsciiFoldedName.h"
 #include "core/FolderIndex.h"
 #include "platform/FileName.h"
 
@@ -44,11 +45,13 @@ class FileSetFinder {
   void AddThm(const QByteArray& head, const QByteArray& newBase, std::vector<NamePair>* pairs) const;
   void AddSidecars(const QByteArray& head, const QByteArray& newHead, std::vector<NamePair>* pairs) const;
 
+  using FoldedSet = std::unordered_set<QByteArray, AsciiFoldedName, AsciiFoldedName>;
+
   const FolderIndex& index_;
-  QSet<QByteArray> selected_;               // exact names
-  QSet<QByteArray> selectedFolded_;         // lower-cased names
-  QSet<QByteArray> selectedHeadNames_;      // lower-cased names that can take sidecars
-  QSet<QByteArray> selectedHeadBases_;      // their lower-cased base names
+  QSet<QByteArray> selected_;     // exact names
+  FoldedSet selectedFolded_;      // the same, looked up without regard to case
+  FoldedSet selectedHeadNames_;   // those that can take sidecars
+  FoldedSet selectedHeadBases_;   // their base names
 };
 
 }  // namespace renvale::core

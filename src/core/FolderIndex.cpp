@@ -1,9 +1,11 @@
 #include "core/FolderIndex.h"
 
+#include <algorithm>
+
 namespace renvale::core {
 
 FolderIndex::FolderIndex(const std::vector<QByteArray>& names) {
-  byFoldedName_.reserve(static_cast<qsizetype>(names.size()));
+  names_.reserve(names.size());
   for (const QByteArray& name : names) Add(name);
 }
 
@@ -13,26 +15,35 @@ FolderIndex FolderIndex::Read(platform::FileSystem& fs, const QByteArray& folder
   return FolderIndex(names);
 }
 
-bool FolderIndex::Contains(const QByteArray& name) const {
-  const auto found = byFoldedName_.constFind(name.toLower());
-  return found != byFoldedName_.cend() && found->contains(name);
+bool FolderIndex::Contains(QByteArrayView name) const {
+  const auto [first, last] = names_.equal_range(name);
+  for (auto it = first; it != last; ++it) {
+    if (*it == name) return true;
+  }
+  return false;
 }
 
-QByteArrayList FolderIndex::Spellings(const QByteArray& name) const {
-  return byFoldedName_.value(name.toLower());
+QByteArrayList FolderIndex::Spellings(QByteArrayView name) const {
+  QByteArrayList spellings;
+  const auto [first, last] = names_.equal_range(name);
+  for (auto it = first; it != last; ++it) spellings.append(*it);
+  // The container keeps no order among them; give the same answer every time.
+  if (spellings.size() > 1) std::sort(spellings.begin(), spellings.end());
+  return spellings;
 }
 
 void FolderIndex::Add(const QByteArray& name) {
-  QByteArrayList& spellings = byFoldedName_[name.toLower()];
-  if (!spellings.contains(name)) spellings.append(name);
+  if (!Contains(name)) names_.insert(name);
 }
 
-void FolderIndex::Remove(const QByteArray& name) {
-  const QByteArray folded = name.toLower();
-  const auto found = byFoldedName_.find(folded);
-  if (found == byFoldedName_.end()) return;
-  found->removeAll(name);
-  if (found->isEmpty()) byFoldedName_.erase(found);
+void FolderIndex::Remove(QByteArrayView name) {
+  const auto [first, last] = names_.equal_range(name);
+  for (auto it = first; it != last; ++it) {
+    if (*it == name) {
+      names_.erase(it);
+      return;
+    }
+  }
 }
 
 void FolderIndex::Move(const QByteArray& from, const QByteArray& to) {

@@ -2,9 +2,11 @@
 
 #include <QByteArray>
 #include <QByteArrayList>
-#include <QHash>
+#include <QByteArrayView>
+#include <unordered_set>
 #include <vector>
 
+#include "core/AsciiFoldedName.h"
 #include "platform/FileSystem.h"
 
 namespace renvale::core {
@@ -24,16 +26,17 @@ class FolderIndex {
   static FolderIndex Read(platform::FileSystem& fs, const QByteArray& folder);
 
   // True when a name spelled exactly like `name` is there.
-  bool Contains(const QByteArray& name) const;
+  bool Contains(QByteArrayView name) const;
   // Every name equal to `name` without regard to ASCII letter case.
-  QByteArrayList Spellings(const QByteArray& name) const;
+  QByteArrayList Spellings(QByteArrayView name) const;
 
   void Add(const QByteArray& name);
-  void Remove(const QByteArray& name);
+  void Remove(QByteArrayView name);
   void Move(const QByteArray& from, const QByteArray& to);
 
  private:
-  QHash<QByteArray, QByteArrayList> byFoldedName_;
+  // Spellings that differ only in case share a bucket and sit side by side.
+  std::unordered_multiset<QByteArray, AsciiFoldedName, AsciiFoldedName> names_;
 };
 
 }  // namespace renvale::core

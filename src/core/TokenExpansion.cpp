@@ -15,10 +15,19 @@ struct Step {
   bool replaceLower;  // false: the upper-case spelling is replaced twice instead
 };
 
+// Searching without regard to case finds what searching the upper-cased
+// text finds, without making an upper-cased copy for every token. Every token
+// begins with "%", which no other character folds to, so only the places
+// where a "%" stands need a comparison.
+bool ContainsNoCase(const QString& text, const QString& token) {
+  for (qsizetype at = text.indexOf(u'%'); at >= 0; at = text.indexOf(u'%', at + 1)) {
+    if (QStringView(text).sliced(at).startsWith(token, Qt::CaseInsensitive)) return true;
+  }
+  return false;
+}
+
 bool IsFound(const QString& text, Token token, Detection detection) {
-  // Searching without regard to case finds what searching the upper-cased
-  // text finds, without making an upper-cased copy for every token.
-  if (detection == Detection::UpperCasedText) return text.contains(TokenUpper(token), Qt::CaseInsensitive);
+  if (detection == Detection::UpperCasedText) return ContainsNoCase(text, TokenUpper(token));
   return text.contains(TokenUpper(token)) || text.contains(TokenLower(token));
 }
 
@@ -35,23 +44,37 @@ QString Expand(QString text, std::initializer_list<Step> steps, Detection detect
 
 }  // namespace
 
-QString TokenUpper(Token token) {
-  switch (token) {
-    case Token::OrigFn: return texts::kTokenOrigFn;
-    case Token::Date: return texts::kTokenDate;
-    case Token::Time: return texts::kTokenTime;
-    case Token::DateTime: return texts::kTokenDateTime;
-    case Token::Series: return texts::kTokenSeries;
-    case Token::Serial: return texts::kTokenSerial;
-    case Token::Title: return texts::kTokenTitle;
-    case Token::Artist: return texts::kTokenArtist;
-    case Token::Album: return texts::kTokenAlbum;
-    case Token::Track: return texts::kTokenTrack;
-  }
-  return QString();
+namespace {
+
+constexpr int kTokenCount = static_cast<int>(Token::Track) + 1;
+
+struct Spellings {
+  QString upper[kTokenCount];
+  QString lower[kTokenCount];
+};
+
+// Built once: expansion asks for every spelling of every token per file.
+const Spellings& TokenSpellings() {
+  static const Spellings spellings = [] {
+    Spellings s;
+    const QString upper[kTokenCount] = {texts::kTokenOrigFn, texts::kTokenDate,   texts::kTokenTime,
+                                        texts::kTokenDateTime, texts::kTokenSeries, texts::kTokenSerial,
+                                        texts::kTokenTitle,  texts::kTokenArtist, texts::kTokenAlbum,
+                                        texts::kTokenTrack};
+    for (int i = 0; i < kTokenCount; ++i) {
+      s.upper[i] = upper[i];
+      s.lower[i] = upper[i].toLower();
+    }
+    return s;
+  }();
+  return spellings;
 }
 
-QString TokenLower(Token token) { return TokenUpper(token).toLower(); }
+}  // namespace
+
+const QString& TokenUpper(Token token) { return TokenSpellings().upper[static_cast<int>(token)]; }
+
+const QString& TokenLower(Token token) { return TokenSpellings().lower[static_cast<int>(token)]; }
 
 QString ExpandIndividualTokens(const QString& name, const TokenValueFunction& valueOf) {
   return Expand(name,

@@ -20,8 +20,8 @@ enum class Token { OrigFn, Date, Time, DateTime, Series, Serial, Title, Artist, 
 
 // "%ORIGFN%", "%DATE%", ... and their lower-case spellings ("%serial%" is
 // given for completeness; the batch never replaces it).
-QString TokenUpper(Token token);
-QString TokenLower(Token token);
+const QString& TokenUpper(Token token);
+const QString& TokenLower(Token token);
 
 using TokenValueFunction = std::function<QString(Token)>;
 

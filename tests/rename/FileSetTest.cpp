@@ -41,6 +41,20 @@ TEST(FileSetFinder, FindsCompanionsByTheirRules) {
   }
 }
 
+TEST(FolderIndex, KeepsEverySpellingApartAndFoldsOnlyAsciiLetters) {
+  core::FolderIndex index(std::vector<QByteArray>{"a.jpg", "A.JPG", "b.jpg", "\xc3\x89.jpg"});
+  EXPECT_EQ(index.Spellings("A.jpg"), QByteArrayList({"A.JPG", "a.jpg"}));
+  EXPECT_TRUE(index.Spellings("\xc3\xa9.jpg").isEmpty()) << "e acute and E acute are different names";
+  index.Move("A.JPG", "c.jpg");
+  EXPECT_TRUE(index.Contains("a.jpg"));
+  EXPECT_FALSE(index.Contains("A.JPG"));
+  EXPECT_EQ(index.Spellings("C.JPG"), QByteArrayList({"c.jpg"}));
+  index.Add("c.jpg");
+  EXPECT_EQ(index.Spellings("c.jpg").size(), 1);
+  index.Remove("B.JPG");
+  EXPECT_TRUE(index.Contains("b.jpg")) << "only the exact spelling is removed";
+}
+
 class FileSetTest : public RenameFixture {
  protected:
   void Batch(const QString& base) {
