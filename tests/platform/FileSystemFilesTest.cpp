@@ -2,12 +2,10 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-
 #include "RawFiles.h"
 #include "platform/AttributeLetters.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/FileSystem.h"
-#include "support/FaultyFileSystem.h"
 
 namespace renvale::test {
 namespace {
@@ -76,20 +74,19 @@ TEST(FileSystemWholeFiles, WriteReadAndReadAt) {
   EXPECT_EQ(file, nullptr);
 }
 
-TEST(AttributeLetters, LettersFollowKindNameAndWritability) {
+TEST(AttributeLetters, LettersInTheirOrderFromTheFilesState) {
+  platform::FileInfo info;
+  EXPECT_EQ(platform::AttributeLettersOf(info), "");
+  info.isWritable = false;
+  EXPECT_EQ(platform::AttributeLettersOf(info), "R");
+  info.isDir = info.isHidden = true;
+  EXPECT_EQ(platform::AttributeLettersOf(info), "DHR");
+
   ScratchFolder folder;
   ASSERT_TRUE(WriteRaw(folder / ".hidden.jpg", "h"));
-  ASSERT_TRUE(WriteRaw(folder / "plain.jpg", "p"));
-  ASSERT_EQ(::mkdir((folder / "sub").constData(), 0755), 0);
-  FaultyFileSystem fs(RealFileSystem());
-  fs.MakeReadOnly(folder / ".hidden.jpg");
-
-  EXPECT_EQ(platform::AttributeLetters(fs, folder / ".hidden.jpg"), "HR");
-  EXPECT_EQ(platform::AttributeLetters(fs, folder / "plain.jpg"), "");
-  EXPECT_EQ(platform::AttributeLetters(fs, folder / "sub"), "D");
-  EXPECT_EQ(platform::AttributeLetters(fs, folder / "absent.jpg"), "");
-  fs.MakeReadOnly(folder.path());
-  EXPECT_EQ(platform::AttributeLetters(fs, folder / "sub"), "DR");
+  EXPECT_EQ(platform::AttributeLetters(RealFileSystem(), folder / ".hidden.jpg"), "H");
+  EXPECT_EQ(platform::AttributeLetters(RealFileSystem(), folder.path()), "D");
+  EXPECT_EQ(platform::AttributeLetters(RealFileSystem(), folder / "absent.jpg"), "");
 }
 
 }  // namespace

@@ -26,24 +26,18 @@ ViewExifDialog* OpenReportWindow() {
   return qobject_cast<ViewExifDialog*>(QApplication::activeModalWidget());
 }
 
-TEST(ViewExifDialog, HoldsTheNamedControls) {
+TEST(ViewExifDialog, ReadOnlyTextsTheNoteAndAccessibleNames) {
   ViewExifDialog dialog;
-  EXPECT_EQ(dialog.objectName(), "frmViewEXIF");
-  EXPECT_EQ(dialog.windowTitle(), "General File / EXIF Data");
   auto* exif = dialog.findChild<QTextEdit*>("EXIFText");
   auto* general = dialog.findChild<QTextEdit*>("GenInfo");
-  auto* close = dialog.findChild<QPushButton*>("Command1");
-  ASSERT_TRUE(exif && general && close);
+  ASSERT_TRUE(exif && general);
   EXPECT_TRUE(exif->isReadOnly() && general->isReadOnly());
-  EXPECT_EQ(close->text(), "Close");
   QStringList labels;
   for (auto* label : dialog.findChildren<QLabel*>()) labels << label->text();
-  EXPECT_TRUE(labels.contains("EXIF Data") && labels.contains("General Info"));
   EXPECT_TRUE(labels.contains(kNote));
   for (auto* widget : dialog.findChildren<QWidget*>()) {
-    if (widget->isWidgetType() && widget->parent() == &dialog) {
-      EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className();
-    }
+    if (widget->parent() != &dialog) continue;
+    EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->metaObject()->className();
   }
 }
 

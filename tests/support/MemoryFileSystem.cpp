@@ -140,7 +140,6 @@ int MemoryFileSystem::MoveToTrash(const QByteArray& path) { return RemoveFile(pa
 
 int MemoryFileSystem::OpenForRead(const QByteArray& path,
                                   std::unique_ptr<platform::ReadableFile>* file) {
-  ++opens;
   const Entry* e = Find(path);
   if (e == nullptr) return platform::kFileNotFound;
   if (e->openError != 0) return e->openError;

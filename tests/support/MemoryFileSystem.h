@@ -26,8 +26,6 @@ class MemoryFileSystem : public platform::FileSystem {
   void SetWritable(const QByteArray& path, bool writable);
   // Makes opening `path` fail with `errorNumber`.
   void FailOpen(const QByteArray& path, int errorNumber);
-  // How often files were opened for reading.
-  int opens = 0;
   // ReadAt calls over all opened files, the bytes they gave, and the call
   // (counted from 0) that fails with EIO.
   int readCalls = 0;

@@ -9,6 +9,7 @@ using platform::MessageButtons;
 
 platform::MessageAnswer ScriptedMessagePort::Show(const platform::Message& message) {
   messages.push_back(message);
+  if (onShow) onShow();
   if (!answers_.empty()) {
     const MessageAnswer answer = answers_.front();
     answers_.pop_front();

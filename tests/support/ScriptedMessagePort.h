@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <vector>
 
 #include "platform/MessagePort.h"
@@ -13,15 +14,16 @@ namespace renvale::test {
 class ScriptedMessagePort : public platform::MessagePort {
  public:
   platform::MessageAnswer Show(const platform::Message& message) override;
-  void Beep() override { ++beeps; }
+  void Beep() override {}
 
   void Script(platform::MessageAnswer answer) { answers_.push_back(answer); }
   QStringList Texts() const;
   const platform::Message& Last() const { return messages.back(); }
-  void Clear() { messages.clear(); beeps = 0; answers_.clear(); }
+  void Clear() { messages.clear(); answers_.clear(); }
 
   std::vector<platform::Message> messages;
-  int beeps = 0;
+  // Called with each message before it is answered, to look at the window then.
+  std::function<void()> onShow;
 
  private:
   std::deque<platform::MessageAnswer> answers_;
