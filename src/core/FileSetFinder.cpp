@@ -1,5 +1,7 @@
 #include "core/FileSetFinder.h"
 
+#include <QVarLengthArray>
+
 namespace renvale::core {
 
 namespace {
@@ -40,23 +42,24 @@ void AddPair(const QByteArray& from, const QByteArray& to, std::vector<NamePair>
 }  // namespace
 
 FileSetFinder::FileSetFinder(const FolderIndex& index, const std::vector<platform::FileName>& selection)
-    : index_(index) {
-  selected_.reserve(static_cast<qsizetype>(selection.size()));
-  selectedFolded_.reserve(selection.size());
-  for (const platform::FileName& file : selection) {
-    selected_.insert(file.raw);
-    selectedFolded_.insert(file.raw);
-    if (CanTakeSidecars(file.raw)) {
-      selectedHeadNames_.insert(file.raw);
-      selectedHeadBases_.insert(BaseOf(file.raw));
-    }
+    : index_(index), selection_(selection) {}
+
+const FileSetFinder::SelectionSets& FileSetFinder::Selected() const {
+  if (selected_) return *selected_;
+  SelectionSets& sets = selected_.emplace();
+  sets.exact.reserve(static_cast<qsizetype>(selection_.size()));
+  sets.folded.reserve(selection_.size());
+  for (const platform::FileName& file : selection_) {
+    sets.exact.insert(file.raw);
+    sets.folded.insert(file.raw);
+    if (CanTakeSidecars(file.raw)) sets.headBases.insert(BaseOf(file.raw));
   }
+  return sets;
 }
 
 std::vector<NamePair> FileSetFinder::Companions(const QByteArray& head, const QByteArray& newHead) const {
   std::vector<NamePair> pairs;
-  const QByteArray newBase = BaseOf(newHead);
-  if (HasExtension(head, kCrw)) AddThm(head, newBase, &pairs);
+  if (HasExtension(head, kCrw)) AddThm(head, BaseOf(newHead), &pairs);
   if (CanTakeSidecars(head)) AddSidecars(head, newHead, &pairs);
   return pairs;
 }
@@ -64,27 +67,36 @@ std::vector<NamePair> FileSetFinder::Companions(const QByteArray& head, const QB
 void FileSetFinder::AddThm(const QByteArray& head, const QByteArray& newBase,
                            std::vector<NamePair>* pairs) const {
   for (const QByteArray& thm : index_.Spellings(BaseOf(head) + kThm)) {
-    if (selected_.contains(thm)) AddPair(thm, newBase + ExtensionOf(thm), pairs);
+    if (Selected().exact.contains(thm)) AddPair(thm, newBase + ExtensionOf(thm), pairs);
   }
 }
 
+// Every picture of a batch asks, and nearly always the answer is none: the
+// names asked for are put together on the stack, not on the heap.
 void FileSetFinder::AddSidecars(const QByteArray& head, const QByteArray& newHead,
                                 std::vector<NamePair>* pairs) const {
+  QVarLengthArray<char, 256> asked(head.begin(), head.end());
+  asked.append(kXmp.constData(), kXmp.size());
   // "Name.CR2.xmp" first: with a head lacking an extension both spellings
   // are the same file and this one keeps the head's full new name.
-  for (const QByteArray& sidecar : index_.Spellings(head + kXmp)) {
+  for (const QByteArray& sidecar : index_.Spellings(QByteArrayView(asked.data(), asked.size()))) {
     AddPair(sidecar, newHead + sidecar.right(kXmp.size()), pairs);
   }
-  for (const QByteArray& sidecar : index_.Spellings(BaseOf(head) + kXmp)) {
+  const qsizetype dot = head.lastIndexOf('.');
+  if (dot < 0) return;  // then "Name.xmp" is the name just asked for
+  asked.resize(dot);
+  asked.append(kXmp.constData(), kXmp.size());
+  for (const QByteArray& sidecar : index_.Spellings(QByteArrayView(asked.data(), asked.size()))) {
     if (sidecar != head) AddPair(sidecar, BaseOf(newHead) + ExtensionOf(sidecar), pairs);
   }
 }
 
 bool FileSetFinder::TravelsWithSelectedHead(const QByteArray& name) const {
-  if (HasExtension(name, kThm)) return selectedFolded_.contains(BaseOf(name) + kCrw);
+  if (HasExtension(name, kThm)) return Selected().folded.contains(BaseOf(name) + kCrw);
   if (!HasExtension(name, kXmp)) return false;
   const QByteArrayView described = QByteArrayView(name).chopped(kXmp.size());
-  return selectedHeadNames_.contains(described) || selectedHeadBases_.contains(described);
+  const auto head = Selected().folded.find(described);
+  return (head != Selected().folded.end() && CanTakeSidecars(*head)) || Selected().headBases.contains(described);
 }
 
 }  // namespace renvale::core

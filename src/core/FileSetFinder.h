@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QSet>
+#include <optional>
 #include <unordered_set>
 #include <vector>
 
@@ -42,16 +43,23 @@ class FileSetFinder {
   bool TravelsWithSelectedHead(const QByteArray& name) const;
 
  private:
+  using FoldedSet = std::unordered_set<QByteArray, AsciiFoldedName, AsciiFoldedName>;
+
+  // What the selection holds, built the first time a THM or a sidecar asks:
+  // most folders have neither, and then a batch never pays for it.
+  struct SelectionSets {
+    QSet<QByteArray> exact;
+    FoldedSet folded;
+    FoldedSet headBases;  // base names of those that can take sidecars
+  };
+  const SelectionSets& Selected() const;
+
   void AddThm(const QByteArray& head, const QByteArray& newBase, std::vector<NamePair>* pairs) const;
   void AddSidecars(const QByteArray& head, const QByteArray& newHead, std::vector<NamePair>* pairs) const;
 
-  using FoldedSet = std::unordered_set<QByteArray, AsciiFoldedName, AsciiFoldedName>;
-
   const FolderIndex& index_;
-  QSet<QByteArray> selected_;     // exact names
-  FoldedSet selectedFolded_;      // the same, looked up without regard to case
-  FoldedSet selectedHeadNames_;   // those that can take sidecars
-  FoldedSet selectedHeadBases_;   // their base names
+  std::vector<platform::FileName> selection_;
+  mutable std::optional<SelectionSets> selected_;
 };
 
 }  // namespace renvale::core

@@ -15,13 +15,28 @@ struct Step {
   bool replaceLower;  // false: the upper-case spelling is replaced twice instead
 };
 
+char16_t AsciiLower(char16_t c) { return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c; }
+
+// Tokens are ASCII, so ASCII text is compared directly; a character beyond
+// ASCII may still fold to an ASCII letter (the Kelvin sign to "k"), and
+// then the full comparison decides.
+bool StartsWithNoCase(QStringView text, const QString& token) {
+  if (text.size() < token.size()) return false;
+  for (qsizetype i = 0; i < token.size(); ++i) {
+    const char16_t c = text[i].unicode();
+    if (c >= 0x80) return text.startsWith(token, Qt::CaseInsensitive);
+    if (AsciiLower(c) != AsciiLower(token[i].unicode())) return false;
+  }
+  return true;
+}
+
 // Searching without regard to case finds what searching the upper-cased
 // text finds, without making an upper-cased copy for every token. Every token
 // begins with "%", which no other character folds to, so only the places
 // where a "%" stands need a comparison.
 bool ContainsNoCase(const QString& text, const QString& token) {
   for (qsizetype at = text.indexOf(u'%'); at >= 0; at = text.indexOf(u'%', at + 1)) {
-    if (QStringView(text).sliced(at).startsWith(token, Qt::CaseInsensitive)) return true;
+    if (StartsWithNoCase(QStringView(text).sliced(at), token)) return true;
   }
   return false;
 }

@@ -109,10 +109,17 @@ void MainWindowRenameView::SetProgress(int percent) {
 }
 
 void MainWindowRenameView::ShowHeldValues() {
-  if (nameHeld_) window_.Ui().Text1->setText(heldName_);
-  if (seriesHeld_) window_.Ui().Text2->setText(heldSeries_);
+  MainWindowUi& ui = window_.Ui();
+  if (nameHeld_) ui.Text1->setText(heldName_);
+  if (seriesHeld_) ui.Text2->setText(heldSeries_);
+  if (heldPercent_ >= 0) {
+    // A progress bar paints itself at once when its value changes; held
+    // back, it is painted with the boxes in one pass when events run.
+    ui.ProgressBar1->setUpdatesEnabled(false);
+    ui.ProgressBar1->setValue(heldPercent_);
+    ui.ProgressBar1->setUpdatesEnabled(true);
+  }
   nameHeld_ = false;
-  if (heldPercent_ >= 0) window_.Ui().ProgressBar1->setValue(heldPercent_);
   seriesHeld_ = false;
   heldPercent_ = -1;
 }

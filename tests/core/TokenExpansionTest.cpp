@@ -43,6 +43,10 @@ TEST(TokenExpansion, SpellingsOrderAndValuesAskedFor) {
       {individual, "%ORIGFN% %origfn% %OrigFN%.jpg", "IMG_1 IMG_1 %OrigFN%.jpg", {Token::OrigFn}},
       // A mixed-case series token is found, so a number is consumed, yet it stays.
       {individual, "a %Series%", "a %Series%", {Token::Series}},
+      // So is one whose letters only fold to the token's: the long s and the Kelvin sign.
+      {individual, "%\u017FERIES%", "%\u017FERIES%", {Token::Series}},
+      {batch, "%TRAC\u212A%", "%TRAC\u212A%", {Token::Track}},
+      {individual, "%ORIG", "%ORIG", {}},
       {individual, "%date time% %DATE TIME%", "2004-05-01 10-11-12 2004-05-01 10-11-12", {Token::DateTime}},
       // Two tokens sharing a percent sign: the date goes first and takes it.
       {individual, "%DATE%TIME%", "2004-05-01TIME%", {Token::Date}},
