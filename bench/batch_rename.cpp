@@ -32,6 +32,7 @@
 #include "shell/FileListModel.h"
 #include "shell/MainWindow.h"
 #include "shell/SilentQuickTips.h"
+#include "support/MemoryFileSystem.h"
 #include "support/SampleImages.h"
 #include "support/ScriptedMessagePort.h"
 
@@ -233,6 +234,55 @@ void BM_BatchAgainstFloor(benchmark::State& state) {
     Report(state, "jhead_x", jheadRatio);
   }
 }
+
+// The same batch on a folder held in memory: no disk and no kernel, so what
+// it measures is the batch's own work per file, steadily enough to compare
+// one change of the code with the next.
+void BM_BatchWithoutDisk(benchmark::State& state) {
+  const QByteArray folder = QByteArrayLiteral("/memory/card/");
+  std::vector<QByteArray> pictures;
+  renvale::test::ExifFields fields = renvale::test::TypicalExifFields();
+  for (int i = 0; i < kFileCount; ++i) {
+    fields.dateTimeOriginal = QStringLiteral("2004:07:01 %1:%2:%3")
+                                  .arg(i / 3600 % 24, 2, 10, QLatin1Char('0'))
+                                  .arg(i / 60 % 60, 2, 10, QLatin1Char('0'))
+                                  .arg(i % 60, 2, 10, QLatin1Char('0'));
+    pictures.push_back(renvale::test::MakeExifJpeg(&fields));
+  }
+  for (auto _ : state) {
+    state.PauseTiming();
+    renvale::test::MemoryFileSystem fs;
+    for (int i = 0; i < kFileCount; ++i) fs.Add(folder + PictureName(i), pictures[static_cast<size_t>(i)]);
+    QTemporaryDir settingsDir;
+    renvale::platform::QtSettingsStorage storage(settingsDir.path() + QStringLiteral("/Renvale.conf"));
+    renvale::test::ScriptedMessagePort messages;
+    renvale::shell::SilentQuickTips tips;
+    renvale::shell::MainWindow window({fs, messages, storage, tips,
+                                       [](QWidget*, const QString&, const QString&) { return QString(); },
+                                       [] { return std::vector<renvale::platform::Volume>{}; },
+                                       [folder] { return folder; }});
+    window.Start();
+    window.show();
+    window.ChangeFolder(folder);
+    window.SelectAll();
+    QApplication::processEvents();
+    window.Ui().Text1->setText(QStringLiteral("%DATE% %TIME% %SERIES%"));
+    state.ResumeTiming();
+    window.Ui().Command11->click();
+    state.PauseTiming();
+    std::vector<QByteArray> names;
+    fs.ListFiles(folder, &names);
+    if (!messages.messages.empty() || names.size() != kFileCount || names.front().startsWith("IMG_")) {
+      state.SkipWithError("the batch did not rename every file");
+    }
+    state.ResumeTiming();
+  }
+  state.counters["us_per_file"] =
+      benchmark::Counter(kFileCount, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert,
+                         benchmark::Counter::kIs1000);
+}
+
+BENCHMARK(BM_BatchWithoutDisk)->Unit(benchmark::kMillisecond)->Iterations(5)->UseRealTime();
 
 // Each round makes the folder three times (a few seconds each); seven rounds
 // give a steady median.

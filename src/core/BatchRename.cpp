@@ -5,6 +5,7 @@
 #include "core/FileNameRules.h"
 #include "core/RenameFailureTexts.h"
 #include "core/SeriesCounter.h"
+#include "core/TokenExpansion.h"
 #include "core/ViewSeriesBox.h"
 
 namespace renvale::core {
@@ -88,6 +89,7 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, QString* lastNew
   std::optional<int> randomCount;
   if (view.RandomSeries()) randomCount = NumberedFiles(files, renamer);
   BatchFileNamer namer(context_, renamer.Folder(), base, randomCount);
+  if (MentionsExifToken(base)) context_.tokens.ExpectExifValues(renamer.Folder(), files);
   for (size_t i = 0; i < files.size(); ++i) {
     ShowProgress(i, files.size());
     if (renamer.Sets().TravelsWithSelectedHead(files[i].raw)) continue;

@@ -2,9 +2,22 @@
 
 #include <algorithm>
 
+#include "core/AsciiFoldedName.h"
+
 namespace renvale::core {
 
+namespace {
+
+std::uint64_t HashOf(QByteArrayView name) { return AsciiFoldedName()(name); }
+
+bool SameFolded(QByteArrayView a, QByteArrayView b) { return AsciiFoldedName()(a, b); }
+
+}  // namespace
+
 FolderIndex::FolderIndex(const std::vector<QByteArray>& names) {
+  std::size_t size = 16;
+  while (size < names.size() * 2) size *= 2;
+  slots_.resize(size);
   names_.reserve(names.size());
   for (const QByteArray& name : names) Add(name);
 }
@@ -15,35 +28,85 @@ FolderIndex FolderIndex::Read(platform::FileSystem& fs, const QByteArray& folder
   return FolderIndex(names);
 }
 
-bool FolderIndex::Contains(QByteArrayView name) const {
-  const auto [first, last] = names_.equal_range(name);
-  for (auto it = first; it != last; ++it) {
-    if (*it == name) return true;
+qsizetype FolderIndex::FindExact(QByteArrayView name, std::uint64_t hash) const {
+  if (slots_.empty()) return -1;
+  const std::size_t mask = slots_.size() - 1;
+  for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
+    const Slot& slot = slots_[i];
+    if (slot.name == kEmpty) return -1;
+    if (slot.name >= 0 && slot.hash == hash && names_[slot.name] == name) return static_cast<qsizetype>(i);
   }
-  return false;
 }
+
+bool FolderIndex::Contains(QByteArrayView name) const { return FindExact(name, HashOf(name)) >= 0; }
 
 QByteArrayList FolderIndex::Spellings(QByteArrayView name) const {
   QByteArrayList spellings;
-  const auto [first, last] = names_.equal_range(name);
-  for (auto it = first; it != last; ++it) spellings.append(*it);
-  // The container keeps no order among them; give the same answer every time.
+  if (slots_.empty()) return spellings;
+  const std::uint64_t hash = HashOf(name);
+  const std::size_t mask = slots_.size() - 1;
+  for (std::size_t i = hash & mask; slots_[i].name != kEmpty; i = (i + 1) & mask) {
+    const Slot& slot = slots_[i];
+    if (slot.name >= 0 && slot.hash == hash && SameFolded(names_[slot.name], name)) {
+      spellings.append(names_[slot.name]);
+    }
+  }
   if (spellings.size() > 1) std::sort(spellings.begin(), spellings.end());
   return spellings;
 }
 
 void FolderIndex::Add(const QByteArray& name) {
-  if (!Contains(name)) names_.insert(name);
+  const std::uint64_t hash = HashOf(name);
+  if (FindExact(name, hash) >= 0) return;
+  if (static_cast<std::size_t>(used_ + 1) * 2 > slots_.size()) Grow();
+  Insert(name, hash);
+}
+
+// Takes the first free place on the name's probe path; the caller has made
+// sure the name is not there and that the table has room.
+void FolderIndex::Insert(const QByteArray& name, std::uint64_t hash) {
+  std::int32_t entry;
+  if (freeNames_.empty()) {
+    entry = static_cast<std::int32_t>(names_.size());
+    names_.push_back(name);
+  } else {
+    entry = freeNames_.back();
+    freeNames_.pop_back();
+    names_[entry] = name;
+  }
+  const std::size_t mask = slots_.size() - 1;
+  std::size_t i = hash & mask;
+  while (slots_[i].name >= 0) i = (i + 1) & mask;
+  if (slots_[i].name == kEmpty) ++used_;
+  slots_[i] = {hash, entry};
+}
+
+// Doubles the table (or rebuilds it at the same size when removals are
+// what filled it), dropping the marks removals left.
+void FolderIndex::Grow() {
+  std::vector<Slot> old = std::move(slots_);
+  qsizetype live = 0;
+  for (const Slot& slot : old) live += slot.name >= 0 ? 1 : 0;
+  std::size_t size = std::max<std::size_t>(16, old.size());
+  while (static_cast<std::size_t>(live + 1) * 2 > size / 2) size *= 2;
+  slots_.assign(size, Slot{});
+  used_ = live;
+  const std::size_t mask = size - 1;
+  for (const Slot& slot : old) {
+    if (slot.name < 0) continue;
+    std::size_t i = slot.hash & mask;
+    while (slots_[i].name != kEmpty) i = (i + 1) & mask;
+    slots_[i] = slot;
+  }
 }
 
 void FolderIndex::Remove(QByteArrayView name) {
-  const auto [first, last] = names_.equal_range(name);
-  for (auto it = first; it != last; ++it) {
-    if (*it == name) {
-      names_.erase(it);
-      return;
-    }
-  }
+  const qsizetype at = FindExact(name, HashOf(name));
+  if (at < 0) return;
+  Slot& slot = slots_[static_cast<std::size_t>(at)];
+  names_[slot.name] = QByteArray();
+  freeNames_.push_back(slot.name);
+  slot.name = kRemoved;
 }
 
 void FolderIndex::Move(const QByteArray& from, const QByteArray& to) {

@@ -3,10 +3,9 @@
 #include <QByteArray>
 #include <QByteArrayList>
 #include <QByteArrayView>
-#include <unordered_set>
+#include <cstdint>
 #include <vector>
 
-#include "core/AsciiFoldedName.h"
 #include "platform/FileSystem.h"
 
 namespace renvale::core {
@@ -16,6 +15,11 @@ namespace renvale::core {
 // target costs a hash lookup instead of a trip to the disk. Lookups can also
 // ignore ASCII letter case, because cameras and editors disagree about it
 // ("IMG_0001.THM", "IMG_0001.xmp").
+//
+// A batch asks several questions per file between renames, which push the
+// index out of the processor's caches; so the table is one flat array of
+// hashes that a lookup probes without touching the names, unless a hash
+// matches.
 class FolderIndex {
  public:
   FolderIndex() = default;
@@ -27,7 +31,7 @@ class FolderIndex {
 
   // True when a name spelled exactly like `name` is there.
   bool Contains(QByteArrayView name) const;
-  // Every name equal to `name` without regard to ASCII letter case.
+  // Every name equal to `name` without regard to ASCII letter case, sorted.
   QByteArrayList Spellings(QByteArrayView name) const;
 
   void Add(const QByteArray& name);
@@ -35,8 +39,23 @@ class FolderIndex {
   void Move(const QByteArray& from, const QByteArray& to);
 
  private:
-  // Spellings that differ only in case share a bucket and sit side by side.
-  std::unordered_multiset<QByteArray, AsciiFoldedName, AsciiFoldedName> names_;
+  static constexpr std::int32_t kEmpty = -1;
+  static constexpr std::int32_t kRemoved = -2;
+
+  struct Slot {
+    std::uint64_t hash = 0;
+    std::int32_t name = kEmpty;  // index into names_, or kEmpty / kRemoved
+  };
+
+  // The slot holding exactly `name`, or -1.
+  qsizetype FindExact(QByteArrayView name, std::uint64_t hash) const;
+  void Insert(const QByteArray& name, std::uint64_t hash);
+  void Grow();
+
+  std::vector<Slot> slots_;  // a power of two long, at most half in use
+  std::vector<QByteArray> names_;
+  std::vector<std::int32_t> freeNames_;  // entries of names_ left by removals
+  qsizetype used_ = 0;                   // slots holding a name or kRemoved
 };
 
 }  // namespace renvale::core

@@ -44,6 +44,7 @@ OverwriteOutcome OverwritingRename::AskAndReplace(const platform::FileName& oldN
     return Failed(platform::kFileAlreadyExists, false);
   }
   if (const int error = renamer_.CheckCompanionTargets(oldName.raw, target)) return Failed(error, true);
+  context_.tokens.FileReplaced();
   if (const int error = DeleteTarget(target)) return Failed(error, true);
   context_.view.ProcessEvents();
   OverwriteOutcome outcome = Rename(oldName, target);

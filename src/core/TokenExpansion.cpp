@@ -91,6 +91,13 @@ const QString& TokenUpper(Token token) { return TokenSpellings().upper[static_ca
 
 const QString& TokenLower(Token token) { return TokenSpellings().lower[static_cast<int>(token)]; }
 
+bool MentionsExifToken(const QString& name) {
+  for (Token token : {Token::Date, Token::Time, Token::DateTime, Token::Serial}) {
+    if (IsFound(name, token, Detection::UpperCasedText)) return true;
+  }
+  return false;
+}
+
 QString ExpandIndividualTokens(const QString& name, const TokenValueFunction& valueOf) {
   return Expand(name,
                 {{Token::OrigFn, true}, {Token::Date, true}, {Token::Time, true},

@@ -39,6 +39,10 @@ QString ExpandIndividualTokens(const QString& name, const TokenValueFunction& va
 // spelling: a typed "%serial%" is found but stays.
 QString ExpandBatchTokens(const QString& name, const TokenValueFunction& valueOf);
 
+// True when batch expansion would find "%DATE%", "%TIME%", "%DATE TIME%" or
+// "%SERIAL%" in `name`, that is, ask for a value read from the file.
+bool MentionsExifToken(const QString& name);
+
 // Order: "%DATE%", "%TIME%", "%DATE TIME%", "%SERIES%", "%ORIGFN%"; a value
 // is asked for only when the exact upper-case or lower-case spelling occurs,
 // and both spellings are replaced. Mixed case stays and costs nothing.

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <vector>
 
 #include "core/TokenExpansion.h"
 #include "platform/FileName.h"
@@ -34,6 +35,16 @@ class TokenSource {
 
   // The ID3 values of an ".mp3" file.
   virtual Id3Values Id3(const QByteArray& folder, const platform::FileName& file) = 0;
+
+  // A batch is about to ask for the EXIF values of `files` in `folder`, in
+  // this order; an implementation may start reading them ahead.
+  virtual void ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files) {
+    (void)folder;
+    (void)files;
+  }
+  // A file of the folder is about to be replaced by another, so values read
+  // ahead of their turn may no longer be the file's.
+  virtual void FileReplaced() {}
 };
 
 }  // namespace renvale::core

@@ -25,4 +25,10 @@ bool IsNoExifStatus(const QString& status);
 bool LoadExifChecked(ExifReader& reader, platform::FileSystem& fs,
                      platform::MessagePort& messages, const QByteArray& path);
 
+// The same without showing anything: the text that would be shown goes to
+// `errorMessage` (left alone when there is none), so that a file read on
+// another thread can be reported when its turn comes.
+bool LoadExifQuietly(ExifReader& reader, platform::FileSystem& fs, const QByteArray& path,
+                     QString* errorMessage);
+
 }  // namespace renvale::metadata

@@ -16,15 +16,19 @@ struct FileTags {
   QString serial;
 };
 
-bool ReadTags(const ExifFile& file, FileTags* tags) {
+bool ReadTagsQuietly(platform::FileSystem& fs, const QByteArray& path, FileTags* tags, QString* errorMessage) {
   ExifReader reader;
-  if (!LoadExifChecked(reader, file.fs, file.messages,
-                       platform::JoinPath(file.folder, file.rawName))) {
-    return false;
-  }
+  if (!LoadExifQuietly(reader, fs, path, errorMessage)) return false;
   tags->dateTimeOriginal = reader.Tag(texts::kTagDateTimeOriginal);
   tags->serial = reader.Tag(texts::kTagImageNumber);
   return true;
+}
+
+bool ReadTags(const ExifFile& file, FileTags* tags) {
+  QString errorMessage;
+  if (ReadTagsQuietly(file.fs, platform::JoinPath(file.folder, file.rawName), tags, &errorMessage)) return true;
+  file.messages.Notify(errorMessage);
+  return false;
 }
 
 int FormOfToken(const QString& token) {
@@ -58,12 +62,21 @@ QString ExifTokenValue(const ExifFile& file, const QString& token, const ExifDat
 }
 
 ExifTokenValues ReadExifTokenValues(const ExifFile& file, const ExifDateFormats& formats) {
+  QString errorMessage;
+  ExifTokenValues values = ReadExifTokenValuesQuietly(file.fs, file.folder, file.rawName, formats, &errorMessage);
+  if (!errorMessage.isEmpty()) file.messages.Notify(errorMessage);
+  return values;
+}
+
+ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, const QByteArray& folder,
+                                           const QByteArray& rawName, const ExifDateFormats& formats,
+                                           QString* errorMessage) {
   FileTags tags;
   ExifTokenValues values;
-  if (!ReadTags(file, &tags)) return values;
+  if (!ReadTagsQuietly(fs, platform::JoinPath(folder, rawName), &tags, errorMessage)) return values;
   values.ok = true;
   values.serial = tags.serial;
-  const QString when = ExposureDateTime(file.fs, file.folder, file.rawName, tags.dateTimeOriginal);
+  const QString when = ExposureDateTime(fs, folder, rawName, tags.dateTimeOriginal);
   if (ExifDateAndTimeTexts(when, formats.date, formats.time, &values.date, &values.time)) {
     values.dateTime = values.date + u' ' + values.time;
   }

@@ -48,6 +48,11 @@ struct ExifTokenValues {
   QString serial;
 };
 ExifTokenValues ReadExifTokenValues(const ExifFile& file, const ExifDateFormats& formats);
+// The same without showing anything: a reader error's text ("EXIF Error: "
+// + status) goes to `errorMessage`.
+ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, const QByteArray& folder,
+                                           const QByteArray& rawName, const ExifDateFormats& formats,
+                                           QString* errorMessage);
 
 QString ExifInsertValue(const ExifFile& file, int form, bool batchMode,
                         const ExifDateFormats& formats);

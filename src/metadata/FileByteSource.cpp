@@ -8,14 +8,23 @@
 
 namespace renvale::metadata {
 
+// A read gives all that was asked unless the file ends first, so a head
+// shorter than asked for is the whole file: small pictures never need their
+// size asked of the system.
 FileByteSource::FileByteSource(platform::ReadableFile& file) : file_(file) {
-  size_ = file_.Size();
-  if (size_ < 0) {
+  errno = 0;
+  const qint64 got = file_.ReadAt(0, head_, kHeadSize);
+  if (got < 0) {
+    ioError_ = platform::ErrorNumberFromErrno(errno != 0 ? errno : EIO);
+    return;
+  }
+  size_ = got < kHeadSize ? got : file_.Size();
+  if (size_ < got) {  // no size, or the file shrank under us
     size_ = 0;
     ioError_ = platform::kErrnoBase + EIO;
     return;
   }
-  if (Fill(head_, 0, qMin(size_, kHeadSize))) headSize_ = qMin(size_, kHeadSize);
+  headSize_ = got;
 }
 
 // Reads exactly `length` bytes at `offset`; a short read means the file

@@ -23,6 +23,8 @@ struct FileInfo {
 class ReadableFile {
  public:
   virtual ~ReadableFile() = default;
+  // The size in bytes, or -1 when it cannot be had. It may be taken on the
+  // first call; from then on reads stop there.
   virtual qint64 Size() const = 0;
   // Reads up to `length` bytes at `offset` into `buffer`; returns the count
   // read (0 at or past the end) or -1 on error.
@@ -59,6 +61,9 @@ class FileSystem {
   virtual int MoveToTrash(const QByteArray& path) = 0;
 
   virtual int OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) = 0;
+  // True when files may be opened, read and stat'ed from a second thread
+  // while this one renames. Fakes that keep plain bookkeeping say no.
+  virtual bool ReadableFromAnyThread() const { return false; }
   // Writes a whole file (creating or truncating it), flushed before success.
   virtual int WriteWholeFile(const QByteArray& path, const QByteArray& contents) = 0;
   virtual int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) = 0;

@@ -172,10 +172,8 @@ int PosixFileSystem::OpenForRead(const QByteArray& path, std::unique_ptr<Readabl
   file->reset();
   UniqueFd fd(::open(path.constData(), O_RDONLY | O_CLOEXEC));
   if (!fd.valid()) return ErrorNumberFromErrno(errno);
-  struct stat st;
-  if (::fstat(fd.get(), &st) != 0) return ErrorNumberFromErrno(errno);
-  if (S_ISDIR(st.st_mode)) return ErrorNumberFromErrno(EISDIR);
-  *file = std::make_unique<PosixReadableFile>(std::move(fd), static_cast<qint64>(st.st_size));
+  // A folder opens too; reading it then fails with EISDIR.
+  *file = std::make_unique<PosixReadableFile>(std::move(fd));
   return kNoError;
 }
 

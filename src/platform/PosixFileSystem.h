@@ -20,6 +20,7 @@ class PosixFileSystem : public FileSystem {
   int MoveToTrash(const QByteArray& path) override;
 
   int OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) override;
+  bool ReadableFromAnyThread() const override { return true; }
   int WriteWholeFile(const QByteArray& path, const QByteArray& contents) override;
   // A file longer than `maxBytes` gives kErrnoBase + EFBIG and no contents.
   int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) override;

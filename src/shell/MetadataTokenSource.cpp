@@ -3,6 +3,8 @@
 #include "core/TokenExpansion.h"
 #include "metadata/mdlID3.h"
 #include "platform/FileName.h"
+#include "platform/FileSystem.h"
+#include "platform/MessagePort.h"
 
 namespace renvale::shell {
 
@@ -10,8 +12,7 @@ QString MetadataTokenSource::ExifValue(const QByteArray& folder, const platform:
   const QByteArray path = platform::JoinPath(folder, file.raw);
   if (path != cachedPath_) {
     cachedPath_ = path;
-    cached_ = metadata::ReadExifTokenValues({fs_, messages_, folder, file.raw},
-                                            {settings_.exifDate, settings_.exifTime});
+    cached_ = ReadValues(folder, file);
   }
   switch (token) {
     case core::Token::Date: return cached_.date;
@@ -20,6 +21,27 @@ QString MetadataTokenSource::ExifValue(const QByteArray& folder, const platform:
     case core::Token::Serial: return cached_.serial;
     default: return {};
   }
+}
+
+metadata::ExifTokenValues MetadataTokenSource::ReadValues(const QByteArray& folder, const platform::FileName& file) {
+  metadata::ExifReadAhead::Result ahead;
+  if (readAhead_ == nullptr || !readAhead_->Take(folder, file.raw, Formats(), &ahead)) {
+    return metadata::ReadExifTokenValues({fs_, messages_, folder, file.raw}, Formats());
+  }
+  if (!ahead.errorMessage.isEmpty()) messages_.Notify(ahead.errorMessage);
+  return ahead.values;
+}
+
+void MetadataTokenSource::ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files) {
+  if (!fs_.ReadableFromAnyThread()) return;
+  std::vector<QByteArray> names;
+  names.reserve(files.size());
+  for (const platform::FileName& file : files) names.push_back(file.raw);
+  readAhead_ = std::make_unique<metadata::ExifReadAhead>(fs_, folder, names, Formats());
+}
+
+void MetadataTokenSource::FileReplaced() {
+  if (readAhead_ != nullptr) readAhead_->Drop();
 }
 
 core::Id3Values MetadataTokenSource::Id3(const QByteArray& folder, const platform::FileName& file) {

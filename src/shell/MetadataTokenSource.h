@@ -3,7 +3,11 @@
 
 #include "core/SettingsRecord.h"
 #include "core/TokenSource.h"
+#include "metadata/ExifReadAhead.h"
 #include "metadata/ExifValues.h"
+
+#include <memory>
+#include <vector>
 
 namespace renvale::platform {
 class FileSystem;
@@ -14,7 +18,8 @@ namespace renvale::shell {
 
 // The renames' file values, read with the EXIF and ID3 readers. A batch asks
 // for several tokens of one file in a row, so each file's EXIF block is read
-// once and its values kept until another file is asked about.
+// once and its values kept until another file is asked about. When the file
+// system allows it, a batch's files are read ahead on a second thread.
 class MetadataTokenSource : public core::TokenSource {
  public:
   MetadataTokenSource(platform::FileSystem& fs, platform::MessagePort& messages,
@@ -23,13 +28,19 @@ class MetadataTokenSource : public core::TokenSource {
 
   QString ExifValue(const QByteArray& folder, const platform::FileName& file, core::Token token) override;
   core::Id3Values Id3(const QByteArray& folder, const platform::FileName& file) override;
+  void ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files) override;
+  void FileReplaced() override;
 
  private:
+  metadata::ExifTokenValues ReadValues(const QByteArray& folder, const platform::FileName& file);
+  metadata::ExifDateFormats Formats() const { return {settings_.exifDate, settings_.exifTime}; }
+
   platform::FileSystem& fs_;
   platform::MessagePort& messages_;
   const core::SettingsRecord& settings_;
   QByteArray cachedPath_;
   metadata::ExifTokenValues cached_;
+  std::unique_ptr<metadata::ExifReadAhead> readAhead_;
 };
 
 }  // namespace renvale::shell

@@ -60,6 +60,29 @@ TEST_F(MainWindowRename, ButtonRunsTheBatchWithEachPicturesOwnDate) {
   EXPECT_TRUE(main.Ui().File1->isEnabled());
 }
 
+// The batch reads pictures ahead of their turn; a file replaced meanwhile
+// must be read again, or "2004-01-01.jpg" would be named by its old date.
+TEST_F(MainWindowRename, AFileReplacedDuringTheBatchIsNamedByItsNewContents) {
+  ExifFields fields = TypicalExifFields();
+  fields.dateTimeOriginal = "2004:01:01 10:00:00";
+  const QByteArray first = MakeExifJpeg(&fields);
+  ASSERT_TRUE(WriteFile(QFile::decodeName(Folder()) + "0.jpg", first));
+  fields.dateTimeOriginal = "2005:05:05 10:00:00";
+  ASSERT_TRUE(WriteFile(QFile::decodeName(Folder()) + "2004-01-01.jpg", MakeExifJpeg(&fields)));
+  shell::MainWindow& main = Open();
+  window->SelectAll();
+  main.Ui().Text1->setText("%DATE%");
+  messages.Script(MessageAnswer::Yes);  // a base without time or series: go on
+  messages.Script(MessageAnswer::Yes);  // replace "2004-01-01.jpg" with "0.jpg"
+  main.Ui().Command11->click();
+  ASSERT_EQ(messages.messages.size(), 2u) << messages.Texts().join('|').toStdString();
+  EXPECT_EQ(messages.Last().title, "Filename already exists!");
+  EXPECT_EQ(ListedNames(), QStringList({"2004-01-01.jpg"}));
+  QFile kept(QFile::decodeName(Folder()) + "2004-01-01.jpg");
+  ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+  EXPECT_EQ(kept.readAll(), first);
+}
+
 TEST_F(MainWindowRename, CancelOnAnExistingTargetStepsTheSeriesBackAndTheListIsLockedMeanwhile) {
   MakeFiles({"a.jpg", "b.jpg", "Trip 02.jpg"});
   shell::MainWindow& main = Open();

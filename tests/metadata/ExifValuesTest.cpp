@@ -3,6 +3,7 @@
 #include "QStringPrinter.h"
 
 #include "metadata/ExifDateTime.h"
+#include "metadata/ExifReadAhead.h"
 #include "metadata/ExifReader.h"
 #include "metadata/ExifStatusCheck.h"
 #include "metadata/ExifValues.h"
@@ -65,6 +66,34 @@ TEST_F(ExifValuesTest, TokenValuesOfAPictureWithExif) {
   EXPECT_EQ(Token("exif.jpg", "%date%"), "");
   EXPECT_EQ(Token("noserial.jpg", "%SERIAL%"), "");
   EXPECT_TRUE(messages.messages.empty());
+}
+
+TEST_F(ExifValuesTest, ReadAheadGivesWhatReadingAtTheTurnGivesAndLeavesMessagesToTheCaller) {
+  // Read directly first: the fake file system is not for two threads at once.
+  const QString plainDateTime = metadata::ReadExifTokenValues(File("plain.jpg"), kFormats).dateTime;
+  QString lockedMessage;
+  metadata::ReadExifTokenValuesQuietly(fs, "/p/", "locked.jpg", kFormats, &lockedMessage);
+  ASSERT_TRUE(lockedMessage.startsWith("EXIF Error: "));
+
+  metadata::ExifReadAhead ahead(fs, "/p/", {"exif.jpg", "locked.jpg", "plain.jpg"}, kFormats);
+  metadata::ExifReadAhead::Result result;
+  ASSERT_TRUE(ahead.Take("/p/", "plain.jpg", kFormats, &result));  // the batch passed over two
+  EXPECT_EQ(result.values.dateTime, plainDateTime);
+  ASSERT_TRUE(ahead.Take("/p/", "locked.jpg", kFormats, &result));
+  EXPECT_FALSE(result.values.ok);
+  EXPECT_EQ(result.errorMessage, lockedMessage);
+  EXPECT_FALSE(ahead.Take("/p/", "locked.jpg", kFormats, &result)) << "each file's values go out once";
+  EXPECT_FALSE(ahead.Take("/q/", "exif.jpg", kFormats, &result));
+  EXPECT_FALSE(ahead.Take("/p/", "exif.jpg", {"yyyy", "hh"}, &result));
+  EXPECT_FALSE(ahead.Take("/p/", "other.jpg", kFormats, &result));
+  ASSERT_TRUE(ahead.Take("/p/", "exif.jpg", kFormats, &result));
+  EXPECT_EQ(result.values.dateTime, "2004-07-15 18.03.09");
+  EXPECT_EQ(result.values.serial, "1234567");
+  EXPECT_TRUE(messages.messages.empty());
+
+  metadata::ExifReadAhead dropped(fs, "/p/", {"exif.jpg"}, kFormats);
+  dropped.Drop();
+  EXPECT_FALSE(dropped.Take("/p/", "exif.jpg", kFormats, &result));
 }
 
 TEST_F(ExifValuesTest, PictureWithoutExifFallsBackSilently) {

@@ -70,8 +70,15 @@ TEST(FileSystemWholeFiles, WriteReadAndReadAt) {
   EXPECT_EQ(file->ReadAt(4, buffer, 8), 2);
   EXPECT_EQ(QByteArray(buffer, 2), "ef");
   EXPECT_EQ(file->ReadAt(6, buffer, 8), 0);
+  // Once taken, the size is the end even if the file grows.
+  ASSERT_EQ(RealFileSystem().WriteWholeFile(folder / "t.rnt", "abcdefgh"), 0);
+  EXPECT_EQ(file->ReadAt(4, buffer, 8), 2);
   EXPECT_EQ(RealFileSystem().OpenForRead(folder / "absent", &file), platform::kFileNotFound);
   EXPECT_EQ(file, nullptr);
+  ASSERT_EQ(RealFileSystem().OpenForRead(folder.path(), &file), 0);
+  errno = 0;
+  EXPECT_EQ(file->ReadAt(0, buffer, 8), -1) << "a folder opens, but cannot be read";
+  EXPECT_EQ(errno, EISDIR);
 }
 
 TEST(AttributeLetters, LettersInTheirOrderFromTheFilesState) {

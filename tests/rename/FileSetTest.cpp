@@ -55,6 +55,21 @@ TEST(FolderIndex, KeepsEverySpellingApartAndFoldsOnlyAsciiLetters) {
   EXPECT_TRUE(index.Contains("b.jpg")) << "only the exact spelling is removed";
 }
 
+TEST(FolderIndex, StaysExactThroughManyRenames) {
+  core::FolderIndex index;  // as after a folder that could not be listed
+  index.Add("keep.jpg");
+  QByteArray current = "0.jpg";
+  index.Add(current);
+  for (int i = 1; i <= 3000; ++i) {
+    const QByteArray next = QByteArray::number(i) + ".JPG";
+    index.Move(current, next);
+    current = next;
+  }
+  EXPECT_TRUE(index.Contains("keep.jpg"));
+  EXPECT_EQ(index.Spellings("3000.jpg"), QByteArrayList({"3000.JPG"}));
+  for (const char* gone : {"0.jpg", "1.JPG", "2999.JPG"}) EXPECT_FALSE(index.Contains(gone)) << gone;
+}
+
 class FileSetTest : public RenameFixture {
  protected:
   void Batch(const QString& base) {

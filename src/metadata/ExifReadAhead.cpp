@@ -1,0 +1,53 @@
+#include "metadata/ExifReadAhead.h"
+
+namespace renvale::metadata {
+
+ExifReadAhead::ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder,
+                             const std::vector<QByteArray>& rawNames, const ExifDateFormats& formats)
+    : fs_(fs), folder_(folder), names_(rawNames), formats_(formats), results_(rawNames.size()),
+      taken_(rawNames.size(), false) {
+  positions_.reserve(static_cast<qsizetype>(names_.size()));
+  // A name listed twice is read at its first place.
+  for (qsizetype i = static_cast<qsizetype>(names_.size()) - 1; i >= 0; --i) positions_.insert(names_[i], i);
+  reader_ = std::jthread([this](const std::stop_token& stop) { Work(stop); });
+}
+
+ExifReadAhead::~ExifReadAhead() { Drop(); }
+
+void ExifReadAhead::Work(const std::stop_token& stop) {
+  for (size_t i = 0; i < names_.size() && !stop.stop_requested(); ++i) {
+    Result result;
+    result.values = ReadExifTokenValuesQuietly(fs_, folder_, names_[i], formats_, &result.errorMessage);
+    const std::lock_guard<std::mutex> hold(lock_);
+    results_[i] = std::move(result);
+    read_ = static_cast<qsizetype>(i) + 1;
+    progressed_.notify_all();
+  }
+}
+
+bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, const ExifDateFormats& formats,
+                         Result* out) {
+  if (folder != folder_ || formats.date != formats_.date || formats.time != formats_.time) return false;
+  const auto found = positions_.constFind(rawName);
+  if (found == positions_.cend()) return false;
+  const qsizetype at = *found;
+  std::unique_lock<std::mutex> hold(lock_);
+  progressed_.wait(hold, [&] { return dropped_ || read_ > at; });
+  if (dropped_ || taken_[static_cast<size_t>(at)]) return false;
+  taken_[static_cast<size_t>(at)] = true;
+  *out = std::move(results_[static_cast<size_t>(at)]);
+  return true;
+}
+
+void ExifReadAhead::Drop() {
+  {
+    const std::lock_guard<std::mutex> hold(lock_);
+    if (dropped_) return;
+    dropped_ = true;
+    progressed_.notify_all();
+  }
+  reader_.request_stop();
+  if (reader_.joinable()) reader_.join();
+}
+
+}  // namespace renvale::metadata

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QString>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include "metadata/ExifValues.h"
+
+namespace renvale::platform {
+class FileSystem;
+}
+
+namespace renvale::metadata {
+
+// Reads the EXIF naming values of a batch's files on a second thread, in
+// the batch's order, while the first one renames: a batch over thousands of
+// pictures then waits for neither the reads nor the date formatting.
+//
+// Only reading happens there; what a read would show ("EXIF Error: ...") is
+// kept and shown by the caller when the file's turn comes, so messages come
+// in the same order as without reading ahead. Values read ahead are right
+// as long as no file of the folder is replaced: renaming moves names, never
+// contents. A batch that replaces a file calls Drop(), and from then on
+// every file is read at its turn again.
+class ExifReadAhead {
+ public:
+  struct Result {
+    ExifTokenValues values;
+    QString errorMessage;  // empty, or the text to show for this file
+  };
+
+  // `fs` must be readable from any thread. Starts reading at once.
+  ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder, const std::vector<QByteArray>& rawNames,
+                const ExifDateFormats& formats);
+  // Stops the reading (after the file at hand) and waits for it.
+  ~ExifReadAhead();
+  ExifReadAhead(const ExifReadAhead&) = delete;
+  ExifReadAhead& operator=(const ExifReadAhead&) = delete;
+
+  // The values of `rawName` in `folder` read with `formats`, waiting if the
+  // reader has not got there yet. False when that file was not read ahead
+  // with those formats, or reading ahead was dropped: read it now instead.
+  // Each file's values are handed out once.
+  bool Take(const QByteArray& folder, const QByteArray& rawName, const ExifDateFormats& formats, Result* out);
+
+  // Files of the folder are about to change: nothing read ahead is used any
+  // more, and the reader stops.
+  void Drop();
+
+ private:
+  void Work(const std::stop_token& stop);
+
+  platform::FileSystem& fs_;
+  const QByteArray folder_;
+  const std::vector<QByteArray> names_;
+  const ExifDateFormats formats_;
+  QHash<QByteArray, qsizetype> positions_;
+  std::vector<Result> results_;  // [0, read_) filled by the reader
+  std::vector<bool> taken_;
+
+  std::mutex lock_;
+  std::condition_variable progressed_;
+  qsizetype read_ = 0;
+  bool dropped_ = false;
+  std::jthread reader_;  // last: starts when everything it uses is built
+};
+
+}  // namespace renvale::metadata
