@@ -24,10 +24,10 @@ void MainWindowFixture::TearDown() { window.reset(); }
 
 QByteArray MainWindowFixture::Folder() const { return QFile::encodeName(dir.path()) + "/files/"; }
 
-shell::MainWindow& MainWindowFixture::Open() {
+shell::MainWindow& MainWindowFixture::Open(platform::FileSystem& fs) {
   window.reset();
   shell::MainWindowServices services{
-      platform::RealFileSystem(), messages, *storage, tips,
+      fs, messages, *storage, tips,
       [this](QWidget*, const QString& title, const QString&) {
         pickerTitle = title;
         return pickerAnswer;

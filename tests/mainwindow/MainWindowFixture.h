@@ -29,7 +29,7 @@ class MainWindowFixture : public ::testing::Test {
   void TearDown() override;
 
   // Builds and starts a window; call again after Shutdown to reopen.
-  shell::MainWindow& Open();
+  shell::MainWindow& Open(platform::FileSystem& fs = platform::RealFileSystem());
   void CloseWindow();
   void MakeFiles(const QStringList& names);
   void MakeFile(const QByteArray& rawName, const QByteArray& bytes = "x");

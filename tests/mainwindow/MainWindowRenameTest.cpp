@@ -1,3 +1,4 @@
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QListView>
@@ -6,6 +7,7 @@
 
 #include "mainwindow/MainWindowFixture.h"
 #include "shell/FileListModel.h"
+#include "support/FaultyFileSystem.h"
 #include "support/SampleImages.h"
 
 namespace renvale::test {
@@ -81,6 +83,36 @@ TEST_F(MainWindowRename, AFileReplacedDuringTheBatchIsNamedByItsNewContents) {
   QFile kept(QFile::decodeName(Folder()) + "2004-01-01.jpg");
   ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
   EXPECT_EQ(kept.readAll(), first);
+}
+
+// Camera sets, raws of many makes and pictures without EXIF: reading ahead
+// must name them exactly as reading each at its turn does.
+TEST_F(MainWindowRename, ReadingAheadNamesRealCameraFilesAsReadingEachAtItsTurn) {
+  const QString camera = qEnvironmentVariable("RENVALE_TESTDATA") + "/camera/";
+  if (qEnvironmentVariableIsEmpty("RENVALE_TESTDATA") || !QDir(camera).exists()) GTEST_SKIP() << "no camera files";
+  const QString folder = QFile::decodeName(Folder());
+  // The same old file time everywhere, so that fallback dates agree.
+  const QDateTime taken(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC);
+  auto batch = [&](platform::FileSystem& fs) {
+    for (const QString& name : QDir(folder).entryList(QDir::Files)) QFile::remove(folder + name);
+    for (const QString& name : QDir(camera).entryList(QDir::Files)) {
+      QFile::copy(camera + name, folder + name);
+      QFile copy(folder + name);
+      copy.open(QIODevice::ReadWrite);
+      copy.setFileTime(taken, QFileDevice::FileModificationTime);
+    }
+    messages.messages.clear();
+    shell::MainWindow& main = Open(fs);
+    main.Ui().Text2->setText("1");
+    window->SelectAll();
+    main.Ui().Text1->setText("%DATE% %TIME% %SERIES%");
+    main.Ui().Command11->click();
+    return std::make_pair(ListedNames(), messages.Texts());
+  };
+  FaultyFileSystem oneThread(platform::RealFileSystem());  // offers no second thread
+  const auto atTheirTurn = batch(oneThread);
+  EXPECT_EQ(batch(platform::RealFileSystem()), atTheirTurn);
+  EXPECT_GT(atTheirTurn.first.size(), 20);
 }
 
 TEST_F(MainWindowRename, CancelOnAnExistingTargetStepsTheSeriesBackAndTheListIsLockedMeanwhile) {
