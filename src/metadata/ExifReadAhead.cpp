@@ -1,5 +1,7 @@
 #include "metadata/ExifReadAhead.h"
 
+#include <algorithm>
+
 namespace renvale::metadata {
 
 ExifReadAhead::ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder,
@@ -16,6 +18,13 @@ ExifReadAhead::~ExifReadAhead() { Drop(); }
 
 void ExifReadAhead::Work(const std::stop_token& stop) {
   for (size_t i = 0; i < names_.size() && !stop.stop_requested(); ++i) {
+    {
+      // Far enough ahead: wait, rather than hold the values of a whole
+      // folder of a hundred thousand files at once.
+      std::unique_lock<std::mutex> hold(lock_);
+      progressed_.wait(hold, [&] { return dropped_ || static_cast<qsizetype>(i) < wanted_ + kLead; });
+      if (dropped_) return;
+    }
     Result result;
     result.values = ReadExifTokenValuesQuietly(fs_, folder_, names_[i], formats_, &result.errorMessage);
     const std::lock_guard<std::mutex> hold(lock_);
@@ -32,6 +41,9 @@ bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, co
   if (found == positions_.cend()) return false;
   const qsizetype at = *found;
   std::unique_lock<std::mutex> hold(lock_);
+  // Asking for a file lets the reader go on to it however far it lies.
+  wanted_ = std::max(wanted_, at + 1);
+  progressed_.notify_all();
   progressed_.wait(hold, [&] { return dropped_ || read_ > at; });
   if (dropped_ || taken_[static_cast<size_t>(at)]) return false;
   taken_[static_cast<size_t>(at)] = true;

@@ -62,9 +62,13 @@ class ExifReadAhead {
   std::vector<Result> results_;  // [0, read_) filled by the reader
   std::vector<bool> taken_;
 
+  // How far the reader may run ahead of the furthest file asked for.
+  static constexpr qsizetype kLead = 256;
+
   std::mutex lock_;
-  std::condition_variable progressed_;
+  std::condition_variable progressed_;  // a file read, taken, or all dropped
   qsizetype read_ = 0;
+  qsizetype wanted_ = 0;  // one past the furthest file asked for
   bool dropped_ = false;
   std::jthread reader_;  // last: starts when everything it uses is built
 };

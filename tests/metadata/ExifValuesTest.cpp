@@ -96,6 +96,16 @@ TEST_F(ExifValuesTest, ReadAheadGivesWhatReadingAtTheTurnGivesAndLeavesMessagesT
   EXPECT_FALSE(dropped.Take("/p/", "exif.jpg", kFormats, &result));
 }
 
+TEST_F(ExifValuesTest, ReadAheadGoesOnToAFileFarBeyondItsLead) {
+  std::vector<QByteArray> names;
+  for (int i = 0; i < 1000; ++i) names.push_back("absent" + QByteArray::number(i) + ".jpg");
+  names.back() = "exif.jpg";  // the files before it travel with others, say
+  metadata::ExifReadAhead ahead(fs, "/p/", names, kFormats);
+  metadata::ExifReadAhead::Result result;
+  ASSERT_TRUE(ahead.Take("/p/", "exif.jpg", kFormats, &result));
+  EXPECT_EQ(result.values.date, "2004-07-15");
+}
+
 TEST_F(ExifValuesTest, PictureWithoutExifFallsBackSilently) {
   const QString oldest = metadata::FileTimeText(
       QDateTime(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC), metadata::LocalClockOffsetHours());
