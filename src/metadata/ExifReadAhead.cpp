@@ -16,21 +16,27 @@ ExifReadAhead::ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder,
 
 ExifReadAhead::~ExifReadAhead() { Drop(); }
 
+// Far enough ahead, the reader waits rather than hold the values of a whole
+// folder of a hundred thousand files at once; it goes on when half its lead
+// is used up, so that it wakes once per many files, not once per file.
 void ExifReadAhead::Work(const std::stop_token& stop) {
   for (size_t i = 0; i < names_.size() && !stop.stop_requested(); ++i) {
+    const auto at = static_cast<qsizetype>(i);
     {
-      // Far enough ahead: wait, rather than hold the values of a whole
-      // folder of a hundred thousand files at once.
       std::unique_lock<std::mutex> hold(lock_);
-      progressed_.wait(hold, [&] { return dropped_ || static_cast<qsizetype>(i) < wanted_ + kLead; });
+      if (at >= wanted_ + kLead) {
+        readerWaiting_ = true;
+        mayRead_.wait(hold, [&] { return dropped_ || at < wanted_ + kLead / 2; });
+        readerWaiting_ = false;
+      }
       if (dropped_) return;
     }
     Result result;
     result.values = ReadExifTokenValuesQuietly(fs_, folder_, names_[i], formats_, &result.errorMessage);
     const std::lock_guard<std::mutex> hold(lock_);
     results_[i] = std::move(result);
-    read_ = static_cast<qsizetype>(i) + 1;
-    progressed_.notify_all();
+    read_ = at + 1;
+    if (takerWaiting_) fileRead_.notify_all();
   }
 }
 
@@ -43,8 +49,10 @@ bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, co
   std::unique_lock<std::mutex> hold(lock_);
   // Asking for a file lets the reader go on to it however far it lies.
   wanted_ = std::max(wanted_, at + 1);
-  progressed_.notify_all();
-  progressed_.wait(hold, [&] { return dropped_ || read_ > at; });
+  if (readerWaiting_ && read_ < wanted_ + kLead / 2) mayRead_.notify_all();
+  takerWaiting_ = true;
+  fileRead_.wait(hold, [&] { return dropped_ || read_ > at; });
+  takerWaiting_ = false;
   if (dropped_ || taken_[static_cast<size_t>(at)]) return false;
   taken_[static_cast<size_t>(at)] = true;
   *out = std::move(results_[static_cast<size_t>(at)]);
@@ -56,7 +64,8 @@ void ExifReadAhead::Drop() {
     const std::lock_guard<std::mutex> hold(lock_);
     if (dropped_) return;
     dropped_ = true;
-    progressed_.notify_all();
+    mayRead_.notify_all();
+    fileRead_.notify_all();
   }
   reader_.request_stop();
   if (reader_.joinable()) reader_.join();

@@ -66,9 +66,12 @@ class ExifReadAhead {
   static constexpr qsizetype kLead = 256;
 
   std::mutex lock_;
-  std::condition_variable progressed_;  // a file read, taken, or all dropped
+  std::condition_variable fileRead_;  // for Take: a file was read, or all dropped
+  std::condition_variable mayRead_;   // for the reader: it may go on, or stop
   qsizetype read_ = 0;
   qsizetype wanted_ = 0;  // one past the furthest file asked for
+  bool takerWaiting_ = false;
+  bool readerWaiting_ = false;
   bool dropped_ = false;
   std::jthread reader_;  // last: starts when everything it uses is built
 };
