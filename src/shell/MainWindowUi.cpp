@@ -133,6 +133,8 @@ QWidget* MainWindowUi::BuildComposePane(QWidget* parent) {
   Text2 = LabelledBox(pane, insertRow, "Text2", texts::kNextSeriesCaption);
   Text2->setText(QStringLiteral("01"));
   Text2->setMaximumWidth(80);
+  // A big batch leaves a number of four digits or more: show it whole.
+  Text2->setMinimumWidth(Text2->fontMetrics().horizontalAdvance(QStringLiteral("000000")) + 12);
   layout->addLayout(insertRow);
   auto* actionRow = new QHBoxLayout;
   Command7 = Button(pane, "Command7", QStringLiteral("Revert"));
