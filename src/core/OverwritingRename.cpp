@@ -31,7 +31,7 @@ OverwriteOutcome OverwritingRename::Run(const platform::FileName& oldName, const
 
 OverwriteOutcome OverwritingRename::AskAndReplace(const platform::FileName& oldName, const QString& newName) {
   const MessageAnswer answer =
-      context_.messages.Ask(OverwriteQuestionText(newName), platform::MessageButtons::YesNoCancel,
+      context_.messages.AskBeforeLoss(OverwriteQuestionText(newName), platform::MessageButtons::YesNoCancel,
                             platform::MessageIcon::Warning, texts::kOverwriteTitle);
   if (answer == MessageAnswer::No) return OverwriteOutcome{Kind::Declined};
   if (answer != MessageAnswer::Yes) return OverwriteOutcome{Kind::Cancelled};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 namespace renvale::platform {
 
@@ -16,6 +17,10 @@ struct Message {
   QString title = kProgramTitle;
   MessageIcon icon = MessageIcon::None;
   MessageButtons buttons = MessageButtons::Ok;
+  // The button Enter presses; none means the first one. A question whose
+  // Yes loses a file names No here, so that Enter pressed once too often
+  // never destroys anything.
+  std::optional<MessageAnswer> defaultButton;
 };
 
 // Every message box and beep of the program goes through one of these, so
@@ -31,6 +36,9 @@ class MessagePort {
                        const QString& title = kProgramTitle);
   MessageAnswer Ask(const QString& text, MessageButtons buttons, MessageIcon icon,
                     const QString& title = kProgramTitle);
+  // A question whose Yes loses a file: No is the default button.
+  MessageAnswer AskBeforeLoss(const QString& text, MessageButtons buttons, MessageIcon icon,
+                              const QString& title = kProgramTitle);
 };
 
 }  // namespace renvale::platform

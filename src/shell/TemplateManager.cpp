@@ -46,9 +46,9 @@ bool TemplateManager::Save(const QString& typedName, const std::vector<platform:
   // "Kids" over an existing "Kids.rnt" replaces it without a question.
   const bool listedName = std::any_of(listed.begin(), listed.end(),
                                       [&](const platform::FileName& name) { return name.Display() == typedName; });
-  if (listedName && messages_.Ask(texts::kOverwriteTemplate, platform::MessageButtons::YesNo,
-                                  platform::MessageIcon::Question,
-                                  texts::kFileExistsTitle) != platform::MessageAnswer::Yes) {
+  if (listedName && messages_.AskBeforeLoss(texts::kOverwriteTemplate, platform::MessageButtons::YesNo,
+                                            platform::MessageIcon::Question,
+                                            texts::kFileExistsTitle) != platform::MessageAnswer::Yes) {
     return false;
   }
   // A name no file can have fails the way any file error does: silently.

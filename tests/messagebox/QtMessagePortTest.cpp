@@ -48,6 +48,14 @@ TEST(QtMessagePort, ShowsTheMessageAndMapsTheAnswer) {
   EXPECT_EQ(driver.shownIcon, QMessageBox::Warning);
 }
 
+// Enter pressed on a question whose Yes loses a file must not press Yes.
+TEST(QtMessagePort, EnterOnAQuestionBeforeALossAnswersNo) {
+  QtMessagePort port;
+  BoxDriver enter(Qt::Key_Return);
+  enter.Arm();
+  EXPECT_EQ(port.AskBeforeLoss("Overwrite?", MessageButtons::YesNoCancel, MessageIcon::Warning), MessageAnswer::No);
+}
+
 TEST(QtMessagePort, EscapeGivesTheSafeAnswer) {
   QtMessagePort port;
   BoxDriver yesNo(Qt::Key_Escape);

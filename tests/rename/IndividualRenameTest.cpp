@@ -132,6 +132,7 @@ TEST_F(IndividualRenameTest, OverwriteAnswers) {
     EXPECT_EQ(port.Last().text, "Overwrite file: '05.JPG'?\nOverwriting an existing file will cause that file to be lost!");
     EXPECT_EQ(port.Last().icon, platform::MessageIcon::Warning);
     EXPECT_EQ(port.Last().buttons, platform::MessageButtons::YesNoCancel);
+    EXPECT_EQ(port.Last().defaultButton, MessageAnswer::No);
     EXPECT_EQ(Folder(), c.after);
     EXPECT_EQ(view.series, c.seriesAfter);
   }

@@ -27,6 +27,27 @@ QMessageBox::StandardButtons ToQtButtons(MessageButtons buttons) {
   return QMessageBox::Ok;
 }
 
+QMessageBox::StandardButton ToQtButton(MessageAnswer answer) {
+  switch (answer) {
+    case MessageAnswer::Yes: return QMessageBox::Yes;
+    case MessageAnswer::No: return QMessageBox::No;
+    case MessageAnswer::Cancel: return QMessageBox::Cancel;
+    case MessageAnswer::Ok: break;
+  }
+  return QMessageBox::Ok;
+}
+
+// Escape answers Cancel where there is one, else No.
+QMessageBox::StandardButton EscapeButton(MessageButtons buttons) {
+  switch (buttons) {
+    case MessageButtons::YesNo: return QMessageBox::No;
+    case MessageButtons::YesNoCancel:
+    case MessageButtons::OkCancel: return QMessageBox::Cancel;
+    case MessageButtons::Ok: break;
+  }
+  return QMessageBox::Ok;
+}
+
 MessageAnswer FromQtButton(int button, MessageButtons offered) {
   switch (button) {
     case QMessageBox::Yes: return MessageAnswer::Yes;
@@ -53,6 +74,8 @@ MessageAnswer QtMessagePort::Show(const Message& message) {
   box.setObjectName(QStringLiteral("MessageBox"));
   box.setTextFormat(Qt::PlainText);
   box.setAccessibleName(message.title);
+  box.setEscapeButton(EscapeButton(message.buttons));
+  if (message.defaultButton) box.setDefaultButton(ToQtButton(*message.defaultButton));
   return FromQtButton(box.exec(), message.buttons);
 }
 
