@@ -106,7 +106,7 @@ BatchRename::Step BatchRename::RenameOne(const platform::FileName& file, BatchFi
   context_.view.ProcessEvents();
   const QString newName = namer.Expand(file, unexpanded);
   if (newName == file.Display()) return Step::Next;
-  const QByteArray target = newName.toUtf8();
+  const QByteArray target = platform::FileName::TextToName(newName);
   // A change of letter case alone is renamed without asking.
   const bool caseOnly = target.compare(file.raw, Qt::CaseInsensitive) == 0;
   const bool targetKnown = !caseOnly && renamer.Index().Contains(target);

@@ -9,7 +9,7 @@ namespace renvale::core {
 
 namespace {
 
-QString Shown(const QByteArray& name) { return QString::fromUtf8(name); }
+QString Shown(const QByteArray& name) { return platform::FileName::NameToText(name); }
 
 QString SetLine(const NamePair& head) {
   return texts::kFileSetNotRenamed.arg(Shown(head.from), Shown(head.to));

@@ -79,7 +79,7 @@ bool IndividualRename::CarryOut(const QString& newName) {
   FileRenamer renamer(context_, folder_, {file_});
   // A change of letter case alone is renamed without asking.
   const bool caseOnly = newName.compare(file_.Display(), Qt::CaseInsensitive) == 0;
-  const bool targetKnown = !caseOnly && context_.fs.Exists(folder_ + newName.toUtf8());
+  const bool targetKnown = !caseOnly && context_.fs.Exists(folder_ + platform::FileName::TextToName(newName));
   const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(file_, newName, targetKnown);
   switch (outcome.kind) {
     case OverwriteOutcome::Kind::Renamed:

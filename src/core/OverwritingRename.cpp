@@ -23,7 +23,7 @@ OverwritingRename::OverwritingRename(const RenameContext& context, FileRenamer& 
 OverwriteOutcome OverwritingRename::Run(const platform::FileName& oldName, const QString& newName,
                                         bool targetKnown) {
   if (!targetKnown) {
-    const OverwriteOutcome outcome = Rename(oldName, newName.toUtf8());
+    const OverwriteOutcome outcome = Rename(oldName, platform::FileName::TextToName(newName));
     if (outcome.error != platform::kFileAlreadyExists || outcome.failureShown) return outcome;
   }
   return AskAndReplace(oldName, newName);
@@ -36,7 +36,7 @@ OverwriteOutcome OverwritingRename::AskAndReplace(const platform::FileName& oldN
   if (answer == MessageAnswer::No) return OverwriteOutcome{Kind::Declined};
   if (answer != MessageAnswer::Yes) return OverwriteOutcome{Kind::Cancelled};
 
-  const QByteArray target = newName.toUtf8();
+  const QByteArray target = platform::FileName::TextToName(newName);
   // On a case-folding file system "Photo.jpg" is the very file "photo.jpg":
   // deleting the target would delete the file being renamed.
   const bool caseOnly = target.compare(oldName.raw, Qt::CaseInsensitive) == 0;

@@ -104,7 +104,7 @@ QString BuildExifReport(platform::FileSystem& fs, platform::MessagePort& message
   const QByteArray path = platform::JoinPath(folder, rawName);
   ExifReader reader;
   if (!LoadExifChecked(reader, fs, messages, path)) return {};
-  const QString name = QString::fromUtf8(rawName);
+  const QString name = platform::FileName::NameToText(rawName);
   // A blank line sets the heading apart from the fields.
   const QString heading = kExifHeadingStart + name + kExifHeadingEnd + QStringLiteral("\n\n");
   if (!reader.Tag(kTagDateTimeOriginal).isEmpty()) {

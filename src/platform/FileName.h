@@ -2,18 +2,27 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringView>
 
 namespace renvale::platform {
 
-// A name as the file system holds it. Linux names are bytes; Qt's text form
-// loses names that are not valid UTF-8, so every operation uses `raw` and
-// only the screen uses the display text (invalid bytes as U+FFFD).
+// A name as the file system holds it. Linux names are bytes, and a name
+// written by an old camera or a Windows tool may not be valid UTF-8. Every
+// operation uses `raw`; a name becomes text (the list, the new-name box,
+// tokens, messages) only through Display(), and text becomes a name only
+// through FromDisplay(). The two are exact inverses: each byte that is not
+// part of valid UTF-8 becomes a private-use character, which the screen
+// shows as a mark and which turns back into that very byte.
 struct FileName {
   QByteArray raw;
 
-  QString Display() const { return QString::fromUtf8(raw); }
-  static FileName FromDisplay(const QString& text) { return FileName{text.toUtf8()}; }
+  QString Display() const { return NameToText(raw); }
+  static FileName FromDisplay(QStringView text) { return FileName{TextToName(text)}; }
+  static FileName FromDisplay(const QString& text) { return FromDisplay(QStringView(text)); }
   bool operator==(const FileName& other) const = default;
+
+  static QString NameToText(const QByteArray& name);
+  static QByteArray TextToName(QStringView text);
 };
 
 // Joins a folder (kept with a trailing '/') and a bare name.

@@ -53,10 +53,10 @@ std::vector<FolderRow> FolderRowsFor(const QByteArray& folder, const std::vector
   for (const QByteArray& part : folder.split('/')) {
     if (part.isEmpty()) continue;
     path += part + '/';
-    rows.push_back({path, QString::fromUtf8(part), ++depth, path == folder});
+    rows.push_back({path, platform::FileName::NameToText(part), ++depth, path == folder});
   }
   for (const QByteArray& name : subfolders) {
-    rows.push_back({folder + name + '/', QString::fromUtf8(name), depth + 1, false});
+    rows.push_back({folder + name + '/', platform::FileName::NameToText(name), depth + 1, false});
   }
   return rows;
 }

@@ -4,7 +4,6 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QFile>
 #include <QGroupBox>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
@@ -114,7 +113,7 @@ void MainWindow::ApplyLoadedSettings() {
   ApplyBrowseMode(settings_.browseMode);
   ApplyPlacement();
   ApplyFileFilter(settings_.fileFilter);
-  const QByteArray remembered = QFile::encodeName(settings_.lastFolder);
+  const QByteArray remembered = platform::FileName::TextToName(settings_.lastFolder);
   ChangeFolder(remembered.isEmpty() ? services_.startFolder()
                                     : NearestExistingFolder(services_.fs, remembered));
   ApplyBrowseMode(settings_.browseMode);
@@ -214,7 +213,7 @@ void MainWindow::ApplyBrowseMode(int mode) {
 
 void MainWindow::ShowFolderInPanes() {
   if (session_.CurrentFolder.isEmpty()) return;
-  ui_.browse->SetFolderText(QString::fromUtf8(session_.CurrentFolder));
+  ui_.browse->SetFolderText(platform::FileName::NameToText(session_.CurrentFolder));
   if (settings_.browseMode == 1) return;
   std::vector<QByteArray> subfolders;
   services_.fs.ListFolders(session_.CurrentFolder, &subfolders);
@@ -329,7 +328,7 @@ void MainWindow::OnFolderOpened(const QByteArray& folder) {
 }
 
 void MainWindow::OnChooseFolder() {
-  const QString start = QString::fromUtf8(session_.CurrentFolder);
+  const QString start = platform::FileName::NameToText(session_.CurrentFolder);
   const FolderChoice choice = ResolvePickedFolder(services_.pickFolder(this, texts::kChooseFolderPrompt, start));
   if (!choice.message.isEmpty()) services_.messages.Notify(choice.message);
   if (choice.folder.isEmpty() || choice.folder == session_.CurrentFolder) return;
@@ -429,7 +428,7 @@ void MainWindow::GatherSettings() {
   settings_.windowLeft = placement.left;
   settings_.windowHeight = placement.height;
   settings_.windowWidth = placement.width;
-  settings_.lastFolder = QFile::decodeName(session_.CurrentFolder);
+  settings_.lastFolder = platform::FileName::NameToText(session_.CurrentFolder);
   for (size_t n = 0; n < ui_.Command1.size(); ++n) settings_.customCaptions[n] = ui_.Command1[n]->text();
 }
 

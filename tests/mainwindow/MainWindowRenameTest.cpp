@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -132,6 +133,33 @@ TEST_F(MainWindowRename, CancelOnAnExistingTargetStepsTheSeriesBackAndTheListIsL
   EXPECT_TRUE(main.Ui().File1->isEnabled());
   EXPECT_EQ(ListedNames(), QStringList({"b.jpg", "Trip 01.jpg", "Trip 02.jpg"}));
   messages.onShow = nullptr;
+}
+
+// Bytes a legacy camera or tool wrote must survive the text they pass
+// through: the new-name box, "Orig. Filename" and "%ORIGFN%".
+TEST_F(MainWindowRename, NamesThatAreNotUtf8KeepTheirBytesThroughOrigFilename) {
+  MakeFile("bad\xff.jpg");
+  MakeFile("raw\xfe.jpg");
+  shell::MainWindow& main = Open();
+  main.show();
+  ClickRow(0);
+  main.Ui().Command8->click();
+  main.Ui().OrigFN->click();
+  QTest::keyClicks(main.Ui().Text1, " copy");
+  main.Ui().Command2->click();
+  std::vector<QByteArray> names;
+  ASSERT_EQ(platform::RealFileSystem().ListFiles(Folder(), &names), 0);
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(names, (std::vector<QByteArray>{"bad\xff copy.jpg", "raw\xfe.jpg"}));
+
+  window->SelectAll();
+  main.Ui().Text2->setText("26");
+  main.Ui().Text1->setText("%ORIGFN% v%SERIES%");
+  main.Ui().Command11->click();
+  ASSERT_EQ(platform::RealFileSystem().ListFiles(Folder(), &names), 0);
+  std::sort(names.begin(), names.end());
+  EXPECT_EQ(names, (std::vector<QByteArray>{"bad\xff copy v26.jpg", "raw\xfe v27.jpg"}));
+  EXPECT_TRUE(messages.messages.empty()) << messages.Texts().join('|').toStdString();
 }
 
 }  // namespace

@@ -1,0 +1,43 @@
+#include <gtest/gtest.h>
+
+#include "platform/FileName.h"
+
+namespace renvale::test {
+namespace {
+
+using platform::FileName;
+
+// Every name must come back byte for byte from its text, whatever a camera
+// or an old tool wrote; valid UTF-8 must read as the characters it spells.
+TEST(FileNameText, EveryByteStringComesBackExactly) {
+  struct Row {
+    QByteArray name;
+    QString shown;
+  };
+  const QString e = QString(QChar(0xE9));
+  const std::vector<Row> rows = {
+      {"IMG_0001.JPG", "IMG_0001.JPG"},
+      {"caf\xc3\xa9.jpg", "caf" + e + ".jpg"},
+      {"caf\xe9.jpg", "caf" + QString(QChar(0xF7E9)) + ".jpg"},
+      {"\xff", QString(QChar(0xF7FF))},
+      {"\x80", QString(QChar(0xF780))},
+      {"\xc3", QString(QChar(0xF7C3))},                                       // cut short
+      {"\xc0\xaf", QString(QChar(0xF7C0)) + QChar(0xF7AF)},                   // overlong
+      {"\xed\xa0\x80", QString(QChar(0xF7ED)) + QChar(0xF7A0) + QChar(0xF780)},  // surrogate
+      {"\xef\x9f\xa9", QString(QChar(0xF7EF)) + QChar(0xF79F) + QChar(0xF7A9)},  // U+F7E9 itself
+      {"\xef\x9c\x80", QString(QChar(0xF700))},                               // just below the escapes
+      {"\xf0\x9f\x93\xb7.jpg", QString::fromUtf8("\xf0\x9f\x93\xb7.jpg")},
+      {"", ""},
+  };
+  for (const Row& row : rows) {
+    const QString shown = FileName::NameToText(row.name);
+    EXPECT_EQ(shown, row.shown) << row.name.toHex().constData();
+    EXPECT_EQ(FileName::TextToName(shown), row.name) << row.name.toHex().constData();
+  }
+  QByteArray everyByte;
+  for (int b = 1; b < 256; ++b) everyByte += static_cast<char>(b);
+  EXPECT_EQ(FileName::FromDisplay(FileName{everyByte}.Display()).raw, everyByte);
+}
+
+}  // namespace
+}  // namespace renvale::test
