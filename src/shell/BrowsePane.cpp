@@ -20,7 +20,6 @@ constexpr int kPathRole = Qt::UserRole + 1;
 DropToggleButton* MakeToggle(QWidget* parent, const char* name, const QString& caption) {
   auto* toggle = new DropToggleButton(caption, parent);
   toggle->setObjectName(QString::fromLatin1(name));
-  toggle->setAccessibleName(caption);
   toggle->setAcceptDrops(true);
   toggle->setAutoDefault(false);
   return toggle;

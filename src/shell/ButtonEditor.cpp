@@ -43,6 +43,8 @@ void ButtonEditor::Open(int editIndex) {
   if (button == nullptr) return;
   editButtonIndex_ = static_cast<qint16>(editIndex);
   ui_.namebutton->setTitle(core::EditorPrompt(editIndex));
+  // The box shows no caption of its own: the frame's prompt names it.
+  ui_.Text3->setAccessibleName(ui_.namebutton->title());
   ui_.Text3->setText(core::UnescapeCaption(button->text()));
   ui_.namebutton->show();
   ui_.Text3->setSelection(0, static_cast<int>(ui_.Text3->text().size()));

@@ -22,14 +22,18 @@
 namespace renvale::shell {
 namespace {
 
+// A control that shows its caption is named by it for screen readers, and
+// keeps being named by whatever it shows later: only a control that shows
+// no text (a slider) gets its caption as a fixed accessible name.
 template <typename Widget>
 Widget* Make(QWidget* parent, const char* objectName, const QString& caption = {}) {
   auto* widget = new Widget(parent);
   widget->setObjectName(QString::fromLatin1(objectName));
   if constexpr (requires { widget->setText(caption); }) {
     if (!caption.isEmpty()) widget->setText(caption);
+  } else {
+    widget->setAccessibleName(caption);
   }
-  widget->setAccessibleName(QString(caption).remove(QLatin1Char('&')));
   return widget;
 }
 
@@ -62,7 +66,6 @@ QAction* Action(QMenu* menu, const char* objectName, const QString& caption) {
 void MainWindowUi::Setup(QMainWindow* window) {
   window->setObjectName(QStringLiteral("main"));
   window->setWindowTitle(QStringLiteral("Renvale"));
-  window->setAccessibleName(QStringLiteral("Renvale"));
   auto* central = new QWidget(window);
   central->setObjectName(QStringLiteral("centralWidget"));
   auto* splitter = new QSplitter(Qt::Horizontal, central);
@@ -167,7 +170,6 @@ QWidget* MainWindowUi::BuildButtonPane(QWidget* parent) {
   layout->addWidget(Command10, 4, 0, 1, 3);
   namebutton = Make<QGroupBox>(pane, "namebutton");
   namebutton->setTitle(QStringLiteral("Rename Button"));
-  namebutton->setAccessibleName(QStringLiteral("Rename Button"));
   auto* editor = new QHBoxLayout(namebutton);
   Text3 = Make<QLineEdit>(namebutton, "Text3");
   Text3->setAccessibleName(QStringLiteral("Rename Button"));
@@ -182,7 +184,6 @@ QWidget* MainWindowUi::BuildButtonPane(QWidget* parent) {
 QWidget* MainWindowUi::BuildBatchPane(QWidget* parent) {
   BatchFrame = Make<QGroupBox>(parent, "BatchFrame");
   BatchFrame->setTitle(texts::kBatchFrameCaption);
-  BatchFrame->setAccessibleName(texts::kBatchFrameCaption);
   auto* layout = new QGridLayout(BatchFrame);
   auto* hint = Make<QLabel>(BatchFrame, "BatchHint", texts::kBatchHint);
   hint->setWordWrap(true);
@@ -210,7 +211,6 @@ QWidget* MainWindowUi::BuildBatchPane(QWidget* parent) {
 QWidget* MainWindowUi::BuildPreviewPane(QWidget* parent) {
   previewFrame = Make<QGroupBox>(parent, "PreviewFrame");
   previewFrame->setTitle(QStringLiteral("Preview"));
-  previewFrame->setAccessibleName(QStringLiteral("Preview"));
   auto* layout = new QVBoxLayout(previewFrame);
   previewCaption = Make<QLabel>(previewFrame, "PreviewCaption", texts::kNoFileSelected);
   previewCaption->setTextFormat(Qt::PlainText);
