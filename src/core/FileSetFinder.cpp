@@ -7,8 +7,9 @@ namespace renvale::core {
 namespace {
 
 const QByteArray kThm = QByteArrayLiteral(".thm");
-const QByteArray kCrw = QByteArrayLiteral(".crw");
 const QByteArray kXmp = QByteArrayLiteral(".xmp");
+// Canon writes a THM beside each RAW picture and each video clip.
+const QByteArray kThmHeads[] = {QByteArrayLiteral(".crw"), QByteArrayLiteral(".avi"), QByteArrayLiteral(".mov")};
 
 // Names are raw bytes; the extension starts at the last dot, as everywhere.
 QByteArray BaseOf(const QByteArray& name) {
@@ -23,6 +24,13 @@ QByteArray ExtensionOf(const QByteArray& name) {
 
 bool HasExtension(QByteArrayView name, const QByteArray& lowerExtension) {
   return AsciiFoldedName::EndsWith(name, lowerExtension);
+}
+
+bool TakesThm(QByteArrayView name) {
+  for (const QByteArray& extension : kThmHeads) {
+    if (HasExtension(name, extension)) return true;
+  }
+  return false;
 }
 
 // A THM is a thumbnail, and a sidecar describes another file: neither
@@ -47,10 +55,8 @@ FileSetFinder::FileSetFinder(const FolderIndex& index, const std::vector<platfor
 const FileSetFinder::SelectionSets& FileSetFinder::Selected() const {
   if (selected_) return *selected_;
   SelectionSets& sets = selected_.emplace();
-  sets.exact.reserve(static_cast<qsizetype>(selection_.size()));
   sets.folded.reserve(selection_.size());
   for (const platform::FileName& file : selection_) {
-    sets.exact.insert(file.raw);
     sets.folded.insert(file.raw);
     if (CanTakeSidecars(file.raw)) sets.headBases.insert(BaseOf(file.raw));
   }
@@ -59,16 +65,14 @@ const FileSetFinder::SelectionSets& FileSetFinder::Selected() const {
 
 std::vector<NamePair> FileSetFinder::Companions(const QByteArray& head, const QByteArray& newHead) const {
   std::vector<NamePair> pairs;
-  if (HasExtension(head, kCrw)) AddThm(head, BaseOf(newHead), &pairs);
+  if (TakesThm(head)) AddThm(head, BaseOf(newHead), &pairs);
   if (CanTakeSidecars(head)) AddSidecars(head, newHead, &pairs);
   return pairs;
 }
 
 void FileSetFinder::AddThm(const QByteArray& head, const QByteArray& newBase,
                            std::vector<NamePair>* pairs) const {
-  for (const QByteArray& thm : index_.Spellings(BaseOf(head) + kThm)) {
-    if (Selected().exact.contains(thm)) AddPair(thm, newBase + ExtensionOf(thm), pairs);
-  }
+  for (const QByteArray& thm : index_.Spellings(BaseOf(head) + kThm)) AddPair(thm, newBase + ExtensionOf(thm), pairs);
 }
 
 // Every picture of a batch asks, and nearly always the answer is none: the
@@ -92,7 +96,12 @@ void FileSetFinder::AddSidecars(const QByteArray& head, const QByteArray& newHea
 }
 
 bool FileSetFinder::TravelsWithSelectedHead(const QByteArray& name) const {
-  if (HasExtension(name, kThm)) return Selected().folded.contains(BaseOf(name) + kCrw);
+  if (HasExtension(name, kThm)) {
+    for (const QByteArray& extension : kThmHeads) {
+      if (Selected().folded.contains(BaseOf(name) + extension)) return true;
+    }
+    return false;
+  }
   if (!HasExtension(name, kXmp)) return false;
   const QByteArrayView described = QByteArrayView(name).chopped(kXmp.size());
   const auto head = Selected().folded.find(described);

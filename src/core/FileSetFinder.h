@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QSet>
 #include <optional>
 #include <unordered_set>
 #include <vector>
@@ -21,8 +20,9 @@ struct NamePair {
 
 // Which files travel with a renamed file ("the head") so that a camera
 // set is never split:
-//  - a Canon CRW takes its THM (same base name, ".thm" in any letter case)
-//    when both are selected, as the camera's pairing has always worked;
+//  - a Canon CRW, AVI or MOV takes its THM (same base name, ".thm" in any
+//    letter case), selected or not: the THM holds the date the RAW picture
+//    or clip is named by;
 //  - any file except a THM or a sidecar takes its XMP sidecars, selected or
 //    not, in both spellings editors use: "Name.xmp" beside "Name.CR2", and
 //    "Name.CR2.xmp". A picture parted from its sidecar loses its edits.
@@ -48,7 +48,6 @@ class FileSetFinder {
   // What the selection holds, built the first time a THM or a sidecar asks:
   // most folders have neither, and then a batch never pays for it.
   struct SelectionSets {
-    QSet<QByteArray> exact;
     FoldedSet folded;
     FoldedSet headBases;  // base names of those that can take sidecars
   };

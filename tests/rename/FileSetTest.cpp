@@ -19,13 +19,16 @@ std::vector<platform::FileName> Names(std::initializer_list<const char*> names) 
 
 TEST(FileSetFinder, FindsCompanionsByTheirRules) {
   const core::FolderIndex index(std::vector<QByteArray>{
-      "A.CRW", "A.THM", "A.xmp", "B.CR2", "B.CR2.XMP", "B.XMP", "C.jpg", "C.THM", "N", "N.xmp", "D.xmp"});
-  const core::FileSetFinder finder(index, Names({"A.CRW", "A.THM", "B.CR2", "C.jpg", "C.THM", "N", "D.xmp"}));
+      "A.CRW", "A.THM", "A.xmp", "B.CR2", "B.CR2.XMP", "B.XMP", "C.jpg", "C.THM", "N", "N.xmp", "D.xmp",
+      "L.crw", "L.thm", "V.MOV", "V.THM"});
+  const core::FileSetFinder finder(index, Names({"A.CRW", "A.THM", "B.CR2", "C.jpg", "C.THM", "N", "D.xmp", "L.crw", "V.MOV"}));
   struct Case { const char* head; const char* newHead; Pairs companions; };
   const Case cases[] = {
       {"A.CRW", "x.crw", {{"A.THM", "x.THM"}, {"A.xmp", "x.xmp"}}},
       {"B.CR2", "y.CR2", {{"B.CR2.XMP", "y.CR2.XMP"}, {"B.XMP", "y.XMP"}}},
-      {"C.jpg", "z.jpg", {}},   // a THM goes only with a CRW
+      {"C.jpg", "z.jpg", {}},   // a THM goes only with a CRW or a clip
+      {"L.crw", "k.crw", {{"L.thm", "k.thm"}}},  // selected or not
+      {"V.MOV", "w.mov", {{"V.THM", "w.THM"}}},
       {"C.THM", "z.THM", {}},   // and takes no sidecar itself
       {"N", "M", {{"N.xmp", "M.xmp"}}},
       {"D.xmp", "E.xmp", {}},   // a sidecar renamed on its own goes alone
@@ -33,7 +36,7 @@ TEST(FileSetFinder, FindsCompanionsByTheirRules) {
   };
   for (const Case& c : cases) EXPECT_EQ(finder.Companions(c.head, c.newHead), c.companions) << c.head;
 
-  for (const char* travels : {"A.THM", "a.thm", "B.CR2.XMP", "B.xmp", "N.xmp", "C.xmp"}) {
+  for (const char* travels : {"A.THM", "a.thm", "B.CR2.XMP", "B.xmp", "N.xmp", "C.xmp", "V.thm"}) {
     EXPECT_TRUE(finder.TravelsWithSelectedHead(travels)) << travels;
   }
   for (const char* alone : {"A.CRW", "C.THM", "D.xmp", "C.jpg", "Q.xmp", "C.THM.xmp"}) {
@@ -99,9 +102,21 @@ TEST_F(FileSetTest, BatchPassesOverCompanionEntriesWhateverTheirPlace) {
   EXPECT_EQ(view.series, "04");
 }
 
+TEST_F(FileSetTest, ThumbnailFollowsItsCrwOrCanonClipSelectedAlone) {
+  Make({"set1.crw", "set1.thm", "MVI_0001.AVI", "MVI_0001.THM", "B.jpg"});
+  Select({"set1.crw"});
+  view.newName = "one";
+  core::IndividualRename(context).RenameSelectedFile();
+  Select({"MVI_0001.AVI", "B.jpg"});
+  Batch("Clip %SERIES%");
+  EXPECT_TRUE(port.messages.empty());
+  EXPECT_EQ(Folder(), (Files{{"one.crw", "set1.crw"}, {"one.thm", "set1.thm"}, {"Clip 01.AVI", "MVI_0001.AVI"},
+                             {"Clip 01.THM", "MVI_0001.THM"}, {"Clip 02.jpg", "B.jpg"}}));
+}
+
 TEST_F(FileSetTest, FailingCompanionPutsTheSetBack) {
   Make({"A.CRW", "A.THM", "A.xmp", "B.jpg"});
-  Select({"A.CRW", "A.THM", "B.jpg"});
+  Select({"A.CRW", "B.jpg"});
   fs.FailRename(Path("A.xmp"), 75);
   Batch("Set %SERIES%");
   ASSERT_EQ(port.messages.size(), 1u);  // the set's own report, no second one from the batch
