@@ -304,6 +304,8 @@ void MainWindow::SelectAll() {
 void MainWindow::SetBatchMode(bool on) {
   session_.BatchMode = on;
   ui_.BatchFrame->setVisible(on);
+  // With several files selected it would rename only the one clicked last.
+  ui_.Command2->setEnabled(!on);
 }
 
 bool MainWindow::FileIsSelected() const { return ui_.File1->selectionModel()->hasSelection(); }

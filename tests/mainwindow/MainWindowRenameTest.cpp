@@ -53,12 +53,14 @@ TEST_F(MainWindowRename, ButtonRunsTheBatchWithEachPicturesOwnDate) {
   main.Ui().Text2->setText("7");
   window->SelectAll();
   ASSERT_TRUE(main.Session().BatchMode);
+  EXPECT_FALSE(main.Ui().Command2->isEnabled()) << "it would rename only the file clicked last";
   main.Ui().Text1->setText("%DATE% %SERIES%");
   main.Ui().Command11->click();
   EXPECT_EQ(ListedNames(), QStringList({"2004-07-15 007.jpg", "2005-01-02 008.jpg"}));
   EXPECT_TRUE(messages.messages.empty()) << messages.Texts().join('|').toStdString();
   EXPECT_EQ(main.Ui().Text2->text(), "009");
   EXPECT_FALSE(main.Session().BatchMode);
+  EXPECT_TRUE(main.Ui().Command2->isEnabled());
   EXPECT_EQ(main.Session().SelectedFileName.Display(), "2005-01-02 008.jpg");
   EXPECT_TRUE(main.Ui().File1->isEnabled());
 }
