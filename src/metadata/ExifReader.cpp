@@ -22,6 +22,10 @@ void ExifReader::Load(platform::FileSystem& fs, const QByteArray& path) {
   Reset();
   std::unique_ptr<platform::ReadableFile> file;
   const int error = fs.OpenForRead(path, &file);
+  if (error == platform::kNoContents) {
+    status_ = QString::fromLatin1(ExifTexts::kNoExif);
+    return;
+  }
   if (error != platform::kNoError || file == nullptr) {
     SetSystemError(ExifTexts::kCannotOpen, error);
     return;

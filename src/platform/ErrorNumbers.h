@@ -17,6 +17,9 @@ namespace renvale::platform {
 //   ENOENT, context File           53  kFileNotFound
 //   EEXIST                         58  kFileAlreadyExists
 //   any other e                    1000 + e, e.g. ENOSPC (28) -> 1028
+//
+// Opening a named pipe, a socket or a device to read its contents gives
+// kNoContents (ENODEV): such an entry has no metadata, like a file without.
 inline constexpr int kNoError = 0;
 inline constexpr int kFileNotFound = 53;       // ENOENT on a file
 inline constexpr int kFileAlreadyExists = 58;  // EEXIST: a no-replace rename or copy refused
@@ -24,6 +27,7 @@ inline constexpr int kAccessViolation = 70;    // EACCES, EPERM
 inline constexpr int kPathFileAccess = 75;     // EROFS, ETXTBSY, EBUSY
 inline constexpr int kPathNotFound = 76;       // ENOENT, ENOTDIR on a folder
 inline constexpr int kErrnoBase = 1000;        // any other errno e is 1000 + e
+inline constexpr int kNoContents = kErrnoBase + 19;  // ENODEV: not a regular file
 
 enum class ErrnoContext { File, Folder };
 

@@ -20,6 +20,24 @@ namespace renvale::platform {
 
 namespace {
 
+static_assert(kNoContents == kErrnoBase + ENODEV);
+
+// Opens a file's contents without ever waiting: open() on a named pipe
+// waits for a writer that may never come, and a device or a socket has no
+// contents to read. Only a regular file is left open, back in blocking mode.
+int OpenRegularFile(const QByteArray& path, UniqueFd* fd) {
+  UniqueFd opened(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+  if (!opened.valid()) return errno == ENXIO ? kNoContents : ErrorNumberFromErrno(errno);
+  struct stat st;
+  if (::fstat(opened.get(), &st) != 0) return ErrorNumberFromErrno(errno);
+  if (S_ISDIR(st.st_mode)) return ErrorNumberFromErrno(EISDIR);
+  if (!S_ISREG(st.st_mode)) return kNoContents;
+  const int flags = ::fcntl(opened.get(), F_GETFL);
+  if (flags < 0 || ::fcntl(opened.get(), F_SETFL, flags & ~O_NONBLOCK) != 0) return ErrorNumberFromErrno(errno);
+  *fd = std::move(opened);
+  return kNoError;
+}
+
 bool IsDotOrDotDot(const char* name) {
   return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
 }
@@ -170,9 +188,8 @@ int PosixFileSystem::MoveToTrash(const QByteArray& path) { return MoveFileToTras
 
 int PosixFileSystem::OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) {
   file->reset();
-  UniqueFd fd(::open(path.constData(), O_RDONLY | O_CLOEXEC));
-  if (!fd.valid()) return ErrorNumberFromErrno(errno);
-  // A folder opens too; reading it then fails with EISDIR.
+  UniqueFd fd;
+  if (const int err = OpenRegularFile(path, &fd); err != kNoError) return err;
   *file = std::make_unique<PosixReadableFile>(std::move(fd));
   return kNoError;
 }
@@ -188,8 +205,8 @@ int PosixFileSystem::WriteWholeFile(const QByteArray& path, const QByteArray& co
 
 int PosixFileSystem::ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) {
   contents->clear();
-  UniqueFd fd(::open(path.constData(), O_RDONLY | O_CLOEXEC));
-  if (!fd.valid()) return ErrorNumberFromErrno(errno);
+  UniqueFd fd;
+  if (const int err = OpenRegularFile(path, &fd); err != kNoError) return err;
   const int err = ReadToEnd(fd.get(), maxBytes, contents);
   if (err != 0) contents->clear();
   return ErrorNumberFromErrno(err);

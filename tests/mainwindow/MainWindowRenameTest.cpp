@@ -1,4 +1,11 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <thread>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -161,6 +168,45 @@ TEST_F(MainWindowRename, NamesThatAreNotUtf8KeepTheirBytesThroughOrigFilename) {
   ASSERT_EQ(platform::RealFileSystem().ListFiles(Folder(), &names), 0);
   std::sort(names.begin(), names.end());
   EXPECT_EQ(names, (std::vector<QByteArray>{"bad\xff copy v26.jpg", "raw\xfe v27.jpg"}));
+  EXPECT_TRUE(messages.messages.empty()) << messages.Texts().join('|').toStdString();
+}
+
+// A named pipe waits in open() for a writer that never comes, and a device
+// never ends: neither may hold up a batch that reads every file's date. The
+// watchdog plays the missing writer so that a fault fails instead of hanging.
+TEST_F(MainWindowRename, ABatchOverANamedPipeAndADeviceFinishes) {
+  MakeFile("b.jpg");
+  const QByteArray pipe = Folder() + "IMG_0001.JPG";
+  ASSERT_EQ(::mkfifo(pipe.constData(), 0644), 0);
+  ASSERT_EQ(::symlink("/dev/zero", (Folder() + "zero.jpg").constData()), 0);
+  std::atomic<bool> finished{false};
+  std::atomic<bool> rescued{false};
+  std::thread watchdog([&] {
+    for (int i = 0; i < 100 && !finished; ++i) std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    while (!finished) {
+      const int fd = ::open(pipe.constData(), O_WRONLY | O_NONBLOCK);
+      if (fd >= 0) rescued = true, ::close(fd);
+      std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+  });
+  shell::MainWindow& main = Open();
+  window->SelectAll();
+  main.Ui().Text1->setText("%DATE% %SERIES%");
+  main.Ui().Command11->click();
+  finished = true;
+  watchdog.join();
+  EXPECT_FALSE(rescued) << "a read waited for the pipe's writer";
+  std::vector<QByteArray> names;
+  ASSERT_EQ(platform::RealFileSystem().ListFiles(Folder(), &names), 0);
+  ASSERT_EQ(names.size(), 3u);
+  int pipes = 0;
+  for (const QByteArray& name : names) {
+    EXPECT_FALSE(name == "b.jpg" || name == "IMG_0001.JPG" || name == "zero.jpg") << name.constData();
+    struct stat st;
+    ASSERT_EQ(::lstat((Folder() + name).constData(), &st), 0);
+    pipes += S_ISFIFO(st.st_mode) ? 1 : 0;
+  }
+  EXPECT_EQ(pipes, 1);
   EXPECT_TRUE(messages.messages.empty()) << messages.Texts().join('|').toStdString();
 }
 

@@ -75,10 +75,13 @@ TEST(FileSystemWholeFiles, WriteReadAndReadAt) {
   EXPECT_EQ(file->ReadAt(4, buffer, 8), 2);
   EXPECT_EQ(RealFileSystem().OpenForRead(folder / "absent", &file), platform::kFileNotFound);
   EXPECT_EQ(file, nullptr);
-  ASSERT_EQ(RealFileSystem().OpenForRead(folder.path(), &file), 0);
-  errno = 0;
-  EXPECT_EQ(file->ReadAt(0, buffer, 8), -1) << "a folder opens, but cannot be read";
-  EXPECT_EQ(errno, EISDIR);
+  EXPECT_EQ(RealFileSystem().OpenForRead(folder.path(), &file), platform::kErrnoBase + EISDIR);
+  // Opening a pipe must not wait for its writer; neither it nor a device has contents.
+  ASSERT_EQ(::mkfifo((folder / "pipe").constData(), 0644), 0);
+  for (const QByteArray& path : {folder / "pipe", QByteArray("/dev/zero")}) {
+    EXPECT_EQ(RealFileSystem().OpenForRead(path, &file), platform::kNoContents) << path.constData();
+    EXPECT_EQ(RealFileSystem().ReadWholeFile(path, 8, &contents), platform::kNoContents) << path.constData();
+  }
 }
 
 TEST(AttributeLetters, LettersInTheirOrderFromTheFilesState) {
