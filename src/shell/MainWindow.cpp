@@ -184,8 +184,10 @@ void MainWindow::ConnectRenameButtons() {
           [this] { RunRename<core::IndividualRename>([](auto& rename) { rename.RenameSelectedFile(); }); });
   connect(ui_.Command7, &QPushButton::clicked, this,
           [this] { RunRename<core::IndividualRename>([](auto& rename) { rename.RevertNewName(); }); });
-  connect(ui_.Command8, &QPushButton::clicked, this,
-          [this] { RunRename<core::IndividualRename>([](auto& rename) { rename.ClearNewName(); }); });
+  connect(ui_.Command8, &QPushButton::clicked, this, [this] {
+    RunRename<core::IndividualRename>([](auto& rename) { rename.ClearNewName(); });
+    ui_.Text1->setFocus();  // the person clears the box to type into it
+  });
   connect(ui_.Command11, &QPushButton::clicked, this,
           [this] { RunRename<core::BatchRename>([](auto& batch) { batch.StartBatchRename(); }); });
   // Random numbers and file sets do not mix well; say so while it is ticked.

@@ -151,8 +151,11 @@ TEST_F(MainWindowRename, NamesThatAreNotUtf8KeepTheirBytesThroughOrigFilename) {
   MakeFile("raw\xfe.jpg");
   shell::MainWindow& main = Open();
   main.show();
+  main.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
   ClickRow(0);
   main.Ui().Command8->click();
+  EXPECT_TRUE(main.Ui().Text1->hasFocus()) << "the box is cleared to be typed into";
   main.Ui().OrigFN->click();
   QTest::keyClicks(main.Ui().Text1, " copy");
   main.Ui().Command2->click();
