@@ -7,7 +7,7 @@
 #include "QStringPrinter.h"
 
 #include <QDateTime>
-#include <QFileInfo>
+#include <QFile>
 #include <memory>
 
 #include "metadata/FileByteSource.h"
@@ -26,8 +26,7 @@ struct Difference {
   const char* column;
   const char* ours;
   const char* why;
-};
-constexpr Difference kDifferences[] = {
+} constexpr kDifferences[] = {
     {"mutagen__id3v1v2-combined.mp3", "year", "2004",
      "the 2.4 tag holds a 2.3 year frame (TYER); ExifTool reads only 2.4's TDRC there, we take the year "
      "whatever version's frame holds it"},
@@ -36,71 +35,58 @@ constexpr Difference kDifferences[] = {
      "shows 12:14:00, we keep the seconds the camera wrote"},
 };
 
-QString Expected(const OracleRow& row, const QString& column, const QString& oracle) {
+QString Expected(const OracleRow& row, const QString& column) {
   for (const Difference& d : kDifferences) {
     if (row["file"] == QLatin1String(d.file) && column == QLatin1String(d.column)) return d.ours;
   }
-  return oracle;
+  return row[column];
 }
 
-class MediaOracleTest : public ::testing::Test {
- protected:
-  void Load(const QString& csv, const QString& subfolder) {
-    const QString folder = TestDataFolder();
-    if (folder.isEmpty() || !QFileInfo::exists(folder + u'/' + csv)) {
-      GTEST_SKIP() << "no test data folder (RENVALE_TESTDATA)";
-    }
-    rows_ = ReadOracle(folder, csv);
-    files_ = folder + u'/' + subfolder + u'/';
-    ASSERT_FALSE(rows_.empty());
-  }
-  QByteArray PathOf(const OracleRow& row) const { return (files_ + row["file"]).toUtf8(); }
+// The rows of `csv` with each file's path (in `subfolder`) under "path".
+std::vector<OracleRow> Rows(const QString& csv, const QString& subfolder) {
+  const QString folder = TestDataFolder();
+  std::vector<OracleRow> rows = folder.isEmpty() ? std::vector<OracleRow>{} : ReadOracle(folder, csv);
+  for (OracleRow& row : rows) row["path"] = folder + u'/' + subfolder + u'/' + row["file"];
+  return rows;
+}
 
-  std::vector<OracleRow> rows_;
-  QString files_;
-};
-
-TEST_F(MediaOracleTest, Id3v2TagsMatch) {
-  Load("id3v2-oracle.csv", "mp3");
+TEST(MediaOracleTest, Id3v2TagsMatch) {
+  const std::vector<OracleRow> rows = Rows("id3v2-oracle.csv", "mp3");
+  if (rows.empty()) GTEST_SKIP() << "no test data (RENVALE_TESTDATA)";
   int tags = 0;
-  for (const OracleRow& row : rows_) {
+  for (const OracleRow& row : rows) {
     SCOPED_TRACE(row["file"].toStdString());
     std::unique_ptr<platform::ReadableFile> file;
-    ASSERT_EQ(platform::RealFileSystem().OpenForRead(PathOf(row), &file), 0);
+    ASSERT_EQ(platform::RealFileSystem().OpenForRead(QFile::encodeName(row["path"]), &file), 0);
     metadata::FileByteSource source(*file);
     metadata::Id3Tag tag;
     int version = 0;
     const bool found = metadata::Id3v2Reader::Read(source, &tag, &version);
     EXPECT_EQ(found ? QString::number(version) : QString(), row["id3v2_version"]);
-    if (!found) continue;
-    ++tags;
-    const std::pair<QString, const QString*> fields[] = {{"title", &tag.title}, {"artist", &tag.artist},
-                                                         {"album", &tag.album}, {"track", &tag.track},
-                                                         {"year", &tag.year},   {"genre", &tag.genre}};
-    for (const auto& [column, value] : fields) EXPECT_EQ(*value, Expected(row, column, row[column])) << column.toStdString();
+    tags += found ? 1 : 0;
+    const std::pair<QString, QString> fields[] = {{"title", tag.title}, {"artist", tag.artist}, {"album", tag.album},
+                                                  {"track", tag.track}, {"year", tag.year},     {"genre", tag.genre}};
+    for (const auto& [column, value] : fields) EXPECT_EQ(value, Expected(row, column)) << column.toStdString();
   }
   EXPECT_GT(tags, 5);
 }
 
-// ExifTool shows the movie header's time as UTC ("...+00:00"); we show it
+// ExifTool shows the movie header's time in UTC ("...+00:00"); we show it
 // in local time, as a file's own dates are shown.
-QString LocalFromUtc(const QString& cell) {
-  QDateTime utc = QDateTime::fromString(cell.left(19), "yyyy:MM:dd HH:mm:ss");
-  utc.setTimeSpec(Qt::UTC);
-  return utc.toLocalTime().toString("yyyy:MM:dd HH:mm:ss");
-}
-
-TEST_F(MediaOracleTest, VideoDatesMatch) {
-  Load("video-oracle.csv", "video");
+TEST(MediaOracleTest, VideoDatesMatch) {
+  const std::vector<OracleRow> rows = Rows("video-oracle.csv", "video");
+  if (rows.empty()) GTEST_SKIP() << "no test data (RENVALE_TESTDATA)";
   int dates = 0;
-  for (const OracleRow& row : rows_) {
+  for (const OracleRow& row : rows) {
     SCOPED_TRACE(row["file"].toStdString());
     QString expected = row["creationdate_key"].left(19);
     if (expected.isEmpty() && !row["quicktime_create_utc"].isEmpty()) {
-      expected = LocalFromUtc(row["quicktime_create_utc"]);
+      QDateTime utc = QDateTime::fromString(row["quicktime_create_utc"].left(19), "yyyy:MM:dd HH:mm:ss");
+      utc.setTimeSpec(Qt::UTC);
+      expected = utc.toLocalTime().toString("yyyy:MM:dd HH:mm:ss");
     }
-    if (expected.isEmpty()) expected = Expected(row, "riff_original", row["riff_original"]);
-    const QString date = metadata::VideoDateReader::ReadFile(platform::RealFileSystem(), PathOf(row));
+    if (expected.isEmpty()) expected = Expected(row, "riff_original");
+    const QString date = metadata::VideoDateReader::ReadFile(platform::RealFileSystem(), QFile::encodeName(row["path"]));
     EXPECT_EQ(date, expected);
     dates += date.isEmpty() ? 0 : 1;
   }
