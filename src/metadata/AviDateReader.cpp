@@ -65,11 +65,9 @@ QString AviDateReader::ClockText(const QString& text) {
   bool dayOk = false;
   const int day = parts[2].toInt(&dayOk);
   if (month == 0 || !dayOk || parts[4].size() != 4) return {};
-  const QString layout = QStringLiteral("%1:%2:%3 %4")
-                             .arg(parts[4])
-                             .arg(month, 2, 10, QLatin1Char('0'))
-                             .arg(day, 2, 10, QLatin1Char('0'))
-                             .arg(parts[3]);
+  // One pass over the pattern: a "%2" in the file's text stays text.
+  const auto twoDigits = [](int n) { return QStringLiteral("%1").arg(n, 2, 10, QLatin1Char('0')); };
+  const QString layout = QStringLiteral("%1:%2:%3 %4").arg(parts[4], twoDigits(month), twoDigits(day), parts[3]);
   return ExifLayoutDateTime(layout);
 }
 
