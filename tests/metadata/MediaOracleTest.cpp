@@ -22,10 +22,7 @@ namespace {
 // Where we read a file differently from ExifTool, and why. The test holds
 // us to our own reading there, so a change in either shows up.
 struct Difference {
-  const char* file;
-  const char* column;
-  const char* ours;
-  const char* why;
+  const char *file, *column, *ours, *why;
 } constexpr kDifferences[] = {
     {"mutagen__id3v1v2-combined.mp3", "year", "2004",
      "the 2.4 tag holds a 2.3 year frame (TYER); ExifTool reads only 2.4's TDRC there, we take the year "

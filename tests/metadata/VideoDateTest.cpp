@@ -36,10 +36,7 @@ QString DateOf(const QByteArray& bytes) {
 
 TEST(VideoDate, QuickTimeKeyThenMovieHeader) {
   const FixedZone zone;
-  struct Case {
-    MovieFields movie;
-    QString expected;
-  } cases[] = {
+  const std::pair<MovieFields, QString> cases[] = {
       {{.created = k2005}, kLocal2005},
       {{.created = k2005, .longTimes = true}, kLocal2005},
       {{.created = k2005, .ftyp = false}, kLocal2005},  // an old MOV: "moov" first
@@ -51,7 +48,7 @@ TEST(VideoDate, QuickTimeKeyThenMovieHeader) {
       {{.keyDate = "2019-03-10T14:22:05-0800", .isoMeta = true}, "2019:03:10 14:22:05"},
       {{.created = k2005, .keyDate = "2019-13-10T14:22:05+0100"}, kLocal2005},  // impossible: falls through
   };
-  for (const Case& c : cases) EXPECT_EQ(DateOf(MakeQuickTimeMovie(c.movie)), c.expected) << c.movie.created;
+  for (const auto& [movie, expected] : cases) EXPECT_EQ(DateOf(MakeQuickTimeMovie(movie)), expected) << movie.created;
 }
 
 TEST(VideoDate, AviIditChunk) {
@@ -59,10 +56,7 @@ TEST(VideoDate, AviIditChunk) {
       {QByteArray("Mon Mar 10 15:04:43 2003\n\0", 26), "2003:03:10 15:04:43"},
       {QByteArray("2009/10/27 12:14:34\0", 20), "2009:10:27 12:14:34"},
       {"2009:10:27 12:14:34", "2009:10:27 12:14:34"},
-      {"Mon Foo 10 15:04:43 2003", ""},
-      {"Mon Feb 30 15:04:43 2003", ""},
-      {"", ""},
-  };
+      {"Mon Foo 10 15:04:43 2003", ""}, {"Mon Feb 30 15:04:43 2003", ""}, {"", ""}};
   for (const auto& [idit, expected] : cases) {
     EXPECT_EQ(DateOf(MakeAvi(idit)), expected) << idit.constData();
     EXPECT_EQ(DateOf(MakeAvi(idit, true)), expected) << idit.constData();
