@@ -18,16 +18,19 @@ class BmffExifLocator {
   static bool IsBmff(ByteReader& file);
   static bool Find(ByteReader file, ExifLocation* location);
 
- private:
+  // One box's header, clipped to the reader (shared with the movie date
+  // reader, which walks the same boxes).
   struct Box {
     quint32 type = 0;
     qint64 content = 0;  // start of the box's content within the reader
     qint64 length = 0;   // of the content
     qint64 next = 0;     // start of the following box
   };
-
   static bool ReadBox(ByteReader& reader, qint64 pos, Box* box);
+  // The first box of `type` among the first kMaxBoxes on the reader's level.
   static bool FindBox(ByteReader& reader, quint32 type, Box* box);
+
+ private:
   static bool FindInMoov(ByteReader moov, ExifLocation* location);
   static bool FindInMeta(ByteReader file, const Box& meta, ExifBlock* block);
   static bool ExifItemId(ByteReader iinf, quint32* id);

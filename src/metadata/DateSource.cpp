@@ -6,6 +6,7 @@
 #include "metadata/FileDates.h"
 #include "metadata/HeadScan.h"
 #include "metadata/MetadataTexts.h"
+#include "metadata/VideoDateReader.h"
 #include "platform/FileName.h"
 #include "platform/FileSystem.h"
 
@@ -46,6 +47,10 @@ QString ScanExifDateInHead(platform::FileSystem& fs, const QByteArray& folder,
 
 QString ExposureDateTime(platform::FileSystem& fs, const QByteArray& folder,
                          const QByteArray& rawName, const QString& dateTimeOriginal) {
+  if (VideoDateReader::IsVideoName(rawName)) {
+    const QString recorded = VideoDateReader::ReadFile(fs, platform::JoinPath(folder, rawName));
+    if (IsRealExifDateTime(recorded)) return recorded;
+  }
   if (IsRealExifDateTime(dateTimeOriginal)) return dateTimeOriginal;
   const QString scanned = ScanExifDateInHead(fs, folder, rawName);
   if (IsRealExifDateTime(scanned)) return scanned;

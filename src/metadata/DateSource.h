@@ -26,7 +26,8 @@ QByteArray ReadFileHead(platform::FileSystem& fs, const QByteArray& path, qint64
 QString ScanExifDateInHead(platform::FileSystem& fs, const QByteArray& folder,
                            const QByteArray& rawName);
 
-// The exposure date of a file as "yyyy:mm:dd hh:mm:ss": the EXIF
+// The exposure date of a file as "yyyy:mm:dd hh:mm:ss": for a video file
+// the date its container recorded (see VideoDateReader), then the EXIF
 // "DateTimeOriginal" the caller read, else the head scan, else the older of
 // the file's own dates. A source whose text is not a real date and time
 // (cameras write "0000:00:00 00:00:00" when their clock was never set)

@@ -26,7 +26,55 @@ int Number(const int* digits, int count) {
   return n;
 }
 
+bool IsDateSeparator(QChar c) { return c == u':' || c == u'-' || c == u'/' || c == u'.'; }
+
+// Reads `count` digits at `*at` into `out`, moving `*at` past them.
+bool TakeDigits(QStringView text, qsizetype* at, int count, int* out) {
+  int n = 0;
+  for (int i = 0; i < count; ++i, ++*at) {
+    if (*at >= text.size() || text[*at] < u'0' || text[*at] > u'9') return false;
+    n = n * 10 + (text[*at].unicode() - u'0');
+  }
+  *out = n;
+  return true;
+}
+
+bool TakeSeparator(QStringView text, qsizetype* at, bool (*accepts)(QChar)) {
+  if (*at >= text.size() || !accepts(text[*at])) return false;
+  ++*at;
+  return true;
+}
+
+bool IsColon(QChar c) { return c == u':'; }
+
 }  // namespace
+
+QString ExifLayoutDateTime(QStringView text) {
+  text = text.trimmed();
+  qsizetype at = 0;
+  int part[6];
+  if (!TakeDigits(text, &at, 4, &part[0]) || !TakeSeparator(text, &at, IsDateSeparator) ||
+      !TakeDigits(text, &at, 2, &part[1]) || !TakeSeparator(text, &at, IsDateSeparator) ||
+      !TakeDigits(text, &at, 2, &part[2])) {
+    return {};
+  }
+  const qsizetype dateEnd = at;
+  while (at < text.size() && text[at] == u' ') ++at;
+  if (at == dateEnd && at < text.size() && text[at] == u'T') ++at;
+  if (at == dateEnd || !TakeDigits(text, &at, 2, &part[3]) || !TakeSeparator(text, &at, IsColon) ||
+      !TakeDigits(text, &at, 2, &part[4]) || !TakeSeparator(text, &at, IsColon) ||
+      !TakeDigits(text, &at, 2, &part[5]) || at != text.size()) {
+    return {};
+  }
+  const QString layout = QStringLiteral("%1:%2:%3 %4:%5:%6")
+                             .arg(part[0], 4, 10, QLatin1Char('0'))
+                             .arg(part[1], 2, 10, QLatin1Char('0'))
+                             .arg(part[2], 2, 10, QLatin1Char('0'))
+                             .arg(part[3], 2, 10, QLatin1Char('0'))
+                             .arg(part[4], 2, 10, QLatin1Char('0'))
+                             .arg(part[5], 2, 10, QLatin1Char('0'));
+  return IsRealExifDateTime(layout) ? layout : QString();
+}
 
 bool ReadExifDateTime(const QString& text, QDate* date, QTime* time) {
   if (text.size() < kLayoutLength) return false;

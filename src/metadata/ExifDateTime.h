@@ -20,6 +20,13 @@ inline constexpr int kFormSerial = 4;
 bool ReadExifDateTime(const QString& text, QDate* date, QTime* time);
 bool IsRealExifDateTime(const QString& text);
 
+// The EXIF layout of a date and time written the way some phones, editors
+// and video files write it: the date's parts separated by dashes, slashes,
+// dots or colons, blanks (or an ISO "T") between date and time, blanks
+// around the whole ("2020-04-24 17:44:15 " gives "2020:04:24 17:44:15").
+// Empty unless it is a real date and time with nothing else around it.
+QString ExifLayoutDateTime(QStringView text);
+
 // The date (form 1), the time (form 2) or both joined by one blank (form 3),
 // formatted with the user's date and time pictures (see DateTimePicture.h).
 // As in the classic Format the date carries no time (midnight) and the time

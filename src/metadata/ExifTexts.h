@@ -50,6 +50,7 @@ struct ExifTexts {
   static constexpr const char* kFlashReturnDetected = "return detected";          // bits 1-2 = 3
   static constexpr const char* kFlashRedEye = "red-eye reduction";                // bit 6
   static constexpr const char* kFlashJoin = ", ";
+  static constexpr const char* kFlashUnknown = "Unknown";  // undefined bits set
 
   // Units: "f/5.6", "1/250 s", "0.5 s", "+0.67 EV", "50 mm".
   static constexpr const char* kFNumberPrefix = "f/";

@@ -3,6 +3,7 @@
 #include <QStringList>
 #include <cmath>
 
+#include "metadata/ExifDateTime.h"
 #include "metadata/ExifTexts.h"
 
 namespace renvale::metadata {
@@ -25,6 +26,7 @@ quint32 Unsigned(const ExifRawValue& value, int at, int size) {
 // APEX values beyond these give exposure times and f-numbers no camera has.
 constexpr double kMaxApex = 40.0;
 constexpr double kLongestFraction = 0.2501;  // from 1/4 s down, times read as fractions
+constexpr qint64 kFlashDefinedBits = 0x7F;
 
 }  // namespace
 
@@ -90,8 +92,11 @@ QString ExifValueText::Text(const ExifRawValue& value) {
 // Cameras that do not know the date write blanks between the colons; a
 // text without a single digit is no date and is better left absent, so
 // that the fallbacks apply. Zeros are kept: the camera did write them.
+// Some phones write dashes instead of colons: that date is read as meant.
 QString ExifValueText::DateText(const ExifRawValue& value) {
   const QString text = Text(value);
+  const QString layout = ExifLayoutDateTime(text);
+  if (!layout.isEmpty()) return layout;
   for (const QChar c : text) {
     if (c.isDigit()) return text;
   }
@@ -167,10 +172,13 @@ QString ExifValueText::ProgramText(const ExifRawValue& value) {
 }
 
 // Bit 0 fired, bits 1-2 strobe return, bits 3-4 mode, bit 5 no flash
-// function, bit 6 red-eye reduction.
+// function, bit 6 red-eye reduction. Higher bits are undefined: a value
+// with any of them set was not written by a camera, and its low bits are no
+// more to be trusted than the rest.
 QString ExifValueText::FlashText(const ExifRawValue& value) {
   qint64 code = 0;
   if (!Integer(value, &code)) return {};
+  if (code < 0 || code > kFlashDefinedBits) return QString::fromLatin1(ExifTexts::kFlashUnknown);
   if (code == 0) return QString::fromLatin1(ExifTexts::kFlashNone);
   if (code & 0x20) return QString::fromLatin1(ExifTexts::kFlashNoFunction);
   QStringList parts;

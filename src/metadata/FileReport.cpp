@@ -27,9 +27,10 @@ QString Lines(const QStringList& lines, const QString& end) {
 QStringList Id3Lines(platform::FileSystem& fs, const QByteArray& path) {
   QStringList lines{kId3Heading};
   Id3Tag tag;
-  if (!ReadId3Tag(fs, path, &tag)) return lines << kId3Missing;
+  QString name;
+  if (!ReadFileId3Tag(fs, path, &tag, &name)) return lines << kId3Missing;
   const auto clean = [](const QString& value) { return WithoutControlCharacters(value); };
-  return lines << kId3TitleLabel + clean(tag.title) << kId3ArtistLabel + clean(tag.artist)
+  return lines << kId3TagLabel + name << kId3TitleLabel + clean(tag.title) << kId3ArtistLabel + clean(tag.artist)
                << kId3AlbumLabel + clean(tag.album)
                << kId3TrackLabel + clean(Id3TrackText(tag.track))
                << kId3YearLabel + clean(tag.year) << kId3CommentLabel + clean(tag.comment);

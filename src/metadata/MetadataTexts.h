@@ -67,6 +67,12 @@ inline const QString kId3Title = QStringLiteral("Title");
 inline const QString kId3Artist = QStringLiteral("Artist");
 inline const QString kId3Album = QStringLiteral("Album");
 inline const QString kId3Track = QStringLiteral("Track");
+// The names of the tags, as the report shows which one it read, and the
+// two ID3v2 genres that are words rather than numbers.
+inline const QString kId3v1Name = QStringLiteral("ID3v1");
+inline const QString kId3v2NamePrefix = QStringLiteral("ID3v2.");
+inline const QString kId3Remix = QStringLiteral("Remix");
+inline const QString kId3Cover = QStringLiteral("Cover");
 
 // The 148 ID3v1 genre names, index 0 to 147, split at '#'.
 inline const QString kId3Genres = QStringLiteral(
@@ -98,6 +104,7 @@ inline const QString kReadOnlyNo = QStringLiteral("Read Only: No");
 inline const QString kReadOnlyYes = QStringLiteral("Read Only: YES (File is write-protected)");
 inline const QString kId3Heading = QStringLiteral("---ID3 Data...");
 inline const QString kId3Missing = QStringLiteral("** Could not retrieve ID3 info from the file. **");
+inline const QString kId3TagLabel = QStringLiteral("---Tag: ");
 inline const QString kId3TitleLabel = QStringLiteral("---Title: ");
 inline const QString kId3ArtistLabel = QStringLiteral("---Artist: ");
 inline const QString kId3AlbumLabel = QStringLiteral("---Album: ");

@@ -4,6 +4,8 @@
 #include <array>
 #include <memory>
 
+#include "metadata/FileByteSource.h"
+#include "metadata/Id3v2Reader.h"
 #include "metadata/MetadataTexts.h"
 #include "platform/FileSystem.h"
 
@@ -72,6 +74,17 @@ QString OrPlaceholder(const QString& value, const QString& placeholder) {
 
 QString CleanValue(const QString& value) { return WithoutControlCharacters(TrimBlanks(value)); }
 
+// "3/11" (track 3 of 11) names the track by its own number: a slash has
+// no place in a file name.
+QString TrackNumberPart(const QString& track) { return track.section(u'/', 0, 0); }
+
+bool ReadV1(platform::ReadableFile& file, Id3Tag* tag) {
+  const qint64 size = file.Size();
+  char block[kId3TagSize];
+  return size >= kId3TagSize && file.ReadAt(size - kId3TagSize, block, kId3TagSize) == kId3TagSize &&
+         ParseId3Tag(block, kId3TagSize, tag);
+}
+
 }  // namespace
 
 bool ParseId3Tag(const char* data, qint64 size, Id3Tag* tag) {
@@ -87,11 +100,23 @@ bool ReadId3Tag(platform::FileSystem& fs, const QByteArray& path, Id3Tag* tag) {
   *tag = Id3Tag{};
   std::unique_ptr<platform::ReadableFile> file;
   if (fs.OpenForRead(path, &file) != 0 || !file) return false;
-  const qint64 size = file->Size();
-  if (size < kId3TagSize) return false;
-  char block[kId3TagSize];
-  if (file->ReadAt(size - kId3TagSize, block, kId3TagSize) != kId3TagSize) return false;
-  return ParseId3Tag(block, kId3TagSize, tag);
+  return ReadV1(*file, tag);
+}
+
+bool ReadFileId3Tag(platform::FileSystem& fs, const QByteArray& path, Id3Tag* tag, QString* name) {
+  *tag = Id3Tag{};
+  name->clear();
+  std::unique_ptr<platform::ReadableFile> file;
+  if (fs.OpenForRead(path, &file) != 0 || !file) return false;
+  if (ReadV1(*file, tag)) {
+    *name = texts::kId3v1Name;
+    return true;
+  }
+  FileByteSource source(*file);
+  int version = 0;
+  if (source.IoFailed() || !Id3v2Reader::Read(source, tag, &version)) return false;
+  *name = texts::kId3v2NamePrefix + QString::number(version);
+  return true;
 }
 
 QString Id3GenreName(int index) {
@@ -120,12 +145,13 @@ QString Id3FixedText(const char* data, qint64 length, int mode, bool stopAtZero)
 
 Id3Values LoadId3Values(platform::FileSystem& fs, const QByteArray& path) {
   Id3Tag tag;
+  QString name;
   Id3Values values;
-  if (ReadId3Tag(fs, path, &tag)) {
+  if (ReadFileId3Tag(fs, path, &tag, &name)) {
     values.title = CleanValue(tag.title);
     values.artist = CleanValue(tag.artist);
     values.album = CleanValue(tag.album);
-    values.track = WithoutControlCharacters(Id3TrackText(TrimBlanks(tag.track)));
+    values.track = WithoutControlCharacters(Id3TrackText(TrimBlanks(TrackNumberPart(tag.track))));
   }
   values.title = OrPlaceholder(values.title, texts::kId3Title);
   values.artist = OrPlaceholder(values.artist, texts::kId3Artist);

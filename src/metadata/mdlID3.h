@@ -51,7 +51,13 @@ QString Id3GenreName(int index);
 // tags were written in.
 QString Id3FixedText(const char* data, qint64 length, int mode, bool stopAtZero);
 
-// Reads the tag of one file into the values for file names (see Id3Values).
+// The tag a music file's names and report come from: its ID3v1 tag when
+// it has one, else the ID3v2 tag at its start. Empties `tag` first; `name`
+// gets the tag's name ("ID3v1", "ID3v2.3"). False when there is neither.
+bool ReadFileId3Tag(platform::FileSystem& fs, const QByteArray& path, Id3Tag* tag, QString* name);
+
+// Reads the tag of one file (see ReadFileId3Tag) into the values for file
+// names (see Id3Values). A track written "3/11" gives its own number.
 Id3Values LoadId3Values(platform::FileSystem& fs, const QByteArray& path);
 
 // Helpers shared with the report: a track number with at least two digits

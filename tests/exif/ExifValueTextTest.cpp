@@ -89,6 +89,9 @@ TEST(ExifValueText, CodedValuesInWords) {
       Short("Flash", Ifd::Exif, 0x9209, 24, "Auto, did not fire"),
       Short("Flash", Ifd::Exif, 0x9209, 32, "No flash function"),
       Short("Flash", Ifd::Exif, 0x9209, 73, "On, fired, red-eye reduction"),
+      Short("Flash", Ifd::Exif, 0x9209, 0x5F, "Auto, fired, return detected, red-eye reduction"),
+      Short("Flash", Ifd::Exif, 0x9209, 0x80, "Unknown"),  // undefined bits set
+      Short("Flash", Ifd::Exif, 0x9209, 0xFF41, "Unknown"),
       Short("ExposureProgram", Ifd::Exif, 0x8822, 1, "Manual"),
       Short("ExposureProgram", Ifd::Exif, 0x8822, 8, "Landscape mode"),
       Short("ExposureProgram", Ifd::Exif, 0x8822, 9, "Unknown (9)"),
@@ -114,6 +117,14 @@ TEST(ExifValueText, NumbersAndTexts) {
       Text("DateTimeOriginal", Ifd::Exif, 0x9003, "    :  :     :  :  ", ""),
       Text("DateTimeOriginal", Ifd::Exif, 0x9003, "0000:00:00 00:00:00", "0000:00:00 00:00:00"),
       Text("DateTimeOriginal", Ifd::Zero, 0x9003, "2001:02:03 04:05:06", "2001:02:03 04:05:06"),
+      // Phones and editors that write other separators, and blanks around.
+      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2020-04-24 17:44:15 ", "2020:04:24 17:44:15"),
+      Text("DateTimeOriginal", Ifd::Exif, 0x9003, " 2020/04/24  17:44:15", "2020:04:24 17:44:15"),
+      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2020.04.24 17:44:15", "2020:04:24 17:44:15"),
+      // Still no date: left as written, for the date source to pass over.
+      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2020-02-30 17:44:15", "2020-02-30 17:44:15"),
+      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2020-04-24 17.44.15", "2020-04-24 17.44.15"),
+      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2020-04-24 17:44:15 x", "2020-04-24 17:44:15 x"),
       // A number where text belongs is not taken for text.
       Short("Model", Ifd::Zero, 0x0110, 7, ""),
       // Only the sixteen names answer, spelled exactly.

@@ -141,7 +141,7 @@ TEST_F(FileReportTest, GeneralInfoOfMp3FilesWithAndWithoutTag) {
   Add("/p/t.MP3", MakeMp3(&tag, 10));  // 4170 + 128 bytes
   EXPECT_EQ(metadata::BuildGeneralInfo(fs, "/p/t.MP3"),
             GeneralHead(4, ".") +
-                "---ID3 Data...\r\n---Title: Silence\r\n---Artist: piman\r\n---Album: "
+                "---ID3 Data...\r\n---Tag: ID3v1\r\n---Title: Silence\r\n---Artist: piman\r\n---Album: "
                 "Album\r\n---Track #: 07\r\n---Year: 2004\r\n---Comment: linefeed\r\n");
   Add("/p/n.mp3", MakeMp3(nullptr, 10));
   EXPECT_EQ(metadata::BuildGeneralInfo(fs, "/p/n.mp3"),
@@ -151,7 +151,7 @@ TEST_F(FileReportTest, GeneralInfoOfMp3FilesWithAndWithoutTag) {
   Add("/p/e.mp3", MakeMp3(&empty, 10));  // a tag whose fields are all empty
   EXPECT_EQ(metadata::BuildGeneralInfo(fs, "/p/e.mp3"),
             GeneralHead(4, ".") +
-                "---ID3 Data...\r\n---Title: \r\n---Artist: \r\n---Album: \r\n---Track #: "
+                "---ID3 Data...\r\n---Tag: ID3v1\r\n---Title: \r\n---Artist: \r\n---Album: \r\n---Track #: "
                 "\r\n---Year: \r\n---Comment: \r\n");
 }
 

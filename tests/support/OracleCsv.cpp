@@ -32,8 +32,8 @@ QStringList ParseCsvLine(const QString& line) {
 
 QString TestDataFolder() { return QString::fromLocal8Bit(qgetenv("RENVALE_TESTDATA")); }
 
-std::vector<OracleRow> ReadOracle(const QString& folder) {
-  QFile file(folder + "/oracle.csv");
+std::vector<OracleRow> ReadOracle(const QString& folder, const QString& name) {
+  QFile file(folder + u'/' + name);
   std::vector<OracleRow> rows;
   if (!file.open(QIODevice::ReadOnly)) return rows;
   const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);

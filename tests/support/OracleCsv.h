@@ -13,8 +13,8 @@ QString TestDataFolder();
 // One row of oracle.csv, by column name.
 using OracleRow = QHash<QString, QString>;
 
-// Reads `folder`/oracle.csv; empty when it cannot be read.
-std::vector<OracleRow> ReadOracle(const QString& folder);
+// Reads `folder`/`name`; empty when it cannot be read.
+std::vector<OracleRow> ReadOracle(const QString& folder, const QString& name = QStringLiteral("oracle.csv"));
 
 // The bytes an oracle cell stands for: "\xNN" escapes turned back into the
 // bytes they replace, every other character as Latin-1.
