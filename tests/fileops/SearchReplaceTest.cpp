@@ -29,6 +29,8 @@ const QString kNoMatch =
 const QString kClash1 = "The file 'Pic_1.jpg' already exists.\rOverwrite the existing file?  The existing file will be lost!";
 const QString kRenamed0 = "\n\"IMG_0.jpg\" was renamed to \"Pic_0.jpg\"";
 const QString kRenamed2 = "\n\"IMG_2.jpg\" was renamed to \"Pic_2.jpg\"";
+const QString kNotRenamed1 =
+    "\nThe file 'IMG_1.jpg' was not renamed to 'Pic_1.jpg' because the new proposed filename already existed.";
 
 class SearchReplaceRun : public RenameFixture {
  protected:
@@ -39,10 +41,14 @@ class SearchReplaceRun : public RenameFixture {
     fileops::SearchReplace(context, search).Execute(terms);
     EXPECT_FALSE(session.Busy);
   }
-  // IMG_0 and IMG_2 rename freely; IMG_1 meets Pic_1.
-  void MakeClash() {
-    Make({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg", "Pic_1.jpg"});
+  // A fresh folder where IMG_0 and IMG_2 rename freely and IMG_1 meets Pic_1.
+  void MakeClash(std::initializer_list<MessageAnswer> answers = {}) {
+    Remake({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg", "Pic_1.jpg"});
     Select({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg"});
+    port.Clear();
+    search.results.clear();
+    fs.ClearFaults();
+    for (MessageAnswer answer : answers) port.Script(answer);
   }
 
   FakeSearchView search;
@@ -76,14 +82,13 @@ TEST_F(SearchReplaceRun, EmptyTermsOrNoMatchChangeNothing) {
 
 TEST_F(SearchReplaceRun, AClashIsAskedWithNoAsDefaultAndEachAnswerKeepsItsWord) {
   struct Row {
-    std::vector<MessageAnswer> answers;
+    std::initializer_list<MessageAnswer> answers;
     QStringList messages;
     QString results;
     Files left;  // IMG_* and Pic_1 afterwards, Pic_0 and Pic_2 when renamed
   };
-  const QString notRenamed = "\nThe file 'IMG_1.jpg' was not renamed to 'Pic_1.jpg' because the new proposed filename already existed.";
   const Row rows[] = {
-      {{MessageAnswer::No}, {kClash1, kComplete}, kRenamed0 + notRenamed + kRenamed2,
+      {{MessageAnswer::No}, {kClash1, kComplete}, kRenamed0 + kNotRenamed1 + kRenamed2,
        {{"IMG_1.jpg", "IMG_1.jpg"}, {"Pic_1.jpg", "Pic_1.jpg"}}},
       {{MessageAnswer::Yes}, {kClash1, kComplete},
        kRenamed0 + "\n\"IMG_1.jpg\" was renamed to \"Pic_1.jpg\"" + kRenamed2, {{"Pic_1.jpg", "IMG_1.jpg"}}},
@@ -94,11 +99,7 @@ TEST_F(SearchReplaceRun, AClashIsAskedWithNoAsDefaultAndEachAnswerKeepsItsWord) 
        {{"IMG_1.jpg", "IMG_1.jpg"}, {"IMG_2.jpg", "IMG_2.jpg"}, {"Pic_1.jpg", "Pic_1.jpg"}}},
   };
   for (const Row& row : rows) {
-    Remake({});
-    MakeClash();
-    port.Clear();
-    search.results.clear();
-    for (MessageAnswer answer : row.answers) port.Script(answer);
+    MakeClash(row.answers);
     Run({{"IMG", "Pic"}});
     EXPECT_EQ(port.Texts(), row.messages);
     EXPECT_EQ(port.messages[0].defaultButton, MessageAnswer::No);
@@ -139,14 +140,8 @@ TEST_F(SearchReplaceRun, ATargetThatCannotBeDeletedAsksWhetherToGoOn) {
        "\nThe file renaming operation was cancelled."},
   };
   for (const Row& row : rows) {
-    Remake({});
-    MakeClash();
-    port.Clear();
-    search.results.clear();
-    fs.ClearFaults();
+    MakeClash({MessageAnswer::Yes, row.answer});
     fs.FailRemove(Path("Pic_1.jpg"), row.error);
-    port.Script(MessageAnswer::Yes);
-    port.Script(row.answer);
     Run({{"IMG", "Pic"}});
     ASSERT_EQ(port.messages.size(), 3u);
     EXPECT_EQ(port.messages[1].text, row.text);
@@ -168,16 +163,13 @@ TEST_F(SearchReplaceRun, ARenameErrorStopsTheRunWithItsNumbersWords) {
       {1028, "Error renaming file.  ***Error Code1028 - Unexpected Error***"},
   };
   for (const auto& [error, first] : rows) {
-    Remake({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg"});
-    Select({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg"});
-    port.Clear();
-    search.results.clear();
-    fs.ClearFaults();
-    fs.FailRename(Path("IMG_1.jpg"), error);
+    MakeClash({MessageAnswer::No});
+    fs.FailRename(Path("IMG_2.jpg"), error);
     Run({{"IMG", "Pic"}});
-    EXPECT_EQ(port.Texts(), (QStringList{first + rest, kComplete}));
-    EXPECT_EQ(port.messages[0].icon, platform::MessageIcon::Critical);
-    EXPECT_EQ(search.results, QStringList{kRenamed0 + "\nFile renaming operation was cancelled because the folder cannot be written to."});
+    EXPECT_EQ(port.Texts(), (QStringList{kClash1, first + rest, kComplete}));
+    EXPECT_EQ(port.messages[1].icon, platform::MessageIcon::Critical);
+    EXPECT_EQ(search.results, QStringList{kRenamed0 + kNotRenamed1 +
+                                          "\nFile renaming operation was cancelled because the folder cannot be written to."});
     EXPECT_TRUE(Folder().count("IMG_2.jpg"));
   }
 }

@@ -1,0 +1,62 @@
+#include <QApplication>
+#include <QAction>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTimer>
+
+#include "mainwindow/MainWindowFixture.h"
+
+namespace renvale::test {
+namespace {
+
+using MainWindowFileOps = MainWindowFixture;
+
+TEST_F(MainWindowFileOps, DelTrashesTheSelectedFilesAndListsTheFolderAgain) {
+  MakeFiles({"a.jpg", "b.jpg", "c.jpg"});
+  shell::MainWindow& main = Open();
+  ClickRow(0);
+  ClickRow(1, Qt::ShiftModifier);
+  ASSERT_TRUE(main.Ui().Command4->isEnabled());
+  main.Ui().Command4->click();
+  EXPECT_EQ(messages.Texts(), QStringList{"Are you sure you want to move all selected files to the Recycle Bin?"});
+  EXPECT_EQ(ListedNames(), QStringList{"c.jpg"});
+  EXPECT_EQ(main.Ui().fileCountLabel->text(), "Files in folder (1):");
+}
+
+// The menu command opens the dialog; terms typed there rename the selected
+// files and the results window lists them.
+TEST_F(MainWindowFileOps, SearchAndReplaceRenamesTheSelectionThroughTheDialog) {
+  MakeFiles({"IMG_1.jpg", "IMG_2.jpg", "IMG_3.jpg"});
+  shell::MainWindow& main = Open();
+  main.Ui().FSR->trigger();
+  EXPECT_EQ(messages.Texts(), QStringList{"Please select file(s) to search first."});
+  ClickRow(0);
+  ClickRow(1, Qt::ShiftModifier);
+  QString results;
+  messages.onShow = [&] {
+    QTimer::singleShot(0, [&] {
+      QWidget* window = QApplication::activeModalWidget();
+      results = window->findChild<QPlainTextEdit*>("textResults")->toPlainText();
+      window->findChild<QPushButton*>("Command1")->click();
+    });
+  };
+  QTimer::singleShot(0, [&] {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    ASSERT_EQ(dialog->windowTitle(), "Filename Search & Replace");
+    dialog->findChildren<QLineEdit*>("SearchTerm").at(0)->setText("IMG");
+    dialog->findChildren<QLineEdit*>("ReplaceTerm").at(0)->setText("Pic");
+    dialog->findChild<QPushButton*>("Command2")->click();
+    dialog->findChild<QPushButton*>("Command1")->click();
+  });
+  main.Ui().FSR->trigger();
+  EXPECT_EQ(messages.Last().text, "Search & Replace Renaming Complete.  Click OK for the results.");
+  EXPECT_EQ(results, "\n\"IMG_1.jpg\" was renamed to \"Pic_1.jpg\"\n\"IMG_2.jpg\" was renamed to \"Pic_2.jpg\"");
+  EXPECT_EQ(ListedNames(), (QStringList{"IMG_3.jpg", "Pic_1.jpg", "Pic_2.jpg"}));
+  EXPECT_EQ(main.Ui().selectionLabel->text(), "( No File Selected )");
+}
+
+}  // namespace
+}  // namespace renvale::test
