@@ -21,7 +21,6 @@ SandRresults::SandRresults(const QString& results, QWidget* parent) : QDialog(pa
   textResults->setObjectName(QStringLiteral("textResults"));
   textResults->setAccessibleName(texts::kResultsDesignText);
   textResults->setReadOnly(true);
-  textResults->setLineWrapMode(QPlainTextEdit::NoWrap);
   textResults->setPlainText(results);
   auto* ok = new QPushButton(texts::kOkButton, this);
   ok->setObjectName(QStringLiteral("Command1"));
@@ -34,7 +33,7 @@ SandRresults::SandRresults(const QString& results, QWidget* parent) : QDialog(pa
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(textResults, 1);
   layout->addLayout(buttons);
-  resize(640, 400);
+  resize(760, 420);
 }
 
 }  // namespace renvale::shell

@@ -46,13 +46,8 @@ TEST_F(DeleteToTrashRun, TheCurrentFileIsAskedAboutByNameAndNoKeepsIt) {
   Select({"a.jpg"});
   port.Script(MessageAnswer::No);
   Delete();
-  fs.FailTrash(Path("a.jpg"), platform::kPathFileAccess);
-  Delete();
-  EXPECT_EQ(port.Texts(), (QStringList{"Are you sure you want to move 'a.jpg' to the Recycle Bin?",
-                                       "Are you sure you want to move 'a.jpg' to the Recycle Bin?",
-                                       "Could not move file to Recycle Bin!"}));
+  EXPECT_EQ(port.Texts(), QStringList{"Are you sure you want to move 'a.jpg' to the Recycle Bin?"});
   EXPECT_EQ(Folder(), (Files{{"a.jpg", "a.jpg"}}));
-  EXPECT_EQ(view.refreshes, 1);
   session.SelectedFileName = {};
   Delete();
   EXPECT_EQ(port.Last().text, "No file is selected!");
