@@ -42,7 +42,7 @@ class SearchReplaceRun : public RenameFixture {
     EXPECT_FALSE(session.Busy);
   }
   // A fresh folder where IMG_0 and IMG_2 rename freely and IMG_1 meets Pic_1.
-  void MakeClash(std::initializer_list<MessageAnswer> answers = {}) {
+  void MakeClash(std::initializer_list<MessageAnswer> answers) {
     Remake({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg", "Pic_1.jpg"});
     Select({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg"});
     port.Clear();
@@ -54,39 +54,27 @@ class SearchReplaceRun : public RenameFixture {
   FakeSearchView search;
 };
 
+// A term is matched and written as its UTF-8 bytes.
 TEST_F(SearchReplaceRun, ChainsTermsOverTheSelectionAndReportsEachRename) {
   Make({"IMG_1.jpg", "DSC_3.jpg", "IMG_2.jpg", "IMG_4.jpg"});
   Select({"IMG_1.jpg", "DSC_3.jpg", "IMG_2.jpg"});
-  Run({{"IMG", "Pic"}, {"", ""}, {"Pic", "Photo"}});
-  EXPECT_EQ(Folder(), (Files{{"Photo_1.jpg", "IMG_1.jpg"}, {"DSC_3.jpg", "DSC_3.jpg"},
-                             {"Photo_2.jpg", "IMG_2.jpg"}, {"IMG_4.jpg", "IMG_4.jpg"}}));
-  EXPECT_EQ(port.Texts(), QStringList{kComplete});
-  EXPECT_EQ(search.results, QStringList{"\n\"IMG_1.jpg\" was renamed to \"Photo_1.jpg\""
-                                        "\n\"IMG_2.jpg\" was renamed to \"Photo_2.jpg\""});
-  EXPECT_EQ(search.progress, (std::vector<int>{-3, 0, 1, 2, 3}));
-  EXPECT_EQ(search.running, (std::vector<bool>{true, false}));
-  EXPECT_EQ(view.refreshes, 1);
-  EXPECT_EQ(view.labels.last(), "( No File Selected )");
-}
-
-TEST_F(SearchReplaceRun, EmptyTermsOrNoMatchChangeNothing) {
-  Make({"IMG_1.jpg"});
-  Select({"IMG_1.jpg"});
   Run({{"", "x"}});
-  Run({{" ", "x"}, {"img", "Pic"}});
-  EXPECT_EQ(port.Texts(), (QStringList{"Please fill in the text boxes for at least one Search Term.", kNoMatch}));
-  EXPECT_EQ(Folder(), (Files{{"IMG_1.jpg", "IMG_1.jpg"}}));
-  EXPECT_TRUE(search.results.isEmpty());
-  EXPECT_EQ(view.refreshes, 0);
+  Run({{" ", "x"}, {"img", "Pic"}});  // blanks are a term; letter case counts
+  Run({{"IMG", "Pic"}, {"", ""}, {"Pic", "Ph\u00f6to"}});
+  EXPECT_EQ(Folder(), (Files{{"Ph\xc3\xb6to_1.jpg", "IMG_1.jpg"}, {"DSC_3.jpg", "DSC_3.jpg"},
+                             {"Ph\xc3\xb6to_2.jpg", "IMG_2.jpg"}, {"IMG_4.jpg", "IMG_4.jpg"}}));
+  EXPECT_EQ(port.Texts(), (QStringList{"Please fill in the text boxes for at least one Search Term.", kNoMatch,
+                                       kComplete}));
+  EXPECT_EQ(search.results, QStringList{"\n\"IMG_1.jpg\" was renamed to \"Ph\u00f6to_1.jpg\""
+                                        "\n\"IMG_2.jpg\" was renamed to \"Ph\u00f6to_2.jpg\""});
+  EXPECT_EQ(search.progress, (std::vector<int>{-3, 0, 1, 2, 3, -3, 0, 1, 2, 3}));
+  EXPECT_EQ(search.running, (std::vector<bool>{true, false, true, false}));
+  EXPECT_EQ(view.refreshes, 1);
 }
 
 TEST_F(SearchReplaceRun, AClashIsAskedWithNoAsDefaultAndEachAnswerKeepsItsWord) {
-  struct Row {
-    std::initializer_list<MessageAnswer> answers;
-    QStringList messages;
-    QString results;
-    Files left;  // IMG_* and Pic_1 afterwards, Pic_0 and Pic_2 when renamed
-  };
+  // `left`: IMG_* and Pic_1 afterwards; Pic_0 and Pic_2 when renamed.
+  struct Row { std::initializer_list<MessageAnswer> answers; QStringList messages; QString results; Files left; };
   const Row rows[] = {
       {{MessageAnswer::No}, {kClash1, kComplete}, kRenamed0 + kNotRenamed1 + kRenamed2,
        {{"IMG_1.jpg", "IMG_1.jpg"}, {"Pic_1.jpg", "Pic_1.jpg"}}},
@@ -123,54 +111,43 @@ TEST_F(SearchReplaceRun, ACaseOnlyChangeRenamesWithoutAskingUnlessADistinctFileH
   EXPECT_EQ(Folder(), (Files{{"bAnAnA.jpg", "banana.jpg"}, {"cat.jpg", "cat.jpg"}, {"cAt.jpg", "cAt.jpg"}}));
 }
 
-TEST_F(SearchReplaceRun, ATargetThatCannotBeDeletedAsksWhetherToGoOn) {
-  const QString rest = "\rClick OK to continue renaming files or Cancel to cancel the file renaming operation.";
-  struct Row {
-    int error;
-    MessageAnswer answer;
-    QString text;
-    QString lastLine;
-  };
-  const Row rows[] = {
-      {platform::kPathFileAccess, MessageAnswer::Ok,
-       "Could not overwrite the file.\rThe file or folder is 'Read Only' or Write Protected." + rest,
-       "\nThe file 'IMG_1.jpg' was not renamed to 'Pic_1.jpg' because the new proposed filename already "
-       "existed and could not be overwritten." + kRenamed2},
-      {1028, MessageAnswer::Cancel, "Could not overwrite the file.\rError #1028" + rest,
-       "\nThe file renaming operation was cancelled."},
-  };
-  for (const Row& row : rows) {
-    MakeClash({MessageAnswer::Yes, row.answer});
-    fs.FailRemove(Path("Pic_1.jpg"), row.error);
-    Run({{"IMG", "Pic"}});
-    ASSERT_EQ(port.messages.size(), 3u);
-    EXPECT_EQ(port.messages[1].text, row.text);
-    EXPECT_EQ(port.messages[1].buttons, platform::MessageButtons::OkCancel);
-    EXPECT_EQ(search.results, QStringList{kRenamed0 + row.lastLine});
-    EXPECT_EQ(Folder()["Pic_1.jpg"], "Pic_1.jpg");
-  }
-}
-
-TEST_F(SearchReplaceRun, ARenameErrorStopsTheRunWithItsNumbersWords) {
-  const QString rest =
+// A target that cannot be deleted asks whether to go on; a failed rename
+// stops the run. Either way the first message is the clash question.
+TEST_F(SearchReplaceRun, AFailureIsToldInTheWordsOfItsNumber) {
+  const QString goOn = "\rClick OK to continue renaming files or Cancel to cancel the file renaming operation.";
+  const QString stop =
       "\rThe file being renamed is 'Read Only' or the source folder is Write Protected.\r\r"
       "If you are accessing a memory card through a memory card reader/slot or\r"
       "a cable connected from the camera to computer, examine memory card\r"
       "to be sure the Write Protect (or Lock) switch is not enabled.\r\rFile renaming operation cancelled.";
-  const std::pair<int, QString> rows[] = {
-      {70, "Error renaming file.  ***Error Code 70 - Access Violation Error***"},
-      {75, "Error renaming file.  ***Error Code 75 - File/Path Access Error***"},
-      {1028, "Error renaming file.  ***Error Code1028 - Unexpected Error***"},
+  const QString stopLine = "\nFile renaming operation was cancelled because the folder cannot be written to.";
+  using platform::MessageIcon;
+  struct Row { bool remove; int error; MessageAnswer answer; MessageIcon icon; QString text, results; };
+  const Row rows[] = {
+      {true, 75, MessageAnswer::Ok, MessageIcon::Warning,
+       "Could not overwrite the file.\rThe file or folder is 'Read Only' or Write Protected." + goOn,
+       kRenamed0 + "\nThe file 'IMG_1.jpg' was not renamed to 'Pic_1.jpg' because the new proposed filename "
+                   "already existed and could not be overwritten." + kRenamed2},
+      {true, 1028, MessageAnswer::Cancel, MessageIcon::Warning, "Could not overwrite the file.\rError #1028" + goOn,
+       kRenamed0 + "\nThe file renaming operation was cancelled."},
+      {false, 70, MessageAnswer::No, MessageIcon::Critical,
+       "Error renaming file.  ***Error Code 70 - Access Violation Error***" + stop, kRenamed0 + kNotRenamed1 + stopLine},
+      {false, 75, MessageAnswer::No, MessageIcon::Critical,
+       "Error renaming file.  ***Error Code 75 - File/Path Access Error***" + stop, kRenamed0 + kNotRenamed1 + stopLine},
+      {false, 1028, MessageAnswer::No, MessageIcon::Critical,
+       "Error renaming file.  ***Error Code1028 - Unexpected Error***" + stop, kRenamed0 + kNotRenamed1 + stopLine},
   };
-  for (const auto& [error, first] : rows) {
-    MakeClash({MessageAnswer::No});
-    fs.FailRename(Path("IMG_2.jpg"), error);
+  for (const Row& row : rows) {
+    MakeClash({row.remove ? MessageAnswer::Yes : row.answer});
+    if (row.remove) port.Script(row.answer);
+    if (row.remove) fs.FailRemove(Path("Pic_1.jpg"), row.error);
+    if (!row.remove) fs.FailRename(Path("IMG_2.jpg"), row.error);
     Run({{"IMG", "Pic"}});
-    EXPECT_EQ(port.Texts(), (QStringList{kClash1, first + rest, kComplete}));
-    EXPECT_EQ(port.messages[1].icon, platform::MessageIcon::Critical);
-    EXPECT_EQ(search.results, QStringList{kRenamed0 + kNotRenamed1 +
-                                          "\nFile renaming operation was cancelled because the folder cannot be written to."});
-    EXPECT_TRUE(Folder().count("IMG_2.jpg"));
+    ASSERT_EQ(port.messages.size(), 3u);
+    EXPECT_EQ(port.messages[1].text, row.text);
+    EXPECT_EQ(port.messages[1].icon, row.icon);
+    EXPECT_EQ(search.results, QStringList{row.results});
+    EXPECT_EQ(Folder()["Pic_1.jpg"], "Pic_1.jpg");
   }
 }
 

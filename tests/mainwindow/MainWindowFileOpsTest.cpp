@@ -1,5 +1,5 @@
-#include <QApplication>
 #include <QAction>
+#include <QApplication>
 #include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,21 +14,9 @@ namespace {
 
 using MainWindowFileOps = MainWindowFixture;
 
-TEST_F(MainWindowFileOps, DelTrashesTheSelectedFilesAndListsTheFolderAgain) {
-  MakeFiles({"a.jpg", "b.jpg", "c.jpg"});
-  shell::MainWindow& main = Open();
-  ClickRow(0);
-  ClickRow(1, Qt::ShiftModifier);
-  ASSERT_TRUE(main.Ui().Command4->isEnabled());
-  main.Ui().Command4->click();
-  EXPECT_EQ(messages.Texts(), QStringList{"Are you sure you want to move all selected files to the Recycle Bin?"});
-  EXPECT_EQ(ListedNames(), QStringList{"c.jpg"});
-  EXPECT_EQ(main.Ui().fileCountLabel->text(), "Files in folder (1):");
-}
-
 // The menu command opens the dialog; terms typed there rename the selected
-// files and the results window lists them.
-TEST_F(MainWindowFileOps, SearchAndReplaceRenamesTheSelectionThroughTheDialog) {
+// files and the results window lists them. Then "DEL" trashes a selection.
+TEST_F(MainWindowFileOps, SearchAndReplaceThroughTheDialogThenDelTrashesTheSelection) {
   MakeFiles({"IMG_1.jpg", "IMG_2.jpg", "IMG_3.jpg"});
   shell::MainWindow& main = Open();
   main.Ui().FSR->trigger();
@@ -52,10 +40,17 @@ TEST_F(MainWindowFileOps, SearchAndReplaceRenamesTheSelectionThroughTheDialog) {
     dialog->findChild<QPushButton*>("Command1")->click();
   });
   main.Ui().FSR->trigger();
+  messages.onShow = nullptr;
   EXPECT_EQ(messages.Last().text, "Search & Replace Renaming Complete.  Click OK for the results.");
   EXPECT_EQ(results, "\n\"IMG_1.jpg\" was renamed to \"Pic_1.jpg\"\n\"IMG_2.jpg\" was renamed to \"Pic_2.jpg\"");
   EXPECT_EQ(ListedNames(), (QStringList{"IMG_3.jpg", "Pic_1.jpg", "Pic_2.jpg"}));
   EXPECT_EQ(main.Ui().selectionLabel->text(), "( No File Selected )");
+  ClickRow(0);
+  ClickRow(1, Qt::ShiftModifier);
+  main.Ui().Command4->click();
+  EXPECT_EQ(messages.Last().text, "Are you sure you want to move all selected files to the Recycle Bin?");
+  EXPECT_EQ(ListedNames(), QStringList{"Pic_2.jpg"});
+  EXPECT_EQ(main.Ui().fileCountLabel->text(), "Files in folder (1):");
 }
 
 }  // namespace
