@@ -1,13 +1,14 @@
 #include "fileops/SearchTerms.h"
 
 #include "fileops/ReplaceAll.h"
+#include "platform/FileName.h"
 
 namespace renvale::fileops {
 
 void SearchTerms::Set(int index, const QString& search, const QString& replacement) {
   if (index < 0 || index >= kCount) return;
-  search_[static_cast<size_t>(index)] = search.toUtf8();
-  replacement_[static_cast<size_t>(index)] = replacement.toUtf8();
+  search_[static_cast<size_t>(index)] = platform::FileName::TextToName(search);
+  replacement_[static_cast<size_t>(index)] = platform::FileName::TextToName(replacement);
 }
 
 bool SearchTerms::AnyFilled() const {

@@ -7,8 +7,9 @@
 namespace renvale::fileops {
 
 // The six search-and-replace pairs of one run, as the bytes they stand for
-// in a name: names are bytes, the terms are typed text, so a term is
-// matched by its UTF-8 bytes and every byte of a name that no term touches
+// in a name: names are bytes, the terms are typed text, so a term becomes
+// bytes the way a shown name does (UTF-8, and a stray byte copied from the
+// list back to that byte), and every byte of a name that no term touches
 // stays as it was, even where the name is not valid UTF-8.
 class SearchTerms {
  public:
