@@ -31,7 +31,6 @@ QString Shown(const QString& caption) { return QString(caption).replace(QStringL
 QPushButton* NamedButton(QWidget* parent, const char* objectName, const QString& caption) {
   auto* button = new QPushButton(caption, parent);
   button->setObjectName(QString::fromLatin1(objectName));
-  button->setAccessibleName(Shown(caption));
   button->setAutoDefault(false);
   return button;
 }
@@ -49,7 +48,6 @@ QLineEdit* TermBox(QWidget* parent, const char* objectName, QLabel* label) {
 SandR::SandR(const core::RenameContext& context, QWidget* parent) : QDialog(parent), context_(context) {
   setObjectName(QStringLiteral("SandR"));
   setWindowTitle(texts::kSandRCaption);
-  setAccessibleName(texts::kSandRCaption);
   BuildControls();
 }
 
@@ -94,7 +92,6 @@ void SandR::BuildControls() {
 QWidget* SandR::BuildTermRow(int index) {
   auto* group = new QGroupBox(texts::kSearchTermCaption.arg(index + 1), this);
   group->setObjectName(QStringLiteral("Frame1"));
-  group->setAccessibleName(group->title());
   auto* row = new QHBoxLayout(group);
   auto* contains = new QLabel(texts::kIfFilenameContains, group);
   auto* with = new QLabel(texts::kReplaceItWith, group);

@@ -14,7 +14,6 @@ namespace texts = fileops::texts;
 SandRresults::SandRresults(const QString& results, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("SandRresults"));
   setWindowTitle(texts::kResultsCaption);
-  setAccessibleName(texts::kResultsCaption);
   // A plain text view lays out only the lines on screen, so thousands of
   // results open at once.
   textResults = new QPlainTextEdit(this);
@@ -24,7 +23,6 @@ SandRresults::SandRresults(const QString& results, QWidget* parent) : QDialog(pa
   textResults->setPlainText(results);
   auto* ok = new QPushButton(texts::kOkButton, this);
   ok->setObjectName(QStringLiteral("Command1"));
-  ok->setAccessibleName(texts::kOkButton);
   ok->setDefault(true);
   connect(ok, &QPushButton::clicked, this, &QDialog::accept);
   auto* buttons = new QHBoxLayout;
