@@ -14,8 +14,7 @@ namespace {
 
 using MainWindowFileOps = MainWindowFixture;
 
-// The menu command opens the dialog; terms typed there rename the selected
-// files and the results window lists them. Then "DEL" trashes a selection.
+// Terms typed in the dialog rename the selection and are listed; then "DEL" trashes two.
 TEST_F(MainWindowFileOps, SearchAndReplaceThroughTheDialogThenDelTrashesTheSelection) {
   MakeFiles({"IMG_1.jpg", "IMG_2.jpg", "IMG_3.jpg"});
   shell::MainWindow& main = Open();
