@@ -13,7 +13,7 @@ top=$(pwd)
 packages=(cmake ninja-build g++ clang libclang-rt-14-dev pkg-config
           qt6-base-dev qt6-multimedia-dev libglib2.0-dev
           libgtest-dev libgmock-dev libbenchmark-dev
-          xvfb xauth)
+          xvfb xauth rename libglib2.0-bin)
 
 install_missing() {
   local missing=()

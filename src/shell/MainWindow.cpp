@@ -25,6 +25,7 @@
 #include "core/SeriesCounter.h"
 #include "core/SettingsStore.h"
 #include "core/WindowPlacement.h"
+#include "fileops/DeleteToTrash.h"
 #include "platform/AppPaths.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/FileSystem.h"
@@ -34,6 +35,7 @@
 #include "shell/ComposeController.h"
 #include "shell/FilenameAsTemp.h"
 #include "shell/ManTempDialog.h"
+#include "shell/SandR.h"
 #include "shell/MetadataTokenSource.h"
 #include "shell/FileListModel.h"
 #include "shell/FolderBrowsing.h"
@@ -190,6 +192,12 @@ void MainWindow::ConnectRenameButtons() {
   });
   connect(ui_.Command11, &QPushButton::clicked, this,
           [this] { RunRename<core::BatchRename>([](auto& batch) { batch.StartBatchRename(); }); });
+  connect(ui_.Command4, &QPushButton::clicked, this,
+          [this] { RunRename<fileops::DeleteToTrash>([](auto& del) { del.DeleteSelected(); }); });
+  connect(ui_.FSR, &QAction::triggered, this, [this] {
+    MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
+    SandR::Open({session_, settings_, renameView_, services_.messages, services_.fs, tokens}, this);
+  });
   // Random numbers and file sets do not mix well; say so while it is ticked.
   auto* note = findChild<QLabel*>(QStringLiteral("RandomNote"));
   connect(ui_.Check1, &QCheckBox::toggled, note, &QLabel::setVisible);
@@ -198,9 +206,9 @@ void MainWindow::ConnectRenameButtons() {
 // Controls whose features are not built yet stay visible but unusable.
 void MainWindow::DisableLaterFeatures() {
   QWidget* const widgets[] = {
-      ui_.Command4, ui_.Command13, ui_.Command12, ui_.ShPrev, ui_.UnSupported};
+      ui_.Command13, ui_.Command12, ui_.ShPrev, ui_.UnSupported};
   for (QWidget* widget : widgets) widget->setEnabled(false);
-  for (QAction* action : {ui_.optionsAction, ui_.FSR, ui_.MapNet, ui_.UnMap,
+  for (QAction* action : {ui_.optionsAction, ui_.MapNet, ui_.UnMap,
                           ui_.RotIP}) {
     action->setEnabled(false);
   }

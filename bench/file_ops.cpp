@@ -1,0 +1,263 @@
+// Filename search and replace of "IMG" with "Pic" over 10,000 selected JPEGs
+// through the real dialog (offscreen, every question answered by script),
+// against a floor that only renames the same files in a C loop, and the Perl
+// `rename 's/IMG/Pic/' *` when it is installed. Then "DEL" on 1,000
+// selected files through the real window against `gio trash` of the same
+// files.
+//
+// The contenders run in rounds, each on a fresh folder of links to the same
+// files; a round's ratio is taken to its own floor and the median over the
+// rounds is the figure to quote.
+#include <benchmark/benchmark.h>
+#include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "platform/FileSystem.h"
+#include "platform/MountList.h"
+#include "platform/QtSettingsStorage.h"
+#include "shell/MainWindow.h"
+#include "shell/SilentQuickTips.h"
+#include "support/SampleImages.h"
+#include "support/ScriptedMessagePort.h"
+
+namespace {
+
+constexpr int kRenameCount = 10000;
+constexpr int kTrashCount = 1000;
+const QByteArray kPictures = QByteArrayLiteral("/tmp/renvale-bench-fileops-pictures/");
+const QByteArray kFolder = QByteArrayLiteral("/tmp/renvale-bench-fileops/");
+
+using Clock = std::chrono::steady_clock;
+
+QByteArray PictureName(int i) { return "IMG_" + QByteArray::number(10000 + i) + ".JPG"; }
+
+// Pictures of 10 to 30 KB, written once per run.
+void MakePictures() {
+  QDir(QString::fromUtf8(kPictures)).removeRecursively();
+  QDir().mkpath(QString::fromUtf8(kPictures));
+  renvale::test::ExifFields fields = renvale::test::TypicalExifFields();
+  const QByteArray head = renvale::test::MakeExifJpeg(&fields);
+  std::mt19937 random(7);
+  for (int i = 0; i < kRenameCount; ++i) {
+    QByteArray bytes = head;
+    bytes.append(QByteArray(static_cast<qsizetype>(10000 + random() % 20000), static_cast<char>(i)));
+    const int fd = open((kPictures + PictureName(i)).constData(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    if (fd < 0 || write(fd, bytes.constData(), static_cast<size_t>(bytes.size())) != bytes.size()) std::abort();
+    close(fd);
+  }
+  sync();
+}
+
+// A fresh folder of links to the first `count` pictures.
+void MakeFolder(int count) {
+  static const bool made = (MakePictures(), true);
+  (void)made;
+  QDir(QString::fromUtf8(kFolder)).removeRecursively();
+  QDir().mkpath(QString::fromUtf8(kFolder));
+  for (int i = 0; i < count; ++i) {
+    if (link((kPictures + PictureName(i)).constData(), (kFolder + PictureName(i)).constData()) != 0) std::abort();
+  }
+  sync();
+}
+
+std::vector<std::string> Names() {
+  std::vector<std::string> names;
+  DIR* dir = opendir(kFolder.constData());
+  while (dirent* entry = readdir(dir)) {
+    if (entry->d_name[0] != '.') names.emplace_back(entry->d_name);
+  }
+  closedir(dir);
+  return names;
+}
+
+int CountStartingWith(const char* prefix) {
+  const std::vector<std::string> names = Names();
+  return static_cast<int>(std::count_if(names.begin(), names.end(),
+                                        [prefix](const std::string& name) { return name.rfind(prefix, 0) == 0; }));
+}
+
+template <typename Work>
+double Seconds(Work&& work) {
+  const auto before = Clock::now();
+  work();
+  return std::chrono::duration<double>(Clock::now() - before).count();
+}
+
+double FloorRenameOnce() {
+  MakeFolder(kRenameCount);
+  const std::vector<std::string> names = Names();
+  const std::string folder = kFolder.toStdString();
+  return Seconds([&] {
+    for (const std::string& name : names) {
+      std::string target = name;
+      for (size_t at = target.find("IMG"); at != std::string::npos; at = target.find("IMG", at + 3)) {
+        target.replace(at, 3, "Pic");
+      }
+      rename((folder + name).c_str(), (folder + target).c_str());
+    }
+  });
+}
+
+double CommandOnce(int count, const std::string& command) {
+  MakeFolder(count);
+  const std::string line = "cd " + kFolder.toStdString() + " && " + command;
+  return Seconds([&] {
+    if (system(line.c_str()) != 0) std::abort();
+  });
+}
+
+bool Installed(const char* tool) { return system((std::string("command -v ") + tool + " >/dev/null 2>&1").c_str()) == 0; }
+
+// The real main window with scripted answers, shown on the offscreen screen.
+class RenvaleWindow {
+ public:
+  RenvaleWindow()
+      : storage_(settingsDir_.path() + QStringLiteral("/Renvale.conf")),
+        window_({renvale::platform::RealFileSystem(), messages_, storage_, tips_,
+                 [](QWidget*, const QString&, const QString&) { return QString(); },
+                 [] { return std::vector<renvale::platform::Volume>{}; }, [] { return QByteArrayLiteral("/tmp/"); }}) {
+    window_.Start();
+    window_.show();
+  }
+
+  void OpenFolder(int count) {
+    MakeFolder(count);
+    messages_.Clear();
+    window_.ChangeFolder(kFolder);
+    window_.SelectAll();
+    QApplication::processEvents();
+  }
+
+  // From "Execute" to the results window on screen.
+  double SearchReplaceOnce() {
+    OpenFolder(kRenameCount);
+    Clock::time_point start;
+    Clock::time_point shown;
+    messages_.onShow = [&] {
+      QTimer::singleShot(0, [&] {
+        shown = Clock::now();
+        QApplication::activeModalWidget()->close();
+      });
+    };
+    QTimer::singleShot(0, [&] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      dialog->findChildren<QLineEdit*>(QStringLiteral("SearchTerm")).at(0)->setText(QStringLiteral("IMG"));
+      dialog->findChildren<QLineEdit*>(QStringLiteral("ReplaceTerm")).at(0)->setText(QStringLiteral("Pic"));
+      start = Clock::now();
+      dialog->findChild<QPushButton*>(QStringLiteral("Command2"))->click();
+      dialog->close();
+    });
+    window_.Ui().FSR->trigger();
+    messages_.onShow = nullptr;
+    return std::chrono::duration<double>(shown - start).count();
+  }
+
+  double TrashOnce() {
+    OpenFolder(kTrashCount);
+    return Seconds([&] { window_.Ui().Command4->click(); });
+  }
+
+  int MessageCount() const { return static_cast<int>(messages_.messages.size()); }
+
+ private:
+  QTemporaryDir settingsDir_;
+  renvale::platform::QtSettingsStorage storage_;
+  renvale::test::ScriptedMessagePort messages_;
+  renvale::shell::SilentQuickTips tips_;
+  renvale::shell::MainWindow window_;
+};
+
+double Median(std::vector<double> values) {
+  if (values.empty()) return 0;
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
+void EmptyTrash() { QDir(QString::fromLocal8Bit(qgetenv("XDG_DATA_HOME")) + QStringLiteral("/Trash")).removeRecursively(); }
+
+void BM_SearchReplaceAgainstFloor(benchmark::State& state) {
+  RenvaleWindow window;
+  const bool perl = Installed("rename");
+  std::vector<double> floorMs, renvaleMs, renvaleX, perlMs, perlX;
+  for (auto _ : state) {
+    const double floor = FloorRenameOnce();
+    const double renvale = window.SearchReplaceOnce();
+    // One message: "Search & Replace Renaming Complete."
+    if (CountStartingWith("Pic_") != kRenameCount || window.MessageCount() != 1) {
+      state.SkipWithError("search and replace did not rename every file");
+      return;
+    }
+    floorMs.push_back(floor * 1000);
+    renvaleMs.push_back(renvale * 1000);
+    renvaleX.push_back(renvale / floor);
+    if (perl) {
+      const double tool = CommandOnce(kRenameCount, "rename 's/IMG/Pic/' *");
+      perlMs.push_back(tool * 1000);
+      perlX.push_back(tool / floor);
+    }
+  }
+  state.counters["floor_ms"] = Median(floorMs);
+  state.counters["renvale_ms"] = Median(renvaleMs);
+  state.counters["renvale_x"] = Median(renvaleX);
+  if (perl) {
+    state.counters["perl_rename_ms"] = Median(perlMs);
+    state.counters["perl_rename_x"] = Median(perlX);
+  }
+}
+
+void BM_TrashAgainstGio(benchmark::State& state) {
+  RenvaleWindow window;
+  std::vector<double> gioMs, renvaleMs, renvaleX;
+  for (auto _ : state) {
+    EmptyTrash();
+    const double gio = CommandOnce(kTrashCount, "gio trash *");
+    EmptyTrash();
+    const double renvale = window.TrashOnce();
+    // One message: the question.
+    if (!Names().empty() || window.MessageCount() != 1) {
+      state.SkipWithError("DEL did not trash every file");
+      return;
+    }
+    gioMs.push_back(gio * 1000);
+    renvaleMs.push_back(renvale * 1000);
+    renvaleX.push_back(renvale / gio);
+  }
+  EmptyTrash();
+  state.counters["gio_trash_ms"] = Median(gioMs);
+  state.counters["renvale_ms"] = Median(renvaleMs);
+  state.counters["renvale_x"] = Median(renvaleX);
+}
+
+BENCHMARK(BM_SearchReplaceAgainstFloor)->Unit(benchmark::kSecond)->Iterations(7);
+BENCHMARK(BM_TrashAgainstGio)->Unit(benchmark::kSecond)->Iterations(5);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (std::getenv("QT_QPA_PLATFORM") == nullptr) setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  // Both contenders trash into a trash of the bench's own, on the same file
+  // system as the files, so that the user's trash stays as it was.
+  QTemporaryDir data(QStringLiteral("/tmp/renvale-bench-data-XXXXXX"));
+  setenv("XDG_DATA_HOME", QFile::encodeName(data.path()).constData(), 1);
+  QApplication app(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  QDir(QString::fromUtf8(kFolder)).removeRecursively();
+  QDir(QString::fromUtf8(kPictures)).removeRecursively();
+  return 0;
+}

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+
+namespace renvale::fileops {
+
+// What a search-and-replace run needs of its dialog. The dialog implements
+// it over its widgets; tests over plain fields. Everything runs on the
+// window's thread.
+class SearchReplaceView {
+ public:
+  virtual ~SearchReplaceView() = default;
+
+  // While a run is under way the dialog takes no second start and cannot be
+  // closed, and says it is scanning.
+  virtual void SetRunning(bool running) = 0;
+  // The progress bar: `maximum` once per run, then the files done so far.
+  virtual void SetProgressMaximum(int maximum) = 0;
+  virtual void SetProgress(int value) = 0;
+  // Lets pending window events run; may skip the work when called faster
+  // than the screen refreshes.
+  virtual void ProcessEvents() = 0;
+  // Shows the results window with `results`, modally.
+  virtual void ShowResults(const QString& results) = 0;
+};
+
+}  // namespace renvale::fileops

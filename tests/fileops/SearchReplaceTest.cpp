@@ -1,0 +1,164 @@
+#include "fileops/SearchReplace.h"
+
+#include "platform/ErrorNumbers.h"
+#include "rename/RenameFixture.h"
+
+namespace renvale::test {
+namespace {
+
+using platform::MessageAnswer;
+using Files = std::map<QByteArray, QByteArray>;
+
+class FakeSearchView : public fileops::SearchReplaceView {
+ public:
+  void SetRunning(bool on) override { running.push_back(on); }
+  void SetProgressMaximum(int maximum) override { progress.push_back(-maximum); }
+  void SetProgress(int value) override { progress.push_back(value); }
+  void ProcessEvents() override {}
+  void ShowResults(const QString& text) override { results << text; }
+
+  std::vector<bool> running;
+  std::vector<int> progress;  // a maximum as its negative
+  QStringList results;
+};
+
+const QString kComplete = "Search & Replace Renaming Complete.  Click OK for the results.";
+const QString kNoMatch =
+    "Search & Replace Complete.  No files matched the search term(s), therefore no filenames were changed.\n"
+    "You might want to check the search terms and try again.";
+const QString kClash1 = "The file 'Pic_1.jpg' already exists.\rOverwrite the existing file?  The existing file will be lost!";
+const QString kRenamed0 = "\n\"IMG_0.jpg\" was renamed to \"Pic_0.jpg\"";
+const QString kRenamed2 = "\n\"IMG_2.jpg\" was renamed to \"Pic_2.jpg\"";
+const QString kNotRenamed1 =
+    "\nThe file 'IMG_1.jpg' was not renamed to 'Pic_1.jpg' because the new proposed filename already existed.";
+
+class SearchReplaceRun : public RenameFixture {
+ protected:
+  void Run(std::initializer_list<std::pair<const char*, const char*>> pairs) {
+    fileops::SearchTerms terms;
+    int k = 0;
+    for (const auto& pair : pairs) terms.Set(k++, pair.first, pair.second);
+    fileops::SearchReplace(context, search).Execute(terms);
+    EXPECT_FALSE(session.Busy);
+  }
+  // A fresh folder where IMG_0 and IMG_2 rename freely and IMG_1 meets Pic_1.
+  void MakeClash(std::initializer_list<MessageAnswer> answers) {
+    Remake({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg", "Pic_1.jpg"});
+    Select({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg"});
+    port.Clear();
+    search.results.clear();
+    fs.ClearFaults();
+    for (MessageAnswer answer : answers) port.Script(answer);
+  }
+
+  FakeSearchView search;
+};
+
+// A term is matched and written as its UTF-8 bytes.
+TEST_F(SearchReplaceRun, ChainsTermsOverTheSelectionAndReportsEachRename) {
+  Make({"IMG_1.jpg", "DSC_3.jpg", "IMG_2.jpg", "IMG_4.jpg"});
+  Select({"IMG_1.jpg", "DSC_3.jpg", "IMG_2.jpg"});
+  Run({{"", "x"}});
+  Run({{" ", "x"}, {"img", "Pic"}});  // blanks are a term; letter case counts
+  Run({{"IMG", "Pic"}, {"", ""}, {"Pic", "Ph\u00f6to"}});
+  EXPECT_EQ(Folder(), (Files{{"Ph\xc3\xb6to_1.jpg", "IMG_1.jpg"}, {"DSC_3.jpg", "DSC_3.jpg"},
+                             {"Ph\xc3\xb6to_2.jpg", "IMG_2.jpg"}, {"IMG_4.jpg", "IMG_4.jpg"}}));
+  EXPECT_EQ(port.Texts(), (QStringList{"Please fill in the text boxes for at least one Search Term.", kNoMatch,
+                                       kComplete}));
+  EXPECT_EQ(search.results, QStringList{"\n\"IMG_1.jpg\" was renamed to \"Ph\u00f6to_1.jpg\""
+                                        "\n\"IMG_2.jpg\" was renamed to \"Ph\u00f6to_2.jpg\""});
+  EXPECT_EQ(search.progress, (std::vector<int>{-3, 0, 1, 2, 3, -3, 0, 1, 2, 3}));
+  EXPECT_EQ(search.running, (std::vector<bool>{true, false, true, false}));
+  EXPECT_EQ(view.refreshes, 1);
+}
+
+TEST_F(SearchReplaceRun, AClashIsAskedWithNoAsDefaultAndEachAnswerKeepsItsWord) {
+  // `left`: IMG_* and Pic_1 afterwards; Pic_0 and Pic_2 when renamed.
+  struct Row { std::initializer_list<MessageAnswer> answers; QStringList messages; QString results; Files left; };
+  const Row rows[] = {
+      {{MessageAnswer::No}, {kClash1, kComplete}, kRenamed0 + kNotRenamed1 + kRenamed2,
+       {{"IMG_1.jpg", "IMG_1.jpg"}, {"Pic_1.jpg", "Pic_1.jpg"}}},
+      {{MessageAnswer::Yes}, {kClash1, kComplete},
+       kRenamed0 + "\n\"IMG_1.jpg\" was renamed to \"Pic_1.jpg\"" + kRenamed2, {{"Pic_1.jpg", "IMG_1.jpg"}}},
+      {{MessageAnswer::Cancel, MessageAnswer::No}, {kClash1, "Cancel the file moving operation?", kComplete},
+       kRenamed0 + kRenamed2, {{"IMG_1.jpg", "IMG_1.jpg"}, {"Pic_1.jpg", "Pic_1.jpg"}}},
+      {{MessageAnswer::Cancel, MessageAnswer::Yes}, {kClash1, "Cancel the file moving operation?", kComplete},
+       kRenamed0 + "\nThe file renaming operation was cancelled.",
+       {{"IMG_1.jpg", "IMG_1.jpg"}, {"IMG_2.jpg", "IMG_2.jpg"}, {"Pic_1.jpg", "Pic_1.jpg"}}},
+  };
+  for (const Row& row : rows) {
+    MakeClash(row.answers);
+    Run({{"IMG", "Pic"}});
+    EXPECT_EQ(port.Texts(), row.messages);
+    EXPECT_EQ(port.messages[0].defaultButton, MessageAnswer::No);
+    EXPECT_EQ(search.results, QStringList{row.results});
+    Files expected = row.left;
+    expected["Pic_0.jpg"] = "IMG_0.jpg";
+    if (!expected.count("IMG_2.jpg")) expected["Pic_2.jpg"] = "IMG_2.jpg";
+    EXPECT_EQ(Folder(), expected) << row.results.toStdString();
+  }
+}
+
+// On ext4 "bAnAnA.jpg" beside "banana.jpg" is a distinct file: the case
+// change is asked about like any clash, never made over it.
+TEST_F(SearchReplaceRun, ACaseOnlyChangeRenamesWithoutAskingUnlessADistinctFileHasTheName) {
+  Make({"banana.jpg", "cat.jpg", "cAt.jpg"});
+  Select({"banana.jpg", "cat.jpg"});
+  port.Script(MessageAnswer::No);
+  Run({{"a", "A"}});
+  EXPECT_EQ(port.Texts(), (QStringList{"The file 'cAt.jpg' already exists.\rOverwrite the existing file?  "
+                                       "The existing file will be lost!", kComplete}));
+  EXPECT_EQ(Folder(), (Files{{"bAnAnA.jpg", "banana.jpg"}, {"cat.jpg", "cat.jpg"}, {"cAt.jpg", "cAt.jpg"}}));
+}
+
+// A target that cannot be deleted asks whether to go on; a failed rename
+// stops the run. Either way the first message is the clash question.
+TEST_F(SearchReplaceRun, AFailureIsToldInTheWordsOfItsNumber) {
+  const QString goOn = "\rClick OK to continue renaming files or Cancel to cancel the file renaming operation.";
+  const QString stop =
+      "\rThe file being renamed is 'Read Only' or the source folder is Write Protected.\r\r"
+      "If you are accessing a memory card through a memory card reader/slot or\r"
+      "a cable connected from the camera to computer, examine memory card\r"
+      "to be sure the Write Protect (or Lock) switch is not enabled.\r\rFile renaming operation cancelled.";
+  const QString stopLine = "\nFile renaming operation was cancelled because the folder cannot be written to.";
+  using platform::MessageIcon;
+  struct Row { bool remove; int error; MessageAnswer answer; MessageIcon icon; QString text, results; };
+  const Row rows[] = {
+      {true, 75, MessageAnswer::Ok, MessageIcon::Warning,
+       "Could not overwrite the file.\rThe file or folder is 'Read Only' or Write Protected." + goOn,
+       kRenamed0 + "\nThe file 'IMG_1.jpg' was not renamed to 'Pic_1.jpg' because the new proposed filename "
+                   "already existed and could not be overwritten." + kRenamed2},
+      {true, 1028, MessageAnswer::Cancel, MessageIcon::Warning, "Could not overwrite the file.\rError #1028" + goOn,
+       kRenamed0 + "\nThe file renaming operation was cancelled."},
+      {false, 70, MessageAnswer::No, MessageIcon::Critical,
+       "Error renaming file.  ***Error Code 70 - Access Violation Error***" + stop, kRenamed0 + kNotRenamed1 + stopLine},
+      {false, 75, MessageAnswer::No, MessageIcon::Critical,
+       "Error renaming file.  ***Error Code 75 - File/Path Access Error***" + stop, kRenamed0 + kNotRenamed1 + stopLine},
+      {false, 1028, MessageAnswer::No, MessageIcon::Critical,
+       "Error renaming file.  ***Error Code1028 - Unexpected Error***" + stop, kRenamed0 + kNotRenamed1 + stopLine},
+  };
+  for (const Row& row : rows) {
+    MakeClash({row.remove ? MessageAnswer::Yes : row.answer});
+    if (row.remove) port.Script(row.answer);
+    if (row.remove) fs.FailRemove(Path("Pic_1.jpg"), row.error);
+    if (!row.remove) fs.FailRename(Path("IMG_2.jpg"), row.error);
+    Run({{"IMG", "Pic"}});
+    ASSERT_EQ(port.messages.size(), 3u);
+    EXPECT_EQ(port.messages[1].text, row.text);
+    EXPECT_EQ(port.messages[1].icon, row.icon);
+    EXPECT_EQ(search.results, QStringList{row.results});
+    EXPECT_EQ(Folder()["Pic_1.jpg"], "Pic_1.jpg");
+  }
+}
+
+TEST_F(SearchReplaceRun, NamesThatAreNotUtf8KeepTheirBytesAndASetMovesTogether) {
+  Make({"IMG_\xff" "1.CRW", "IMG_\xff" "1.THM"});
+  Select({"IMG_\xff" "1.CRW", "IMG_\xff" "1.THM"});
+  Run({{"IMG", "Pic"}});
+  EXPECT_EQ(Folder(), (Files{{"Pic_\xff" "1.CRW", "IMG_\xff" "1.CRW"}, {"Pic_\xff" "1.THM", "IMG_\xff" "1.THM"}}));
+  EXPECT_EQ(search.results.join("").count('\n'), 1);
+  Remake({});  // QTemporaryDir cannot remove names that are not UTF-8
+}
+
+}  // namespace
+}  // namespace renvale::test
