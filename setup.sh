@@ -35,6 +35,15 @@ build() {
   cmake --build "$dir"
 }
 
+# The program and the sample-folder maker only: someone who wants to see
+# Renvale should not wait for the tests to compile. Same folder and options
+# as the test build, so either mode reuses what the other built.
+build_program() {
+  local dir=$1; shift
+  cmake -S "$top" -B "$dir" -G Ninja "$@" >/dev/null
+  cmake --build "$dir" --target renvale make_sample_folder
+}
+
 # The fuzz targets and the seed makers only: nothing else needs clang's
 # instrumentation.
 build_fuzz_targets() {
@@ -56,7 +65,7 @@ mode=${1:-run}
 install_missing
 case "$mode" in
   run)
-    build build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DRENVALE_BENCH=OFF
+    build_program build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DRENVALE_BENCH=OFF
     rm -rf sample
     build/tools/make_sample_folder sample
     if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then

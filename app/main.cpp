@@ -9,11 +9,28 @@
 #include "shell/MainWindow.h"
 #include "shell/SilentQuickTips.h"
 
+namespace {
+
+// The one argument: a folder to open or a file to select, given by a file
+// manager's "Open With" or on the command line. Taken from argv as bytes,
+// because a file name need not be valid UTF-8; Qt has already removed its
+// own options (-platform and the like) by then.
+QByteArray StartPath(int argc, char** argv) {
+  if (argc < 2 || argv[1][0] == '\0') return {};
+  QByteArray path(argv[1]);
+  if (!path.startsWith('/')) path.prepend(renvale::platform::CurrentDirectory());
+  return path;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
   using namespace renvale;
   QApplication app(argc, argv);
   QApplication::setOrganizationName(QStringLiteral("MorventSoftware"));
   QApplication::setApplicationName(QStringLiteral("Renvale"));
+  // Docks and task bars match the window to its menu entry by this name.
+  QGuiApplication::setDesktopFileName(QString::fromLatin1(RENVALE_APP_ID));
 
   platform::QtSettingsStorage settings;
   platform::QtMessagePort messages;
@@ -23,7 +40,7 @@ int main(int argc, char** argv) {
                                      platform::CurrentDirectory};
   shell::MainWindow window(std::move(services));
   messages.SetParent(&window);
-  window.Start();
+  window.Start(StartPath(argc, argv));
   window.show();
   return app.exec();
 }

@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QScreen>
+#include <QStatusBar>
 #include <QWindow>
 #include <algorithm>
 
@@ -30,6 +31,7 @@
 #include "platform/ErrorNumbers.h"
 #include "platform/FileSystem.h"
 #include "platform/MessagePort.h"
+#include "platform/widgets/WindowSystem.h"
 #include "shell/BrowsePane.h"
 #include "shell/ButtonEditor.h"
 #include "shell/ComposeController.h"
@@ -42,6 +44,7 @@
 #include "shell/QuickTipOffer.h"
 #include "shell/SeriesLineEdit.h"
 #include "shell/ShellTexts.h"
+#include "shell/StartPath.h"
 #include "shell/ToolTipTable.h"
 #include "shell/ViewExifDialog.h"
 
@@ -93,7 +96,7 @@ MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
 
 MainWindow::~MainWindow() { qApp->removeEventFilter(this); }
 
-void MainWindow::Start() {
+void MainWindow::Start(const QByteArray& startPath) {
   const double dpi = LogicalDpi(this);
   const core::TwipRect design = core::DesignPlacement(ScreenTwips(this));
   setGeometry(core::TwipsToPixels(design.left, dpi), core::TwipsToPixels(design.top, dpi),
@@ -107,7 +110,10 @@ void MainWindow::Start() {
   baseSize_ = size();
   QApplication::processEvents();
   core::SettingsStore(services_.settings).LoadSettings(settings_);
+  startPath_ = startPath;
+  if (!startPath.isEmpty()) startPlace_ = ResolveStartPath(services_.fs, startPath);
   ApplyLoadedSettings();
+  FinishStartPath();
   Timer1.start();
 }
 
@@ -115,9 +121,7 @@ void MainWindow::ApplyLoadedSettings() {
   ApplyBrowseMode(settings_.browseMode);
   ApplyPlacement();
   ApplyFileFilter(settings_.fileFilter);
-  const QByteArray remembered = platform::FileName::TextToName(settings_.lastFolder);
-  ChangeFolder(remembered.isEmpty() ? services_.startFolder()
-                                    : NearestExistingFolder(services_.fs, remembered));
+  ChangeFolder(StartFolder());
   ApplyBrowseMode(settings_.browseMode);
   for (size_t n = 0; n < ui_.Command1.size(); ++n) ui_.Command1[n]->setText(settings_.customCaptions[n]);
   ApplyToolTips(settings_.toolTips);
@@ -134,8 +138,32 @@ void MainWindow::ApplyPlacement() {
   const core::StoredPlacement stored{settings_.windowTop, settings_.windowLeft, settings_.windowHeight,
                                      settings_.windowWidth};
   const core::TwipRect placed = core::ApplyStoredPlacement(stored, current, ScreenTwips(this));
-  move(core::TwipsToPixels(placed.left, dpi), core::TwipsToPixels(placed.top, dpi));
+  if (platform::WindowPositionIsHonoured()) {
+    move(core::TwipsToPixels(placed.left, dpi), core::TwipsToPixels(placed.top, dpi));
+  }
   resize(core::TwipsToPixels(placed.width, dpi), core::TwipsToPixels(placed.height, dpi));
+}
+
+// The one argument wins over "Last Folder" without changing it; "Last
+// Folder" is saved at the end as usual.
+QByteArray MainWindow::StartFolder() {
+  if (!startPlace_.folder.isEmpty()) return startPlace_.folder;
+  const QByteArray remembered = platform::FileName::TextToName(settings_.lastFolder);
+  return remembered.isEmpty() ? services_.startFolder() : NearestExistingFolder(services_.fs, remembered);
+}
+
+// An argument that cannot be opened is told in the status line: a dialog
+// before the window is even up would only be in the way.
+void MainWindow::FinishStartPath() {
+  if (!startPath_.isEmpty() && startPlace_.folder.isEmpty()) {
+    statusBar()->showMessage(texts::StartPathUnaccessable(platform::FileName{startPath_}.Display()));
+  }
+  for (int row = 0; row < files_->Count() && !startPlace_.file.isEmpty(); ++row) {
+    if (files_->FileAt(row).raw != startPlace_.file) continue;
+    ui_.File1->selectionModel()->setCurrentIndex(files_->index(row), QItemSelectionModel::ClearAndSelect);
+    ui_.File1->scrollTo(files_->index(row));
+    break;
+  }
 }
 
 void MainWindow::ConnectSignals() {
@@ -244,6 +272,7 @@ void MainWindow::FillDriveList() {
 }
 
 void MainWindow::ChangeFolder(const QByteArray& folder) {
+  if (QStatusBar* bar = findChild<QStatusBar*>(QString(), Qt::FindDirectChildrenOnly)) bar->clearMessage();
   session_.CurrentFolder = WithTrailingSlash(folder);
   ShowFolderInPanes();
   RefreshFileList();
@@ -436,8 +465,10 @@ void MainWindow::GatherSettings() {
   const core::StoredPlacement placement = core::PlacementTexts(
       {core::PixelsToTwips(x(), dpi), core::PixelsToTwips(y(), dpi), core::PixelsToTwips(width(), dpi),
        core::PixelsToTwips(height(), dpi)});
-  settings_.windowTop = placement.top;
-  settings_.windowLeft = placement.left;
+  if (platform::WindowPositionIsHonoured()) {
+    settings_.windowTop = placement.top;
+    settings_.windowLeft = placement.left;
+  }
   settings_.windowHeight = placement.height;
   settings_.windowWidth = placement.width;
   settings_.lastFolder = platform::FileName::NameToText(session_.CurrentFolder);

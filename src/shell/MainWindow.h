@@ -11,6 +11,7 @@
 #include "platform/MountList.h"
 #include "shell/MainWindowRenameView.h"
 #include "shell/MainWindowUi.h"
+#include "shell/StartPath.h"
 
 namespace renvale::platform {
 class FileSystem;
@@ -45,7 +46,9 @@ class MainWindow : public QMainWindow {
   ~MainWindow() override;
 
   // The start-up steps after the window exists: placement, settings, folder.
-  void Start();
+  // `startPath` is the one argument the program takes: an absolute path of
+  // a folder to open instead of the last one, or of a file to select there.
+  void Start(const QByteArray& startPath = {});
 
   core::RenameSession& Session() { return session_; }
   core::SettingsRecord& Settings() { return settings_; }
@@ -77,6 +80,8 @@ class MainWindow : public QMainWindow {
   void ConnectSignals();
   void ApplyLoadedSettings();
   void ApplyPlacement();
+  void FinishStartPath();
+  QByteArray StartFolder();
   void GatherSettings();
   void OnSelectionChanged();
   const platform::FileName* CurrentSelectedFile(int selectedCount) const;
@@ -96,6 +101,8 @@ class MainWindow : public QMainWindow {
   void ScaleFonts();
 
   MainWindowServices services_;
+  QByteArray startPath_;
+  StartPlace startPlace_;
   core::RenameSession session_;
   core::SettingsRecord settings_;
   MainWindowUi ui_;

@@ -16,6 +16,11 @@ inline const QString kDriveUnaccessableText =
                    "If it uses removable media, please be sure it is inserted and ready.\n"
                    "If this is a network drive, be sure you have permission to access it and "
                    "that the computer is turned on.");
+// A folder or file given at start that cannot be opened: told without a
+// dialog, in the folder pane's words for a place it cannot read.
+inline QString StartPathUnaccessable(const QString& path) {
+  return kDriveUnaccessableTitle + QStringLiteral(": ") + path;
+}
 inline const QString kInvalidFolderChosen =
     QStringLiteral("An invalid folder was chosen.  Please choose an actual folder.");
 inline const QString kOnlyDrivesOrFolders = QStringLiteral("Only DRIVES or FOLDERS can be dropped here!");
