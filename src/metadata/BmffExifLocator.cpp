@@ -4,20 +4,16 @@ namespace renvale::metadata {
 
 namespace {
 
-constexpr quint32 FourCc(const char (&text)[5]) {
-  return quint32(quint8(text[0])) << 24 | quint32(quint8(text[1])) << 16 | quint32(quint8(text[2])) << 8 |
-         quint32(quint8(text[3]));
-}
 
-constexpr quint32 kMoov = FourCc("moov");
-constexpr quint32 kMeta = FourCc("meta");
-constexpr quint32 kUuid = FourCc("uuid");
-constexpr quint32 kIinf = FourCc("iinf");
-constexpr quint32 kIloc = FourCc("iloc");
-constexpr quint32 kInfe = FourCc("infe");
-constexpr quint32 kExif = FourCc("Exif");
-constexpr quint32 kCmt1 = FourCc("CMT1");
-constexpr quint32 kCmt2 = FourCc("CMT2");
+constexpr quint32 kMoov = BmffExifLocator::FourCc("moov");
+constexpr quint32 kMeta = BmffExifLocator::FourCc("meta");
+constexpr quint32 kUuid = BmffExifLocator::FourCc("uuid");
+constexpr quint32 kIinf = BmffExifLocator::FourCc("iinf");
+constexpr quint32 kIloc = BmffExifLocator::FourCc("iloc");
+constexpr quint32 kInfe = BmffExifLocator::FourCc("infe");
+constexpr quint32 kExif = BmffExifLocator::FourCc("Exif");
+constexpr quint32 kCmt1 = BmffExifLocator::FourCc("CMT1");
+constexpr quint32 kCmt2 = BmffExifLocator::FourCc("CMT2");
 constexpr qint64 kFullBoxHeader = 4;  // version and flags
 constexpr char kCanonUuid[] = "\x85\xC0\xB6\x87\x82\x0F\x11\xE0\x81\x11\xF4\xCE\x46\x2B\x6A\x48";
 

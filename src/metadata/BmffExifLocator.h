@@ -27,6 +27,11 @@ class BmffExifLocator {
     qint64 next = 0;     // start of the following box
   };
   static bool ReadBox(ByteReader& reader, qint64 pos, Box* box);
+  // A box type as the number ReadBox gives, from its four letters.
+  static constexpr quint32 FourCc(const char (&text)[5]) {
+    return quint32(quint8(text[0])) << 24 | quint32(quint8(text[1])) << 16 | quint32(quint8(text[2])) << 8 |
+           quint32(quint8(text[3]));
+  }
   // The first box of `type` among the first kMaxBoxes on the reader's level.
   static bool FindBox(ByteReader& reader, quint32 type, Box* box);
 

@@ -7,19 +7,15 @@
 namespace renvale::metadata {
 namespace {
 
-constexpr quint32 FourCc(const char (&text)[5]) {
-  return quint32(quint8(text[0])) << 24 | quint32(quint8(text[1])) << 16 | quint32(quint8(text[2])) << 8 |
-         quint32(quint8(text[3]));
-}
 
-constexpr quint32 kMoov = FourCc("moov");
-constexpr quint32 kMvhd = FourCc("mvhd");
-constexpr quint32 kMeta = FourCc("meta");
-constexpr quint32 kUdta = FourCc("udta");
-constexpr quint32 kHdlr = FourCc("hdlr");
-constexpr quint32 kKeys = FourCc("keys");
-constexpr quint32 kIlst = FourCc("ilst");
-constexpr quint32 kData = FourCc("data");
+constexpr quint32 kMoov = BmffExifLocator::FourCc("moov");
+constexpr quint32 kMvhd = BmffExifLocator::FourCc("mvhd");
+constexpr quint32 kMeta = BmffExifLocator::FourCc("meta");
+constexpr quint32 kUdta = BmffExifLocator::FourCc("udta");
+constexpr quint32 kHdlr = BmffExifLocator::FourCc("hdlr");
+constexpr quint32 kKeys = BmffExifLocator::FourCc("keys");
+constexpr quint32 kIlst = BmffExifLocator::FourCc("ilst");
+constexpr quint32 kData = BmffExifLocator::FourCc("data");
 constexpr qint64 kFullBoxHeader = 4;  // version and flags
 constexpr qint64 kKeyEntryHeader = 8;  // size and namespace
 constexpr qint64 kDataHeader = 8;      // type and locale
