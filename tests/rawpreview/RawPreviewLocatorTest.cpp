@@ -1,0 +1,216 @@
+// The embedded-preview locator on RAW-shaped files with real JPEGs inside,
+// on the CR3 a camera wrote, and on hostile bytes.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <functional>
+
+#include "metadata/MemoryByteSource.h"
+#include "metadata/RawPreviewLocator.h"
+#include "support/SampleImages.h"
+#include "support/SampleRawFiles.h"
+
+namespace renvale::test {
+namespace {
+
+using metadata::EmbeddedJpeg;
+using metadata::RawPreviewLocator;
+
+QByteArray U16(quint16 v, bool be) {
+  const char bytes[2] = {char(be ? v >> 8 : v), char(be ? v : v >> 8)};
+  return QByteArray(bytes, 2);
+}
+QByteArray U32(quint32 v, bool be) { return be ? U16(quint16(v >> 16), be) + U16(quint16(v), be) : U16(quint16(v), be) + U16(quint16(v >> 16), be); }
+
+struct Tag {
+  quint16 tag, type;
+  quint32 count, value;
+};
+
+// A file grown piece by piece; every piece starts on an even offset.
+struct Layout {
+  bool be = false;
+  QByteArray bytes;
+  quint32 Add(const QByteArray& piece) {
+    if (bytes.size() % 2 != 0) bytes += '\0';
+    const quint32 at = quint32(bytes.size());
+    bytes += piece;
+    return at;
+  }
+  quint32 Ifd(const std::vector<Tag>& tags, quint32 next = 0) {
+    QByteArray ifd = U16(quint16(tags.size()), be);
+    for (const Tag& t : tags) {
+      ifd += U16(t.tag, be) + U16(t.type, be) + U32(t.count, be);
+      ifd += t.type == 3 ? U16(quint16(t.value), be) + U16(0, be) : U32(t.value, be);
+    }
+    return Add(ifd + U32(next, be));
+  }
+  void FirstIfd(quint32 at) { bytes.replace(4, 4, U32(at, be)); }
+};
+
+Layout Tiff(bool be, const char* magic = nullptr) {
+  Layout file{be, be ? QByteArray("MM\0*", 4) : QByteArray("II*\0", 4)};
+  if (magic != nullptr) file.bytes = QByteArray(magic, 4);
+  file.bytes += U32(0, be);
+  return file;
+}
+
+const QByteArray& Small() {
+  static const QByteArray jpeg = MakeExifJpeg(nullptr, 160, 120);
+  return jpeg;
+}
+const QByteArray& Large() {
+  static const QByteArray jpeg = MakeExifJpeg(nullptr, 640, 480);
+  return jpeg;
+}
+// The head of a lossless JPEG (SOF3) as CR2 and DNG keep their sensor data
+// in: larger than any preview, yet no picture Qt can show.
+QByteArray Lossless() {
+  return QByteArray("\xFF\xD8\xFF\xC3\x00\x0B\x0C\x0F\xA0\x17\x70\x01\x01\x11\x00", 15) + QByteArray(64, '\x55');
+}
+
+bool Locate(const QByteArray& bytes, EmbeddedJpeg* found) {
+  metadata::MemoryByteSource source(bytes.constData(), bytes.size());
+  return RawPreviewLocator::Locate(source, found);
+}
+
+// NEF/DNG: a thumbnail in IFD0, previews and raw data in sub-IFDs.
+QByteArray NefShaped(bool be, quint32* largeAt) {
+  Layout f = Tiff(be);
+  const quint32 small = f.Add(Small()), large = f.Add(Large()), raw = f.Add(Lossless());
+  const quint32 sub1 = f.Ifd({{0x0103, 3, 1, 7}, {0x0111, 4, 1, raw}, {0x0117, 4, 1, quint32(Lossless().size())}});
+  const quint32 sub2 = f.Ifd({{0x0201, 4, 1, large}, {0x0202, 4, 1, quint32(Large().size())}});
+  const quint32 list = f.Add(U32(sub1, be) + U32(sub2, be));
+  f.FirstIfd(f.Ifd({{0x014A, 4, 2, list}, {0x0201, 4, 1, small}, {0x0202, 4, 1, quint32(Small().size())}}));
+  *largeAt = large;
+  return f.bytes;
+}
+
+// CR2: the preview as IFD0's single JPEG strip, a thumbnail in IFD1, the
+// raw data in IFD3, all on the chain of next-directory offsets.
+QByteArray Cr2Shaped(bool be, quint32* largeAt) {
+  Layout f = Tiff(be);
+  const quint32 large = f.Add(Large()), small = f.Add(Small()), raw = f.Add(Lossless());
+  const quint32 ifd3 = f.Ifd({{0x0103, 3, 1, 6}, {0x0111, 4, 1, raw}, {0x0117, 4, 1, quint32(Lossless().size())}});
+  const quint32 ifd1 = f.Ifd({{0x0201, 4, 1, small}, {0x0202, 4, 1, quint32(Small().size())}}, ifd3);
+  f.FirstIfd(f.Ifd({{0x0103, 3, 1, 6}, {0x0111, 4, 1, large}, {0x0117, 4, 1, quint32(Large().size())}}, ifd1));
+  *largeAt = large;
+  return f.bytes;
+}
+
+// RW2: Panasonic's own tag 0x2E holds the whole JPEG as UNDEFINED bytes.
+QByteArray Rw2Shaped(bool, quint32* largeAt) {
+  Layout f = Tiff(false, "IIU\0");
+  const quint32 small = f.Add(Small()), large = f.Add(Large());
+  f.FirstIfd(f.Ifd({{0x002E, 7, quint32(Large().size()), large}}, f.Ifd({{0x0201, 4, 1, small}, {0x0202, 4, 1, quint32(Small().size())}})));
+  *largeAt = large;
+  return f.bytes;
+}
+
+// CRW: the JPEG lies in a sub-heap of the root heap.
+QByteArray CrwShaped(bool, quint32* largeAt) {
+  const qint64 headerLength = 26;
+  QByteArray file = QByteArray("II", 2) + U32(headerLength, false) + "HEAPCCDR" + U16(1, false) + U16(2, false);
+  file += QByteArray(int(headerLength - file.size()), '\0');
+  const QByteArray sub = Large() + U16(1, false) + U16(0x2007, false) + U32(quint32(Large().size()), false) +
+                         U32(0, false) + U32(quint32(Large().size()), false);
+  file += sub;
+  file += U16(1, false) + U16(0x300A, false) + U32(quint32(sub.size()), false) + U32(0, false) +
+          U32(quint32(sub.size()), false);
+  *largeAt = quint32(headerLength);
+  return file;
+}
+
+QByteArray RafShaped(bool, quint32* largeAt) {
+  const QByteArray file = MakeRafFile(Large());
+  *largeAt = quint32(file.indexOf(Large()));
+  return file;
+}
+
+QByteArray X3fShaped(bool, quint32* largeAt) {
+  const QByteArray file = MakeX3fFile(Large());
+  *largeAt = quint32(file.indexOf(Large()));
+  return file;
+}
+
+TEST(RawPreviewLocator, FindsTheLargestDecodablePreviewInEachContainer) {
+  const struct {
+    const char* name;
+    std::function<QByteArray(bool, quint32*)> make;
+    bool bigEndian;
+  } cases[] = {
+      {"NEF/DNG sub-IFDs, little-endian", NefShaped, false}, {"NEF/DNG sub-IFDs, big-endian", NefShaped, true},
+      {"CR2 directory chain, little-endian", Cr2Shaped, false}, {"CR2 directory chain, big-endian", Cr2Shaped, true},
+      {"RW2 JpgFromRaw", Rw2Shaped, false}, {"CRW sub-heap", CrwShaped, false},
+      {"RAF header", RafShaped, true}, {"X3F section", X3fShaped, false},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    quint32 largeAt = 0;
+    const QByteArray file = c.make(c.bigEndian, &largeAt);
+    EmbeddedJpeg found;
+    ASSERT_TRUE(Locate(file, &found));
+    EXPECT_EQ(found.offset, largeAt);
+    EXPECT_EQ(found.length, Large().size());
+    EXPECT_EQ(found.width, 640);
+    EXPECT_EQ(found.height, 480);
+  }
+}
+
+TEST(RawPreviewLocator, RefusesPreviewsThatLeaveTheFileOrLoop) {
+  // A JPEG length reaching past the end is a damaged file, not a preview.
+  Layout f = Tiff(false);
+  const quint32 jpeg = 8 + 2 + 2 * 12 + 4;  // right after the one directory, at the file's end
+  f.FirstIfd(f.Ifd({{0x0201, 4, 1, jpeg}, {0x0202, 4, 1, quint32(Large().size() + 1)}}));
+  f.Add(Large());
+  EmbeddedJpeg found;
+  EXPECT_FALSE(Locate(f.bytes, &found));
+
+  // An IFD that is its own next directory and its own sub-IFD ends.
+  Layout loop = Tiff(false);
+  const quint32 at = quint32(loop.bytes.size());
+  loop.FirstIfd(loop.Ifd({{0x014A, 4, 1, at}}, at));
+  EXPECT_FALSE(Locate(loop.bytes, &found));
+}
+
+TEST(RawPreviewLocator, FindsTheCanonPreviewOfARealCr3) {
+  QFile file(QString::fromLocal8Bit(qgetenv("RENVALE_TESTDATA")) + "/preview/exiv2__Canon-R6-pruned.CR3");
+  if (!file.open(QIODevice::ReadOnly)) GTEST_SKIP() << "no test data";
+  const QByteArray bytes = file.readAll();
+  EmbeddedJpeg found;
+  ASSERT_TRUE(Locate(bytes, &found));
+  EXPECT_EQ(found.width, 1620);
+  EXPECT_EQ(found.height, 1080);
+  // ExifTool counts the box's six padding bytes into the 389456.
+  EXPECT_EQ(found.length, 389450);
+  EXPECT_EQ(bytes.mid(found.offset + found.length - 2, 2), QByteArray("\xFF\xD9"));
+}
+
+// Every camera file and every hostile file: the locator ends and whatever
+// it offers lies inside the file and starts like a JPEG.
+TEST(RawPreviewLocator, EndsOnEveryTestFileAndEveryCut) {
+  const QString root = QString::fromLocal8Bit(qgetenv("RENVALE_TESTDATA"));
+  if (root.isEmpty()) GTEST_SKIP() << "no test data";
+  int files = 0;
+  for (const char* folder : {"malformed", "camera", "preview"}) {
+    for (const QFileInfo& info : QDir(root + '/' + folder).entryInfoList(QDir::Files)) {
+      QFile file(info.filePath());
+      ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+      const QByteArray bytes = file.read(8 << 20);
+      for (const qsizetype size : {bytes.size(), bytes.size() / 2, qsizetype(300)}) {
+        const QByteArray cut = bytes.left(size);
+        EmbeddedJpeg found;
+        if (!Locate(cut, &found)) continue;
+        EXPECT_LE(found.offset + found.length, cut.size()) << info.fileName().toStdString();
+        EXPECT_EQ(cut.mid(found.offset, 2), QByteArray("\xFF\xD8")) << info.fileName().toStdString();
+      }
+      ++files;
+    }
+  }
+  EXPECT_GT(files, 8);
+}
+
+}  // namespace
+}  // namespace renvale::test
