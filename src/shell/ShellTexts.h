@@ -41,4 +41,18 @@ inline QString FilesInFolderLabel(int count) {
   return core::texts::kFilesInFolderPrefix + QString::number(count) + core::texts::kFilesInFolderSuffix;
 }
 
+// The preview area.
+inline const QString kLoadingImage = QStringLiteral("(Loading Image...)");
+inline const QString kPreviewUnavailable = QStringLiteral("(Preview Unavailable)");
+inline const QString kNoFileSelectedToPreview = QStringLiteral("No file is selected!");
+inline const QString kNoExternalApplication =
+    QStringLiteral("Unable to preview file externally.\n"
+                   "This computer does not appear to have an application associated with this type of file.");
+
+// "IMG_0001.JPG  -  1600w X 1200h": the picture's own size, before any turn.
+inline QString PictureCaption(const QString& name, int width, int height) {
+  return name + QStringLiteral("  -  ") + QString::number(width) + QStringLiteral("w X ") + QString::number(height) +
+         QStringLiteral("h");
+}
+
 }  // namespace renvale::shell::texts
