@@ -39,6 +39,7 @@
 #include "shell/ManTempDialog.h"
 #include "shell/SandR.h"
 #include "shell/MetadataTokenSource.h"
+#include "shell/PreviewPane.h"
 #include "shell/FileListModel.h"
 #include "shell/FolderBrowsing.h"
 #include "shell/QuickTipOffer.h"
@@ -83,6 +84,7 @@ MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
   ui_.Setup(this);
   files_ = new FileListModel(this);
   ui_.File1->setModel(files_);
+  preview_ = new PreviewPane(ui_, session_, settings_, services_.fs, services_.messages, this);
   SetupOneShot(FNDelay, "FNDelay");
   SetupOneShot(SerDelay, "SerDelay");
   SetupOneShot(Timer1, "Timer1");
@@ -234,10 +236,9 @@ void MainWindow::ConnectRenameButtons() {
 // Controls whose features are not built yet stay visible but unusable.
 void MainWindow::DisableLaterFeatures() {
   QWidget* const widgets[] = {
-      ui_.Command13, ui_.Command12, ui_.ShPrev, ui_.UnSupported};
+      ui_.Command13, ui_.Command12};
   for (QWidget* widget : widgets) widget->setEnabled(false);
-  for (QAction* action : {ui_.optionsAction, ui_.MapNet, ui_.UnMap,
-                          ui_.RotIP}) {
+  for (QAction* action : {ui_.optionsAction, ui_.MapNet, ui_.UnMap}) {
     action->setEnabled(false);
   }
   for (QAction* action : ui_.HelpMen) action->setEnabled(false);
@@ -310,6 +311,13 @@ void MainWindow::OnSelectionChanged() {
   }
   ui_.selectionLabel->setText(view.selectionLabel);
   ui_.previewCaption->setText(view.previewCaption);
+  if (view.mode == core::WindowMode::Individual) {
+    if (settings_.autoPreview) {
+      preview_->ShowPreview(session_.SelectedFileName);
+    } else {
+      preview_->ReleasePreview();
+    }
+  }
   ui_.fileCountLabel->setText(texts::FilesInFolderLabel(files_->Count()));
 }
 
@@ -351,7 +359,7 @@ bool MainWindow::FileIsSelected() const { return ui_.File1->selectionModel()->ha
 
 void MainWindow::OnDriveChosen(int index) {
   if (index < 0 || static_cast<size_t>(index) >= drives_.size()) return;
-  session_.PreviewedPath.clear();
+  preview_->ReleasePreview();
   std::vector<QByteArray> probe;
   if (services_.fs.ListFolders(drives_[static_cast<size_t>(index)].path, &probe) != platform::kNoError) {
     services_.messages.Notify(texts::kDriveUnaccessableText, platform::MessageIcon::Warning,
@@ -363,7 +371,7 @@ void MainWindow::OnDriveChosen(int index) {
 }
 
 void MainWindow::OnFolderOpened(const QByteArray& folder) {
-  session_.PreviewedPath.clear();
+  preview_->ReleasePreview();
   ui_.selectionLabel->setText(texts::kNoFileSelected);
   ChangeFolder(folder);
 }

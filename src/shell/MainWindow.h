@@ -22,6 +22,7 @@ class SettingsStorage;
 namespace renvale::shell {
 
 class FileListModel;
+class PreviewPane;
 class QuickTipOffer;
 
 // What the main window needs from the world; tests pass fakes.
@@ -54,6 +55,7 @@ class MainWindow : public QMainWindow {
   core::SettingsRecord& Settings() { return settings_; }
   MainWindowUi& Ui() { return ui_; }
   FileListModel& Files() { return *files_; }
+  PreviewPane& Preview() { return *preview_; }
   QuickTipOffer& Tips() { return services_.tips; }
 
   void ApplyBrowseMode(int mode);
@@ -107,6 +109,7 @@ class MainWindow : public QMainWindow {
   core::SettingsRecord settings_;
   MainWindowUi ui_;
   FileListModel* files_ = nullptr;
+  PreviewPane* preview_ = nullptr;
   MainWindowRenameView renameView_;
   std::vector<platform::Volume> drives_;
   QTimer FNDelay;

@@ -12,6 +12,7 @@
 #include "shell/BrowsePane.h"
 #include "shell/FileListModel.h"
 #include "shell/MainWindow.h"
+#include "shell/PreviewPane.h"
 #include "shell/QuickTipOffer.h"
 
 namespace renvale::shell {
@@ -79,14 +80,11 @@ void MainWindowRenameView::LeaveBatchMode() { window_.SetBatchMode(false); }
 void MainWindowRenameView::SetSelectionLabel(const QString& text) { window_.Ui().selectionLabel->setText(text); }
 
 void MainWindowRenameView::ResetPreview(const QString& caption) {
-  window_.Session().PreviewedPath.clear();
-  window_.Ui().Gvbox1->clear();
+  window_.Preview().ReleasePreview();
   window_.Ui().previewCaption->setText(caption);
 }
 
-void MainWindowRenameView::PreviewSelected() {
-  window_.Ui().previewCaption->setText(window_.Session().SelectedFileName.Display());
-}
+void MainWindowRenameView::PreviewSelected() { window_.Preview().ShowPreview(); }
 
 // While a batch runs the list and the folder panes take no clicks.
 void MainWindowRenameView::ShowProgress(bool visible) {

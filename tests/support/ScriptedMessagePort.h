@@ -14,7 +14,7 @@ namespace renvale::test {
 class ScriptedMessagePort : public platform::MessagePort {
  public:
   platform::MessageAnswer Show(const platform::Message& message) override;
-  void Beep() override {}
+  void Beep() override { ++beeps; }
 
   void Script(platform::MessageAnswer answer) { answers_.push_back(answer); }
   QStringList Texts() const;
@@ -22,6 +22,7 @@ class ScriptedMessagePort : public platform::MessagePort {
   void Clear() { messages.clear(); answers_.clear(); }
 
   std::vector<platform::Message> messages;
+  int beeps = 0;
   // Called with each message before it is answered, to look at the window then.
   std::function<void()> onShow;
 
