@@ -30,12 +30,13 @@ constexpr qint64 kMaxEmbeddedJpeg = 64LL << 20;
 
 }  // namespace
 
-QSize PreviewDecoder::DecodeSize(const QSize& picture, const QSize& area, PreviewTurn turn) {
+QSize PreviewDecoder::DecodeSize(const QSize& picture, const QSize& area, PreviewTurn turn, bool fill) {
   if (!picture.isValid() || picture.isEmpty()) return {};
   QSize room = area.expandedTo(QSize(1, 1));
   if (QuarterTurn(turn)) room.transpose();
-  if (picture.width() <= room.width() && picture.height() <= room.height()) return picture;
-  return picture.scaled(room, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+  const QSize scaled = picture.scaled(room, fill ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio);
+  if (scaled.width() >= picture.width() || scaled.height() >= picture.height()) return picture;
+  return scaled.expandedTo(QSize(1, 1));
 }
 
 QImage PreviewDecoder::Turned(const QImage& image, PreviewTurn turn) {
@@ -48,15 +49,17 @@ QImage PreviewDecoder::Turned(const QImage& image, PreviewTurn turn) {
   return image;
 }
 
-DecodedPreview PreviewDecoder::Decode(platform::FileSystem& fs, const QByteArray& path, const QSize& area) {
+DecodedPreview PreviewDecoder::Decode(platform::FileSystem& fs, const QByteArray& path, const QSize& area,
+                                      bool fill) {
   DecodedPreview result;
   metadata::ExifReader exif;
   if (metadata::LoadExifQuietly(exif, fs, path, &result.exifError)) {
     result.turn = metadata::PreviewTurnForOrientation(exif.Tag(metadata::texts::kTagOrientation));
   }
+  const Target target{area, fill, result.turn};
   const QString name = platform::FileName{platform::BaseName(path)}.Display();
   if (IsRawPictureName(name)) {
-    result.image = DecodeRaw(fs, path, area, result.turn, &result.ownSize);
+    result.image = DecodeRaw(fs, path, target, &result.ownSize);
     // The caption names the RAW's own size where its EXIF states one.
     const QSize stated(exif.Tag(metadata::texts::kTagWidth).toInt(), exif.Tag(metadata::texts::kTagLength).toInt());
     if (!stated.isEmpty()) result.ownSize = stated;
@@ -65,26 +68,26 @@ DecodedPreview PreviewDecoder::Decode(platform::FileSystem& fs, const QByteArray
   std::unique_ptr<platform::ReadableFile> file;
   if (fs.OpenForRead(path, &file) != 0) return result;
   platform::ReadableFileDevice device(std::move(file));
-  result.image = DecodeDevice(device, area, result.turn, &result.ownSize);
+  result.image = DecodeDevice(device, target, &result.ownSize);
   return result;
 }
 
-QImage PreviewDecoder::DecodeDevice(QIODevice& device, const QSize& area, PreviewTurn turn, QSize* ownSize) {
+QImage PreviewDecoder::DecodeDevice(QIODevice& device, const Target& target, QSize* ownSize) {
   QImageReader reader(&device);
   reader.setAutoTransform(false);  // the EXIF rule below turns it, and only it
   *ownSize = reader.size();
   // Asking for the scaled size is what keeps a 45-megapixel JPEG within
   // the reader's allocation limit and the decode short.
-  const QSize scaled = DecodeSize(*ownSize, area, turn);
+  const QSize scaled = DecodeSize(*ownSize, target.area, target.turn, target.fill);
   if (scaled.isValid() && scaled != *ownSize) reader.setScaledSize(scaled);
   const QImage image = reader.read();
   if (image.isNull()) return {};
   if (!ownSize->isValid()) *ownSize = image.size();
-  return Turned(image, turn);
+  return Turned(image, target.turn);
 }
 
-QImage PreviewDecoder::DecodeRaw(platform::FileSystem& fs, const QByteArray& path, const QSize& area,
-                                 PreviewTurn turn, QSize* ownSize) {
+QImage PreviewDecoder::DecodeRaw(platform::FileSystem& fs, const QByteArray& path, const Target& target,
+                                 QSize* ownSize) {
   std::unique_ptr<platform::ReadableFile> file;
   if (fs.OpenForRead(path, &file) != 0) return {};
   metadata::EmbeddedJpeg jpeg;
@@ -101,11 +104,11 @@ QImage PreviewDecoder::DecodeRaw(platform::FileSystem& fs, const QByteArray& pat
     const QByteArray thm = ThumbnailPartner(fs, path);
     if (thm.isEmpty() || fs.OpenForRead(thm, &file) != 0) return {};
     platform::ReadableFileDevice device(std::move(file));
-    return DecodeDevice(device, area, turn, ownSize);
+    return DecodeDevice(device, target, ownSize);
   }
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::ReadOnly);
-  return DecodeDevice(buffer, area, turn, ownSize);
+  return DecodeDevice(buffer, target, ownSize);
 }
 
 // Canon's CRW keeps its viewable picture in the THM file of the same name.

@@ -28,18 +28,26 @@ struct DecodedPreview {
 // Safe on any thread when the file system reads from any thread.
 class PreviewDecoder {
  public:
-  static DecodedPreview Decode(platform::FileSystem& fs, const QByteArray& path, const QSize& area);
+  // `fill` when the picture will be stretched over the whole area rather
+  // than fitted into it.
+  static DecodedPreview Decode(platform::FileSystem& fs, const QByteArray& path, const QSize& area, bool fill);
 
   // The size to ask the decoder for: the picture fitted into `area` (with
-  // width and height swapped when a quarter turn follows), never larger
-  // than the picture itself.
-  static QSize DecodeSize(const QSize& picture, const QSize& area, metadata::PreviewTurn turn);
+  // width and height swapped when a quarter turn follows), or covering it
+  // when `fill`, so that stretching never enlarges a picture decoded too
+  // small; never larger than the picture itself.
+  static QSize DecodeSize(const QSize& picture, const QSize& area, metadata::PreviewTurn turn, bool fill);
   static QImage Turned(const QImage& image, metadata::PreviewTurn turn);
 
  private:
-  static QImage DecodeDevice(QIODevice& device, const QSize& area, metadata::PreviewTurn turn, QSize* ownSize);
-  static QImage DecodeRaw(platform::FileSystem& fs, const QByteArray& path, const QSize& area,
-                          metadata::PreviewTurn turn, QSize* ownSize);
+  struct Target {
+    QSize area;
+    bool fill;
+    metadata::PreviewTurn turn;
+  };
+
+  static QImage DecodeDevice(QIODevice& device, const Target& target, QSize* ownSize);
+  static QImage DecodeRaw(platform::FileSystem& fs, const QByteArray& path, const Target& target, QSize* ownSize);
   static QByteArray ThumbnailPartner(platform::FileSystem& fs, const QByteArray& path);
 };
 

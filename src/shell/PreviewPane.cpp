@@ -54,7 +54,7 @@ void PreviewPane::ShowPreview(const platform::FileName& name) {
   currentName_ = display;
   ui_.previewCaption->setText(texts::kLoadingImage);
   const QSize area = ui_.Gvbox1->size() * ui_.Gvbox1->devicePixelRatioF();
-  Post({currentId_, session_.PreviewedPath, area});
+  Post({currentId_, session_.PreviewedPath, area, settings_.previewStyle != 1});
 }
 
 void PreviewPane::ReleasePreview() {
@@ -120,7 +120,7 @@ bool PreviewPane::eventFilter(QObject* watched, QEvent* event) {
 // when it is not already working through requests.
 void PreviewPane::Post(const Request& request) {
   if (!fs_.ReadableFromAnyThread()) {
-    TakeDecoded(request.id, PreviewDecoder::Decode(fs_, request.path, request.area));
+    TakeDecoded(request.id, PreviewDecoder::Decode(fs_, request.path, request.area, request.fill));
     return;
   }
   std::lock_guard lock(mutex_);
@@ -142,7 +142,7 @@ void PreviewPane::WorkOnPending() {
       request = *pending_;
       pending_.reset();
     }
-    const DecodedPreview decoded = PreviewDecoder::Decode(fs_, request.path, request.area);
+    const DecodedPreview decoded = PreviewDecoder::Decode(fs_, request.path, request.area, request.fill);
     QMetaObject::invokeMethod(
         this, [this, id = request.id, decoded] { TakeDecoded(id, decoded); }, Qt::QueuedConnection);
   }

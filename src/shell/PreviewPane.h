@@ -65,6 +65,7 @@ class PreviewPane : public QObject {
     quint64 id = 0;
     QByteArray path;
     QSize area;
+    bool fill = false;
   };
 
   void Post(const Request& request);

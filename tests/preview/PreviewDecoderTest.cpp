@@ -48,7 +48,7 @@ class PreviewDecoderTest : public ::testing::Test {
     return path.toUtf8();
   }
   shell::DecodedPreview Decode(const char* name, const QByteArray& bytes, QSize area = {400, 400}) {
-    return PreviewDecoder::Decode(platform::RealFileSystem(), Put(name, bytes), area);
+    return PreviewDecoder::Decode(platform::RealFileSystem(), Put(name, bytes), area, false);
   }
   QTemporaryDir dir;
 };
@@ -78,9 +78,13 @@ TEST_F(PreviewDecoderTest, TurnsByTheOrientation) {
 }
 
 TEST_F(PreviewDecoderTest, DecodesNoLargerThanTheAreaNeeds) {
-  EXPECT_EQ(PreviewDecoder::DecodeSize({6000, 4000}, {300, 300}, PreviewTurn::None), QSize(300, 200));
-  EXPECT_EQ(PreviewDecoder::DecodeSize({6000, 4000}, {300, 150}, PreviewTurn::QuarterClockwise), QSize(150, 100));
-  EXPECT_EQ(PreviewDecoder::DecodeSize({60, 40}, {300, 300}, PreviewTurn::None), QSize(60, 40));
+  EXPECT_EQ(PreviewDecoder::DecodeSize({6000, 4000}, {300, 300}, PreviewTurn::None, false), QSize(300, 200));
+  EXPECT_EQ(PreviewDecoder::DecodeSize({6000, 4000}, {300, 150}, PreviewTurn::QuarterClockwise, false), QSize(150, 100));
+  EXPECT_EQ(PreviewDecoder::DecodeSize({60, 40}, {300, 300}, PreviewTurn::None, false), QSize(60, 40));
+  // Stretched over the area, the decode covers it instead.
+  EXPECT_EQ(PreviewDecoder::DecodeSize({6000, 4000}, {300, 300}, PreviewTurn::None, true), QSize(450, 300));
+  EXPECT_EQ(PreviewDecoder::DecodeSize({6000, 4000}, {600, 150}, PreviewTurn::QuarterClockwise, true), QSize(900, 600));
+  EXPECT_EQ(PreviewDecoder::DecodeSize({600, 400}, {900, 100}, PreviewTurn::None, true), QSize(600, 400));
   const shell::DecodedPreview decoded = Decode("big.jpg", SidedJpeg(1200, 800, 1), {120, 120});
   EXPECT_EQ(decoded.image.size(), QSize(120, 80));
   EXPECT_EQ(decoded.ownSize, QSize(1200, 800));
@@ -103,7 +107,7 @@ TEST_F(PreviewDecoderTest, CrwWithoutPreviewShowsItsThm) {
 TEST_F(PreviewDecoderTest, WhatIsNoPictureDecodesToNothing) {
   EXPECT_TRUE(Decode("notes.dat2", "just text").image.isNull());
   EXPECT_TRUE(Decode("cut.jpg", SidedJpeg(80, 40, 1).left(30)).image.isNull());
-  EXPECT_TRUE(PreviewDecoder::Decode(platform::RealFileSystem(), dir.path().toUtf8() + "/gone.jpg", {9, 9})
+  EXPECT_TRUE(PreviewDecoder::Decode(platform::RealFileSystem(), dir.path().toUtf8() + "/gone.jpg", {9, 9}, true)
                   .image.isNull());
 }
 
