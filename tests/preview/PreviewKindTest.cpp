@@ -32,13 +32,6 @@ TEST(PreviewKind, ByTheLastFourThenThreeCharacters) {
   EXPECT_EQ(shell::PreviewKindFor("song.rm", false, true), M);
 }
 
-TEST(PreviewKind, RawNamesByExtension) {
-  for (const char* name : {"a.CR2", "a.cr3", "b.Nef", "c.rw2", "d.x3f", "e.raf", "f.DNG"}) {
-    EXPECT_TRUE(shell::IsRawPictureName(name)) << name;
-  }
-  for (const char* name : {"a.jpg", "cr2", "a.cr2.jpg", "a.thm", "a.tif"}) EXPECT_FALSE(shell::IsRawPictureName(name)) << name;
-}
-
 TEST(PreviewKind, PictureCaption) {
   EXPECT_EQ(shell::texts::PictureCaption("IMG_0001.JPG", 1600, 1200), "IMG_0001.JPG  -  1600w X 1200h");
 }
