@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QPixmap>
 #include <QPushButton>
 
@@ -26,6 +27,12 @@ PreviewPane::PreviewPane(MainWindowUi& ui, core::RenameSession& session, const c
   connect(ui_.ShPrev, &QPushButton::clicked, this, &PreviewPane::ShowSelected);
   connect(ui_.UnSupported, &QPushButton::clicked, this, &PreviewPane::OpenSelectedExternally);
   connect(ui_.RotIP, &QAction::triggered, this, &PreviewPane::Rotate);
+  extprev_ = new QMenu(ui_.Gvbox1);
+  extprev_->setObjectName(QStringLiteral("extprev"));
+  extprev_->addAction(texts::kOpenWithExternalViewer, this, &PreviewPane::OpenSelectedExternally);
+  ui_.Gvbox1->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(ui_.Gvbox1, &QWidget::customContextMenuRequested, this,
+          [this](const QPoint& at) { extprev_->popup(ui_.Gvbox1->mapToGlobal(at)); });
   ui_.ShPrev->setEnabled(true);
   ui_.UnSupported->setEnabled(true);
   ui_.RotIP->setEnabled(true);

@@ -8,6 +8,8 @@
 #include <mutex>
 #include <optional>
 
+class QMenu;
+
 #include "core/RenameSession.h"
 #include "core/SettingsRecord.h"
 #include "platform/DefaultApplication.h"
@@ -78,6 +80,7 @@ class PreviewPane : public QObject {
   platform::FileSystem& fs_;
   platform::MessagePort& messages_;
   ExternalOpener opener_ = platform::DefaultApplication::Open;
+  QMenu* extprev_ = nullptr;  // the picture's pop-up menu
   QImage image_;
   quint64 currentId_ = 0;
   QString currentName_;

@@ -45,6 +45,7 @@ inline QString FilesInFolderLabel(int count) {
 inline const QString kLoadingImage = QStringLiteral("(Loading Image...)");
 inline const QString kPreviewUnavailable = QStringLiteral("(Preview Unavailable)");
 inline const QString kNoFileSelectedToPreview = QStringLiteral("No file is selected!");
+inline const QString kOpenWithExternalViewer = QStringLiteral("Open with external viewer");
 inline const QString kNoExternalApplication =
     QStringLiteral("Unable to preview file externally.\n"
                    "This computer does not appear to have an application associated with this type of file.");
