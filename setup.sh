@@ -11,7 +11,7 @@ cd "$(dirname "$0")"
 top=$(pwd)
 
 packages=(cmake ninja-build g++ clang libclang-rt-14-dev pkg-config
-          qt6-base-dev qt6-multimedia-dev libglib2.0-dev
+          qt6-base-dev qt6-multimedia-dev libglib2.0-dev libheif-dev
           libgtest-dev libgmock-dev libbenchmark-dev
           xvfb xauth rename libglib2.0-bin)
 

@@ -11,6 +11,7 @@
 #include "metadata/RawPreviewLocator.h"
 #include "platform/FileName.h"
 #include "platform/FileSystem.h"
+#include "platform/widgets/HeifPicture.h"
 #include "platform/PathParts.h"
 #include "platform/ReadableFileDevice.h"
 #include "shell/PreviewKind.h"
@@ -27,6 +28,8 @@ bool QuarterTurn(PreviewTurn turn) {
 
 // A preview larger than any screen is never needed.
 constexpr qint64 kMaxEmbeddedJpeg = 64LL << 20;
+// A phone's HEIC is a few megabytes; a file far larger is no picture to show.
+constexpr qint64 kMaxHeifFile = 256LL << 20;
 
 }  // namespace
 
@@ -56,8 +59,15 @@ DecodedPreview PreviewDecoder::Decode(platform::FileSystem& fs, const QByteArray
   if (metadata::LoadExifQuietly(exif, fs, path, &result.exifError)) {
     result.turn = metadata::PreviewTurnForOrientation(exif.Tag(metadata::texts::kTagOrientation));
   }
-  const Target target{area, fill, result.turn};
   const QString name = platform::FileName{platform::BaseName(path)}.Display();
+  if (IsHeifPictureName(name)) {
+    // The file's own transformations stand it upright; its EXIF orientation
+    // says the same again and must not turn it twice.
+    result.turn = PreviewTurn::None;
+    result.image = DecodeHeif(fs, path, {area, fill, PreviewTurn::None}, &result.ownSize);
+    return result;
+  }
+  const Target target{area, fill, result.turn};
   if (IsRawPictureName(name)) {
     result.image = DecodeRaw(fs, path, target, &result.ownSize);
     // The caption names the RAW's own size where its EXIF states one.
@@ -109,6 +119,17 @@ QImage PreviewDecoder::DecodeRaw(platform::FileSystem& fs, const QByteArray& pat
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::ReadOnly);
   return DecodeDevice(buffer, target, ownSize);
+}
+
+// libheif decodes only the whole picture; it is scaled down at once.
+QImage PreviewDecoder::DecodeHeif(platform::FileSystem& fs, const QByteArray& path, const Target& target,
+                                  QSize* ownSize) {
+  QByteArray bytes;
+  if (fs.ReadWholeFile(path, kMaxHeifFile, &bytes) != 0) return {};
+  const QImage image = platform::HeifPicture::Decode(bytes, ownSize);
+  if (image.isNull()) return {};
+  const QSize size = DecodeSize(image.size(), target.area, target.turn, target.fill);
+  return size == image.size() ? image : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 // Canon's CRW keeps its viewable picture in the THM file of the same name.

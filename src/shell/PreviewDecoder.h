@@ -48,6 +48,7 @@ class PreviewDecoder {
 
   static QImage DecodeDevice(QIODevice& device, const Target& target, QSize* ownSize);
   static QImage DecodeRaw(platform::FileSystem& fs, const QByteArray& path, const Target& target, QSize* ownSize);
+  static QImage DecodeHeif(platform::FileSystem& fs, const QByteArray& path, const Target& target, QSize* ownSize);
   static QByteArray ThumbnailPartner(platform::FileSystem& fs, const QByteArray& path);
 };
 

@@ -31,4 +31,9 @@ bool IsRawPictureName(const QString& name) {
   return dot >= 0 && raw.contains(name.mid(dot + 1).toLower());
 }
 
+bool IsHeifPictureName(const QString& name) {
+  const QString end = name.right(5).toLower();
+  return end == QLatin1String(".heic") || end == QLatin1String(".heif");
+}
+
 }  // namespace renvale::shell

@@ -16,4 +16,7 @@ PreviewKind PreviewKindFor(const QString& name, bool playQuickTime, bool playRea
 // preview embedded in them.
 bool IsRawPictureName(const QString& name);
 
+// Whether the name is a HEIC or HEIF picture, decoded apart from the rest.
+bool IsHeifPictureName(const QString& name);
+
 }  // namespace renvale::shell

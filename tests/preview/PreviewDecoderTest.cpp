@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 
@@ -79,6 +80,17 @@ TEST_F(PreviewDecoderTest, RawShowsItsPreviewAndACrwWithoutOneItsThm) {
   Decode("CRW_0001.THM", MakeThm("2004:07:15 18:03:09", "2004:07:15 18:03:09"));
   EXPECT_FALSE(Decode("CRW_0001.CRW", MakeCrw()).image.isNull());
   EXPECT_TRUE(Decode("CRW_0002.CRW", MakeCrw()).image.isNull());
+}
+
+// A phone's HEIC, stored lying on its side, stands up once, not twice.
+TEST_F(PreviewDecoderTest, HeicStandsUpByItsOwnTransformations) {
+  const QString heic = qEnvironmentVariable("RENVALE_TESTDATA") + "/preview/exiv2__2021-02-13-1929.heic";
+  if (!QFile::exists(heic)) GTEST_SKIP() << "no test data";
+  const shell::DecodedPreview decoded =
+      PreviewDecoder::Decode(platform::RealFileSystem(), QFile::encodeName(heic), {400, 400}, false);
+  EXPECT_EQ(decoded.ownSize, QSize(4032, 3024));
+  EXPECT_EQ(decoded.image.size(), QSize(300, 400));
+  EXPECT_TRUE(Decode("cut.heic", "ftypheic").image.isNull());
 }
 
 TEST_F(PreviewDecoderTest, WhatIsNoPictureDecodesToNothing) {
