@@ -149,7 +149,7 @@ TEST(RawPreviewLocator, RefusesPreviewsThatLeaveTheFileOrLoop) {
 }
 
 TEST(RawPreviewLocator, FindsTheCanonPreviewOfARealCr3) {
-  QFile file(QString::fromLocal8Bit(qgetenv("RENVALE_TESTDATA")) + "/preview/exiv2__Canon-R6-pruned.CR3");
+  QFile file(qEnvironmentVariable("RENVALE_TESTDATA") + "/preview/exiv2__Canon-R6-pruned.CR3");
   if (!file.open(QIODevice::ReadOnly)) GTEST_SKIP() << "no test data";
   const QByteArray bytes = file.readAll();
   EmbeddedJpeg found;
@@ -163,19 +163,18 @@ TEST(RawPreviewLocator, FindsTheCanonPreviewOfARealCr3) {
 // Every camera file and every hostile file: the locator ends and whatever
 // it offers lies inside the file and starts like a JPEG.
 TEST(RawPreviewLocator, EndsOnEveryTestFileAndEveryCut) {
-  const QString root = QString::fromLocal8Bit(qgetenv("RENVALE_TESTDATA"));
   int files = 0;
   for (const char* folder : {"malformed", "camera", "preview"}) {
-    for (const QFileInfo& info : QDir(root + '/' + folder).entryInfoList(QDir::Files)) {
+    for (const QFileInfo& info : QDir(qEnvironmentVariable("RENVALE_TESTDATA") + '/' + folder).entryInfoList(QDir::Files)) {
       QFile file(info.filePath());
       ASSERT_TRUE(file.open(QIODevice::ReadOnly));
       const QByteArray bytes = file.read(8 << 20);
-      for (const qsizetype size : {bytes.size(), bytes.size() / 2, qsizetype(300)}) {
-        const QByteArray cut = bytes.left(size);
+      for (const QByteArray& cut : {bytes, bytes.left(bytes.size() / 2), bytes.left(300)}) {
         EmbeddedJpeg found;
         if (!Locate(cut, &found)) continue;
-        EXPECT_LE(found.offset + found.length, cut.size()) << info.fileName().toStdString();
-        EXPECT_EQ(cut.mid(found.offset, 2), QByteArray("\xFF\xD8")) << info.fileName().toStdString();
+        SCOPED_TRACE(info.fileName().toStdString());
+        EXPECT_LE(found.offset + found.length, cut.size());
+        EXPECT_EQ(cut.mid(found.offset, 2), QByteArray("\xFF\xD8"));
       }
       ++files;
     }
