@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <cstdlib>
 #include <vector>
@@ -18,6 +19,8 @@ namespace {
 
 constexpr size_t kRangeChunk = size_t{1} << 30;
 constexpr size_t kBufferSize = size_t{256} << 10;
+
+std::atomic<bool> readWriteForced{false};
 
 // copy_file_range refuses some pairings (across file systems, special files);
 // the plain loop takes over from wherever it stopped.
@@ -53,7 +56,7 @@ int CopyByReadWrite(int in, int out) {
 }
 
 int CopyContents(int in, int out) {
-  for (;;) {
+  while (!readWriteForced.load(std::memory_order_relaxed)) {
     const ssize_t n = ::copy_file_range(in, nullptr, out, nullptr, kRangeChunk, 0);
     if (n > 0) continue;
     // 0 is the end for regular files, but some special files report 0 too;
@@ -127,5 +130,7 @@ int CopyFileKeepingTimes(const QByteArray& from, const QByteArray& to, bool repl
   ::unlink(writtenPath.constData());
   return ErrorNumberFromErrno(err, ErrnoContext::Folder);
 }
+
+void ForceReadWriteCopy(bool force) { readWriteForced.store(force, std::memory_order_relaxed); }
 
 }  // namespace renvale::platform

@@ -12,4 +12,9 @@ namespace renvale::platform {
 // leaves a partial file behind. Returns an error number from ErrorNumbers.h.
 int CopyFileKeepingTimes(const QByteArray& from, const QByteArray& to, bool replace);
 
+// Copies with plain reads and writes as if every copy_file_range were
+// refused, which is what happens across some file systems and for special
+// files; lets that loop run on any disk.
+void ForceReadWriteCopy(bool force);
+
 }  // namespace renvale::platform

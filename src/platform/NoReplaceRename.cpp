@@ -21,6 +21,8 @@ namespace renvale::platform {
 
 namespace {
 
+std::atomic<NoReplaceMethod> bestMethod{NoReplaceMethod::Kernel};
+
 int KernelRenameNoReplace(const char* from, const char* to) {
 #if defined(__GLIBC__) && (__GLIBC__ > 2 || (__GLIBC__ == 2 && __GLIBC_MINOR__ >= 28))
   return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE);
@@ -56,11 +58,16 @@ int RenameAfterCheckErrno(const char* from, const char* to) {
 
 // Returns 0 or an errno; EEXIST whenever `to` already resolves to a file.
 int RenameStrictErrno(const QByteArray& from, const QByteArray& to) {
-  if (KernelRenameNoReplace(from.constData(), to.constData()) == 0) return 0;
-  int err = errno;
-  if (err != EINVAL && err != ENOSYS) return err;
-  err = RenameByLinkErrno(from.constData(), to.constData());
-  if (err == 0 || !LinkUnavailable(err)) return err;
+  const NoReplaceMethod best = bestMethod.load(std::memory_order_relaxed);
+  if (best == NoReplaceMethod::Kernel) {
+    if (KernelRenameNoReplace(from.constData(), to.constData()) == 0) return 0;
+    const int err = errno;
+    if (err != EINVAL && err != ENOSYS) return err;
+  }
+  if (best != NoReplaceMethod::CheckFirst) {
+    const int err = RenameByLinkErrno(from.constData(), to.constData());
+    if (err == 0 || !LinkUnavailable(err)) return err;
+  }
   return RenameAfterCheckErrno(from.constData(), to.constData());
 }
 
@@ -129,5 +136,7 @@ int RenameWithoutReplacing(const QByteArray& from, const QByteArray& to) {
   if (err == EEXIST && IsLetterCaseAlias(from, to)) return RenameThroughTemporaryName(from, to);
   return MapRenameError(err, from);
 }
+
+void ForceNoReplaceMethod(NoReplaceMethod best) { bestMethod.store(best, std::memory_order_relaxed); }
 
 }  // namespace renvale::platform

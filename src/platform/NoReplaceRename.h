@@ -22,4 +22,11 @@ int RenameThroughTemporaryName(const QByteArray& from, const QByteArray& to);
 // Hard links to one file have their own entries and are not aliases.
 bool IsLetterCaseAlias(const QByteArray& from, const QByteArray& to);
 
+// The ways of refusing to replace, best first. A rename takes the best one
+// its file system supports. Forcing a later one runs, on any disk, the path
+// that network shares through FUSE or CIFS (hard link) and FAT (check first)
+// take for every rename.
+enum class NoReplaceMethod { Kernel, HardLink, CheckFirst };
+void ForceNoReplaceMethod(NoReplaceMethod best);
+
 }  // namespace renvale::platform

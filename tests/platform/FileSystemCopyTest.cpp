@@ -8,6 +8,7 @@
 
 #include "RawFiles.h"
 #include "platform/ErrorNumbers.h"
+#include "platform/FileCopy.h"
 #include "platform/FileSystem.h"
 
 namespace renvale::test {
@@ -34,8 +35,18 @@ std::vector<QByteArray> Entries(const ScratchFolder& folder) {
   return names;
 }
 
-TEST(FileSystemCopy, KeepsContentsModificationTimeAndPermissions) {
+// Each copy test runs with copy_file_range and with the read/write loop that
+// takes over where the kernel refuses it.
+class FileSystemCopy : public ::testing::TestWithParam<bool> {
+ protected:
+  void SetUp() override { platform::ForceReadWriteCopy(GetParam()); }
+  void TearDown() override { platform::ForceReadWriteCopy(false); }
   ScratchFolder folder;
+};
+
+INSTANTIATE_TEST_SUITE_P(ReadWrite, FileSystemCopy, ::testing::Bool());
+
+TEST_P(FileSystemCopy, KeepsContentsModificationTimeAndPermissions) {
   const QByteArray contents = Pattern(300 * 1024 + 17);
   ASSERT_TRUE(WriteRaw(folder / "src.jpg", contents));
   ASSERT_EQ(::chmod((folder / "src.jpg").constData(), 0640), 0);
@@ -51,8 +62,7 @@ TEST(FileSystemCopy, KeepsContentsModificationTimeAndPermissions) {
   EXPECT_EQ(copy.st_mtim.tv_nsec, 789000000);
 }
 
-TEST(FileSystemCopy, ExistingTargetIsReplacedOnlyWhenAllowed) {
-  ScratchFolder folder;
+TEST_P(FileSystemCopy, ExistingTargetIsReplacedOnlyWhenAllowed) {
   ASSERT_TRUE(WriteRaw(folder / "src.jpg", "new"));
   ASSERT_TRUE(WriteRaw(folder / "dst.jpg", "old"));
 
@@ -65,8 +75,7 @@ TEST(FileSystemCopy, ExistingTargetIsReplacedOnlyWhenAllowed) {
   EXPECT_EQ(Entries(folder), (std::vector<QByteArray>{"dst.jpg", "src.jpg"}));
 }
 
-TEST(FileSystemCopy, MissingSourceMissingFolderAndSelfCopyFail) {
-  ScratchFolder folder;
+TEST_P(FileSystemCopy, MissingSourceMissingFolderAndSelfCopyFail) {
   ASSERT_TRUE(WriteRaw(folder / "src.jpg", "x"));
   EXPECT_NE(RealFileSystem().CopyFile(folder / "src.jpg", folder / "src.jpg", true), 0);
   EXPECT_EQ(ReadRaw(folder / "src.jpg"), "x");
@@ -99,8 +108,7 @@ class FileSizeLimit {
   void (*previousHandler_)(int);
 };
 
-TEST(FileSystemCopy, FailureHalfWayLeavesNoPartialTarget) {
-  ScratchFolder folder;
+TEST_P(FileSystemCopy, FailureHalfWayLeavesNoPartialTarget) {
   ASSERT_TRUE(WriteRaw(folder / "big.jpg", Pattern(1024 * 1024)));
   ASSERT_TRUE(WriteRaw(folder / "kept.jpg", "old target"));
   int fresh;

@@ -2,9 +2,24 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <string>
 
 namespace renvale::test {
+
+namespace {
+
+std::string& UserFoldersRoot() {
+  static std::string root;
+  return root;
+}
+
+void RemoveUserFolders() {
+  std::error_code ignored;
+  std::filesystem::remove_all(UserFoldersRoot(), ignored);
+}
+
+}  // namespace
 
 void IsolateUserFolders() {
   char pattern[] = "/tmp/renvale-test-XXXXXX";
@@ -14,6 +29,8 @@ void IsolateUserFolders() {
     std::abort();
   }
   const std::string base(root);
+  UserFoldersRoot() = base;
+  std::atexit(RemoveUserFolders);
   setenv("HOME", base.c_str(), 1);
   setenv("XDG_CONFIG_HOME", (base + "/config").c_str(), 1);
   setenv("XDG_DATA_HOME", (base + "/data").c_str(), 1);
