@@ -17,7 +17,8 @@ TEST(SeriesFormat, ReadsTheBoxLikeANumberPrefix) {
   const Case cases[] = {
       {"", 0},       {"abc", 0},     {"  42", 42}, {"\t7x", 7},   {"12abc3", 12},
       {"0007", 7},   {"-3", -3},     {"+5", 5},    {"- 3", 0},    {"3 4", 3},
-      {"1.9", 1},    {"99999999999999999999999", core::kMaxSeriesNumber},
+      {"1.9", 1},    {"999999999999999990", 999'999'999'999'999'990},
+      {"99999999999999999999999", core::kMaxSeriesNumber},
       {"-99999999999999999999999", -core::kMaxSeriesNumber},
   };
   for (const Case& c : cases) {

@@ -10,12 +10,17 @@ namespace renvale::test {
 // numbers, without touching the disk: tests run as root, where chmod cannot
 // make anything read-only.
 //
-// A rename fails when either of its names is the path given.
+// A rename fails when either of its names is the path given to FailRename,
+// or when its source is the path given to FailRenameFrom (so a file can move
+// away and then be refused the way back).
 class FaultyFileSystem : public platform::FileSystem {
  public:
   explicit FaultyFileSystem(platform::FileSystem& inner) : inner_(inner) {}
 
   void FailRename(const QByteArray& path, int errorNumber) { faults_.push_back({Change::Rename, path, errorNumber}); }
+  void FailRenameFrom(const QByteArray& path, int errorNumber) {
+    faults_.push_back({Change::RenameFrom, path, errorNumber});
+  }
   void FailRemove(const QByteArray& path, int errorNumber) { faults_.push_back({Change::Remove, path, errorNumber}); }
   void FailTrash(const QByteArray& path, int errorNumber) { faults_.push_back({Change::Trash, path, errorNumber}); }
   void FailWrite(const QByteArray& path, int errorNumber) { faults_.push_back({Change::Write, path, errorNumber}); }
@@ -34,7 +39,7 @@ class FaultyFileSystem : public platform::FileSystem {
   int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) override;
 
  private:
-  enum class Change { Rename, Remove, Trash, Write };
+  enum class Change { Rename, RenameFrom, Remove, Trash, Write };
   struct Fault {
     Change change;
     QByteArray path;
