@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <limits>
-#include <set>
 #include <vector>
 
 #include "core/RandomSeriesPool.h"
-#include "core/SeriesCounter.h"
 #include "core/SeriesFormat.h"
 
 namespace renvale::test {
@@ -39,72 +37,10 @@ TEST(SeriesFormat, PatternsPrintAsTheOptionsShow) {
   }
 }
 
-class StringBox : public core::SeriesBox {
- public:
-  explicit StringBox(QString text) : text_(std::move(text)) {}
-  QString Text() const override { return text_; }
-  void SetText(const QString& text) override { text_ = text; }
-
- private:
-  QString text_;
-};
-
-struct CounterFixture : ::testing::Test {
-  core::SettingsRecord settings;
-  StringBox box{QStringLiteral("1")};
-  core::SeriesCounter counter{box, settings};
-};
-
-TEST_F(CounterFixture, TakeHandsOutAndAdvancesTheBox) {
-  box.SetText("99");
-  EXPECT_EQ(counter.TakeSeriesText(), "99");
-  EXPECT_EQ(box.Text(), "100");
-  box.SetText("abc");
-  EXPECT_EQ(counter.TakeSeriesText(), "00");
-  EXPECT_EQ(box.Text(), "01");
-}
-
-TEST_F(CounterFixture, ReformatStepBackAndResetFollowTheCurrentPattern) {
-  settings.placeholders = 4;
-  box.SetText(" 7 apples");
-  counter.ReformatSeriesBox();
-  EXPECT_EQ(box.Text(), "0007");
-  counter.StepBackSeries();
-  EXPECT_EQ(box.Text(), "0006");
-  counter.ResetSeries();
-  EXPECT_EQ(box.Text(), "0001");
-  settings.placeholders = 9;  // outside the offered values: prints nothing
-  EXPECT_EQ(counter.TakeSeriesText(), "");
-  EXPECT_EQ(box.Text(), "");
-}
-
-TEST_F(CounterFixture, InsertionTextConsumesOnlyInIndividualMode) {
-  settings.placeholders = 3;
-  box.SetText("7");
-  EXPECT_EQ(counter.InsertionText(true), "%SERIES% ");
-  EXPECT_EQ(box.Text(), "7");
-  settings.seriesSpacing = "X";
-  EXPECT_EQ(counter.InsertionText(false), "007");
-  settings.seriesSpacing = "-";
-  EXPECT_EQ(counter.InsertionText(false), "008-");
-  counter.PutNextValue(12);  // the random batch's way in
-  EXPECT_EQ(counter.InsertionText(false), "012-");
-  EXPECT_EQ(box.Text(), "013");
-}
-
 std::vector<qint64> DrawAll(core::RandomSeriesPool& pool) {
   std::vector<qint64> drawn;
   while (auto value = pool.Draw()) drawn.push_back(*value);
   return drawn;
-}
-
-TEST(RandomSeriesPool, KthRemainingEntryIsTaken) {
-  // k = floor(size * r) + 1 of what is left: with r = 0.5, 3rd of 10..14 ->
-  // 12, 3rd of {10,11,13,14} -> 13, 2nd of {10,11,14} -> 11, 2nd of {10,14} -> 14.
-  core::RandomSeriesPool first(7, 3, [] { return 0.0; });
-  EXPECT_EQ(DrawAll(first), (std::vector<qint64>{7, 8, 9}));
-  core::RandomSeriesPool middle(10, 5, [] { return 0.5; });
-  EXPECT_EQ(DrawAll(middle), (std::vector<qint64>{12, 13, 11, 14, 10}));
 }
 
 TEST(RandomSeriesPool, SourceOutsideRangeStillDrawsEveryNumberOnce) {
@@ -116,18 +52,6 @@ TEST(RandomSeriesPool, SourceOutsideRangeStillDrawsEveryNumberOnce) {
   EXPECT_EQ(drawn, (std::vector<qint64>{1, 2, 3, 4, 5, 6}));
   EXPECT_EQ(pool.Size(), 0);
   EXPECT_FALSE(core::RandomSeriesPool(1, -4, [] { return 0.0; }).Draw().has_value());
-}
-
-TEST(RandomSeriesPool, TimeSeededPoolIsAPermutation) {
-  const int count = 1000;
-  core::RandomSeriesPool pool(-5, count, core::RandomSeriesPool::TimeSeededSource());
-  const std::vector<qint64> drawn = DrawAll(pool);
-  const std::set<qint64> distinct(drawn.begin(), drawn.end());
-  ASSERT_EQ(drawn.size(), static_cast<size_t>(count));
-  EXPECT_EQ(distinct.size(), static_cast<size_t>(count));
-  EXPECT_EQ(*distinct.begin(), -5);
-  EXPECT_EQ(*distinct.rbegin(), -5 + count - 1);
-  EXPECT_FALSE(std::is_sorted(drawn.begin(), drawn.end()));
 }
 
 }  // namespace

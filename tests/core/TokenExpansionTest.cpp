@@ -69,12 +69,5 @@ TEST(TokenExpansion, SpellingsOrderAndValuesAskedFor) {
   }
 }
 
-TEST(IndividualTokens, LaterStepsSeeEarlierValues) {
-  ValueLog log;
-  log.values[Token::OrigFn] = "x%date%";  // a name may hold a token spelling
-  EXPECT_EQ(core::ExpandIndividualTokens("%ORIGFN%", log.Function()), "x2004-05-01");
-  EXPECT_EQ(log.asked, (std::vector<Token>{Token::OrigFn, Token::Date}));
-}
-
 }  // namespace
 }  // namespace renvale::test

@@ -6,7 +6,9 @@
 #include <random>
 
 #include "ExifTestBytes.h"
+#include "metadata/ByteReader.h"
 #include "metadata/ExifReader.h"
+#include "metadata/MemoryByteSource.h"
 #include "support/SampleImages.h"
 #include "support/SampleRawFiles.h"
 
@@ -86,6 +88,15 @@ TEST(ExifHostile, BoxAndSegmentSizesThatLie) {
     EXPECT_FALSE(reader.Status().isEmpty()) << c.name;
     EXPECT_EQ(reader.Tag("DateTimeOriginal"), "") << c.name;
   }
+}
+
+// A read may end on the last byte of its view, and not one further.
+TEST(ExifHostile, ReadsReachTheLastByteOfTheViewOnly) {
+  metadata::MemoryByteSource source("abcdef", 6);
+  metadata::ByteReader view(source, 2, 100);  // clipped to "cdef"
+  EXPECT_TRUE(view.Matches(2, "ef", 2));
+  EXPECT_FALSE(view.Matches(3, "f", 2));
+  EXPECT_TRUE(view.Ok());
 }
 
 struct Sample {

@@ -40,32 +40,11 @@ TEST(HeadScan, TakesTheSecondDateShapedText) {
   for (const auto& c : cases) EXPECT_EQ(Scan(c.head), c.expected) << c.head.constData();
 }
 
-TEST(HeadScan, ASecondShapeMayShareTheFirstOnesLastDigits) {
-  // The search goes on at the first one's last digit, so a shape that
-  // begins there is still found.
-  const QByteArray shared = "2004:07:15 18:03:0912:01:02 03:04:05";
-  const auto shapes = FindDateShapes(shared.constData(), shared.size());
-  EXPECT_EQ(shapes.first, "2004:07:15 18:03:09");
-  EXPECT_EQ(shapes.second, "0912:01:02 03:04:05");
-}
-
 TEST(HeadScan, NeverLooksPastTheLengthGiven) {
   const QByteArray bytes = QByteArray(kOne) + kTwo;
   EXPECT_EQ(ScanDateInHead(bytes.constData(), 19 + 18), kOne);
   EXPECT_EQ(ScanDateInHead(bytes.constData(), 0), "");
   EXPECT_EQ(ScanDateInHead(nullptr, 10), "");
-}
-
-TEST(ThmCompanion, FoundBesideACrwFileOnly) {
-  MemoryFileSystem fs;
-  fs.Add("/p/IMG_1.CRW", MakeCrw());
-  fs.Add("/p/IMG_1.thm", "x");
-  fs.Add("/p/IMG_2.crw", MakeCrw());
-  fs.Add("/p/IMG_3.jpg", "x");
-  const std::pair<const char*, const char*> cases[] = {
-      {"IMG_1.CRW", "IMG_1.thm"}, {"IMG_2.crw", "IMG_2.crw"}, {"IMG_3.jpg", "IMG_3.jpg"}, {"crw", "crw"},
-      {".crw", ".crw"}};
-  for (const auto& [name, partner] : cases) EXPECT_EQ(metadata::ThmCompanionName(fs, "/p/", name), partner) << name;
 }
 
 TEST(ThmCompanion, UpperCasePartnerDependsOnTheFileSystem) {
@@ -79,16 +58,6 @@ TEST(ThmCompanion, UpperCasePartnerDependsOnTheFileSystem) {
   }
 }
 
-TEST(DateSource, CrwIsScannedThroughItsThmPartner) {
-  MemoryFileSystem fs;
-  fs.Add("/p/a.crw", MakeCrw({kThree}));
-  fs.Add("/p/a.thm", MakeThm(kTwo, kOne));
-  fs.Add("/p/b.crw", MakeCrw({kThree}));
-  EXPECT_EQ(metadata::ScanExifDateInHead(fs, "/p/", "a.crw"), kTwo);
-  EXPECT_EQ(metadata::ScanExifDateInHead(fs, "/p/", "b.crw"), kThree);  // a lone CRW itself
-  EXPECT_EQ(metadata::ScanExifDateInHead(fs, "/p/", "missing.crw"), "");
-}
-
 TEST(DateSource, OnlyTheFirst2000BytesAreScanned) {
   MemoryFileSystem fs;
   fs.Add("/p/late.bin", QByteArray(1982, 'x') + kOne);  // ends at byte 2001
@@ -98,35 +67,6 @@ TEST(DateSource, OnlyTheFirst2000BytesAreScanned) {
   EXPECT_EQ(metadata::ReadFileHead(fs, "/p/late.bin", 2000).size(), 2000);
   EXPECT_EQ(metadata::ReadFileHead(fs, "/p/late.bin").size(), 2001);
   EXPECT_EQ(metadata::ReadFileHead(fs, "/p/nothing.bin", 2000), QByteArray());
-}
-
-TEST(FileDates, UtcMovesByWholeHours) {
-  const QDateTime utc(QDate(2004, 12, 31), QTime(23, 30, 0), Qt::UTC);
-  EXPECT_EQ(metadata::FileTimeText(utc, 0), "2004:12:31 23:30:00");
-  EXPECT_EQ(metadata::FileTimeText(utc, 2), "2005:01:01 01:30:00");
-  EXPECT_EQ(metadata::FileTimeText(utc, -5), "2004:12:31 18:30:00");
-  EXPECT_EQ(metadata::FileTimeText(QDateTime(), 0), "");
-  const int offset = QDateTime::currentDateTime().offsetFromUtc();
-  EXPECT_EQ(metadata::LocalClockOffsetHours(), offset / 3600);
-}
-
-TEST(FileDates, OldestOfCreatedAndModified) {
-  EXPECT_EQ(metadata::OlderDateTimeText(kOne, kTwo), kOne);
-  EXPECT_EQ(metadata::OlderDateTimeText(kTwo, kOne), kOne);
-  EXPECT_EQ(metadata::OlderDateTimeText("2004:07:15 18:03:09", "2004:07:15 18:03:09 "),
-            "2004:07:15 18:03:09");  // a tie goes to Created
-  EXPECT_EQ(metadata::OlderDateTimeText("", kTwo), kTwo);
-  EXPECT_EQ(metadata::OlderDateTimeText(kTwo, ""), kTwo);
-
-  MemoryFileSystem fs;
-  fs.Add("/p/f", "x");
-  const QDateTime created(QDate(2004, 7, 15), QTime(18, 3, 9), Qt::UTC);
-  fs.SetTimes("/p/f", created, created.addSecs(-3600));
-  const int h = metadata::LocalClockOffsetHours();
-  EXPECT_EQ(metadata::FileCreatedText(fs, "/p/f"), metadata::FileTimeText(created, h));
-  EXPECT_EQ(metadata::OldestFileDateTime(fs, "/p/f"),
-            metadata::FileTimeText(created.addSecs(-3600), h));
-  EXPECT_EQ(metadata::OldestFileDateTime(fs, "/p/missing"), "");
 }
 
 TEST(DateSource, FallsBackFromExifToScanToFileDates) {

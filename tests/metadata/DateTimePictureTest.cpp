@@ -82,21 +82,5 @@ TEST(ExifDateTimeText, FormsCarryOnlyTheirOwnHalf) {
   }
 }
 
-TEST(ExifDateTimeText, TextThatIsNoRealDateGivesEmptyForEveryForm) {
-  const char* bad[] = {
-      "",                     "                   ", "0000:00:00 00:00:00",
-      "2004:13:01 10:00:00",  "2003:02:29 10:00:00", "2004:07:15 24:00:00",
-      "2004:07:15 18:60:00",  "2004:07:15",          "2004:07:15 18:03",
-      "2004:07:1x 18:03:09",  "2004:07:15 18:03:-9", "abcdefghijklmnopqrs",
-  };
-  for (const char* s : bad) {
-    for (int form = 1; form <= 3; ++form) {
-      EXPECT_EQ(ExifDateTimeText(s, form, "yyyy-mm-dd", "hh-mm-ss"), "") << s << " form " << form;
-    }
-    EXPECT_FALSE(metadata::IsRealExifDateTime(s)) << s;
-  }
-  EXPECT_EQ(ExifDateTimeText("2004:02:29 23:59:59", 3, "yyyymmdd", "hhmmss"), "20040229 235959");
-}
-
 }  // namespace
 }  // namespace renvale::test

@@ -68,51 +68,12 @@ TEST_F(ExifValuesTest, TokenValuesOfAPictureWithExif) {
   EXPECT_TRUE(messages.messages.empty());
 }
 
-TEST_F(ExifValuesTest, ReadAheadGivesWhatReadingAtTheTurnGivesAndLeavesMessagesToTheCaller) {
-  // Read directly first: the fake file system is not for two threads at once.
-  const QString plainDateTime = metadata::ReadExifTokenValues(File("plain.jpg"), kFormats).dateTime;
-  QString lockedMessage;
-  metadata::ReadExifTokenValuesQuietly(fs, "/p/", "locked.jpg", kFormats, &lockedMessage);
-  ASSERT_TRUE(lockedMessage.startsWith("EXIF Error: "));
-
-  metadata::ExifReadAhead ahead(fs, "/p/", {"exif.jpg", "locked.jpg", "plain.jpg"}, kFormats);
-  metadata::ExifReadAhead::Result result;
-  ASSERT_TRUE(ahead.Take("/p/", "plain.jpg", kFormats, &result));  // the batch passed over two
-  EXPECT_EQ(result.values.dateTime, plainDateTime);
-  ASSERT_TRUE(ahead.Take("/p/", "locked.jpg", kFormats, &result));
-  EXPECT_FALSE(result.values.ok);
-  EXPECT_EQ(result.errorMessage, lockedMessage);
-  EXPECT_FALSE(ahead.Take("/p/", "locked.jpg", kFormats, &result)) << "each file's values go out once";
-  EXPECT_FALSE(ahead.Take("/q/", "exif.jpg", kFormats, &result));
-  EXPECT_FALSE(ahead.Take("/p/", "exif.jpg", {"yyyy", "hh"}, &result));
-  EXPECT_FALSE(ahead.Take("/p/", "other.jpg", kFormats, &result));
-  ASSERT_TRUE(ahead.Take("/p/", "exif.jpg", kFormats, &result));
-  EXPECT_EQ(result.values.dateTime, "2004-07-15 18.03.09");
-  EXPECT_EQ(result.values.serial, "1234567");
-  EXPECT_TRUE(messages.messages.empty());
-
-  metadata::ExifReadAhead dropped(fs, "/p/", {"exif.jpg"}, kFormats);
-  dropped.Drop();
-  EXPECT_FALSE(dropped.Take("/p/", "exif.jpg", kFormats, &result));
-}
-
-TEST_F(ExifValuesTest, ReadAheadGoesOnToAFileFarBeyondItsLead) {
-  std::vector<QByteArray> names;
-  for (int i = 0; i < 1000; ++i) names.push_back("absent" + QByteArray::number(i) + ".jpg");
-  names.back() = "exif.jpg";  // the files before it travel with others, say
-  metadata::ExifReadAhead ahead(fs, "/p/", names, kFormats);
-  metadata::ExifReadAhead::Result result;
-  ASSERT_TRUE(ahead.Take("/p/", "exif.jpg", kFormats, &result));
-  EXPECT_EQ(result.values.date, "2004-07-15");
-}
-
-TEST_F(ExifValuesTest, PictureWithoutExifFallsBackSilently) {
-  const QString oldest = metadata::FileTimeText(
-      QDateTime(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC), metadata::LocalClockOffsetHours());
-  EXPECT_EQ(Token("plain.jpg", "%DATE TIME%"),
-            metadata::ExifDateTimeText(oldest, 3, kFormats.date, kFormats.time));
-  EXPECT_EQ(Token("plain.jpg", "%SERIAL%"), "");
-  EXPECT_TRUE(messages.messages.empty());
+TEST_F(ExifValuesTest, MissingSerialIsWarnedWithTheMessageOfTheMode) {
+  EXPECT_EQ(Insert("noserial.jpg", 4, true), "%SERIAL%");
+  EXPECT_EQ(Insert("plain.jpg", 4, false), "");
+  EXPECT_EQ(Insert("noserial.jpg", 1, false), "2004-07-15");  // only the serial form warns
+  EXPECT_EQ(messages.Texts(), QStringList({kMissingBatch, kMissingSingle}));
+  EXPECT_EQ(messages.Last().buttons, platform::MessageButtons::Ok);
 }
 
 TEST_F(ExifValuesTest, ReaderErrorIsShownAndGivesNothing) {
@@ -126,32 +87,6 @@ TEST_F(ExifValuesTest, ReaderErrorIsShownAndGivesNothing) {
   EXPECT_EQ(messages.Last().text, "EXIF Error: " + reader.Status());
   EXPECT_EQ(messages.Last().buttons, platform::MessageButtons::Ok);
   EXPECT_EQ(messages.Last().title, platform::kProgramTitle);
-}
-
-TEST_F(ExifValuesTest, InsertGivesTokensInBatchModeAndValuesOtherwise) {
-  const char* tokens[] = {"%DATE%", "%TIME%", "%DATE TIME%", "%SERIAL%"};
-  for (int form = 1; form <= 4; ++form) {
-    EXPECT_EQ(Insert("exif.jpg", form, true), tokens[form - 1]);
-    EXPECT_EQ(Insert("exif.jpg", form, false), Token("exif.jpg", tokens[form - 1]));
-  }
-  EXPECT_EQ(Insert("exif.jpg", 0, false), "");
-  EXPECT_EQ(Insert("exif.jpg", 5, true), "");
-  EXPECT_TRUE(messages.messages.empty());
-}
-
-TEST_F(ExifValuesTest, MissingSerialIsWarnedWithTheMessageOfTheMode) {
-  EXPECT_EQ(Insert("noserial.jpg", 4, true), "%SERIAL%");
-  EXPECT_EQ(Insert("plain.jpg", 4, false), "");
-  EXPECT_EQ(Insert("noserial.jpg", 1, false), "2004-07-15");  // only the serial form warns
-  EXPECT_EQ(messages.Texts(), QStringList({kMissingBatch, kMissingSingle}));
-  EXPECT_EQ(messages.Last().buttons, platform::MessageButtons::Ok);
-}
-
-TEST(ExifStatus, OnlyTheEndingTellsThatThereIsNoExif) {
-  const std::pair<const char*, bool> cases[] = {
-      {"EXIF data not found.", true}, {"NOT FOUND.", true},   {"The file itself was Not Found.", true},
-      {"not found", false},           {"not found. ", false}, {"ot found.", false}};
-  for (const auto& [status, noExif] : cases) EXPECT_EQ(metadata::IsNoExifStatus(status), noExif) << status;
 }
 
 TEST(PreviewTurn, FirstThreeLettersOfTheWordDecide) {

@@ -125,17 +125,6 @@ class FileReportTest : public ::testing::Test {
   ScriptedMessagePort messages;
 };
 
-TEST_F(FileReportTest, GeneralInfoOfAPictureAndOfAWriteProtectedFile) {
-  Add("/p/a.jpg", QByteArray(2560, 'x'));
-  EXPECT_EQ(metadata::BuildGeneralInfo(fs, "/p/a.jpg"), GeneralHead(2, "."));
-  fs.SetWritable("/p/a.jpg", false);
-  EXPECT_EQ(metadata::BuildGeneralInfo(fs, "/p/a.jpg"), GeneralHead(2, ".", true));
-  // A tag at the end of a file that is no ".mp3" is not looked at.
-  const Id3v1Fields tag{"T", "A", "B", "1999", "C", 3, 1};
-  Add("/p/tagged.wav", MakeMp3(&tag, 0));
-  EXPECT_FALSE(metadata::BuildGeneralInfo(fs, "/p/tagged.wav").contains("ID3"));
-}
-
 TEST_F(FileReportTest, GeneralInfoOfMp3FilesWithAndWithoutTag) {
   const Id3v1Fields tag{"Silence\x01", " piman", "Album", "2004", "line\nfeed", 7, 50};
   Add("/p/t.MP3", MakeMp3(&tag, 10));  // 4170 + 128 bytes
@@ -191,16 +180,6 @@ TEST_F(FileReportTest, ExifReportExplainsAFileSet) {
                   .endsWith("Created Date & Time: " + Local(created) +
                             "\nModified Date & Time: " + Local(modified) + "\n"));
   EXPECT_TRUE(messages.messages.empty());
-}
-
-TEST_F(FileReportTest, ReaderErrorLeavesTheExifTextEmptyButNotTheGeneralOne) {
-  Add("/p/locked.jpg", MakeExifJpeg(nullptr));
-  fs.FailOpen("/p/locked.jpg", platform::kAccessViolation);
-  const auto report = metadata::BuildFileReport(fs, messages, "/p/", "locked.jpg");
-  EXPECT_EQ(report.exif, "");
-  EXPECT_TRUE(report.general.startsWith("File Size: "));
-  ASSERT_EQ(messages.messages.size(), 1u);
-  EXPECT_TRUE(messages.Last().text.startsWith("EXIF Error: "));
 }
 
 }  // namespace

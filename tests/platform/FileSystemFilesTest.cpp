@@ -31,27 +31,6 @@ TEST(FileSystemTrash, MovesTheFileIntoTheUserTrashWithAnEscapedPath) {
   EXPECT_EQ(RealFileSystem().MoveToTrash(folder / "absent.jpg"), platform::kFileNotFound);
 }
 
-TEST(FileSystemStat, ReportsKindSizeTimesAndHiddenName) {
-  ScratchFolder folder;
-  ASSERT_TRUE(WriteRaw(folder / ".dotfile", "12345"));
-  const struct timespec times[2] = {{1000000000, 0}, {1000000000, 250000000}};
-  ASSERT_EQ(::utimensat(AT_FDCWD, (folder / ".dotfile").constData(), times, 0), 0);
-  ASSERT_EQ(::mkdir((folder / "sub").constData(), 0755), 0);
-
-  platform::FileInfo info;
-  ASSERT_EQ(RealFileSystem().Stat(folder / ".dotfile", &info), 0);
-  EXPECT_FALSE(info.isDir);
-  EXPECT_TRUE(info.isHidden);
-  EXPECT_EQ(info.size, 5);
-  EXPECT_EQ(info.modified, QDateTime::fromMSecsSinceEpoch(1000000000250LL, Qt::UTC));
-  EXPECT_TRUE(info.created.isValid());
-
-  ASSERT_EQ(RealFileSystem().Stat(folder / "sub/", &info), 0);
-  EXPECT_TRUE(info.isDir);
-  EXPECT_FALSE(info.isHidden);
-  EXPECT_EQ(RealFileSystem().Stat(folder / "absent", &info), platform::kFileNotFound);
-}
-
 TEST(FileSystemWholeFiles, WriteReadAndReadAt) {
   ScratchFolder folder;
   ASSERT_EQ(RealFileSystem().WriteWholeFile(folder / "t.rnt", "0123456789"), 0);

@@ -24,25 +24,6 @@ std::vector<QByteArray> FilesIn(const ScratchFolder& folder) {
   return Sorted(names);
 }
 
-TEST(FileSystemListing, SortsEntriesIntoFilesAndFolders) {
-  ScratchFolder folder;
-  ASSERT_TRUE(WriteRaw(folder / "a.jpg", "a"));
-  ASSERT_TRUE(WriteRaw(folder / ".hidden", "h"));
-  ASSERT_TRUE(WriteRaw(folder / "caf\xe9.jpg", "latin1"));
-  ASSERT_EQ(::mkdir((folder / "sub").constData(), 0755), 0);
-  ASSERT_EQ(::symlink("sub", (folder / "to-sub").constData()), 0);
-  ASSERT_EQ(::symlink("a.jpg", (folder / "to-a").constData()), 0);
-  ASSERT_EQ(::symlink("nowhere", (folder / "dangling").constData()), 0);
-
-  EXPECT_EQ(FilesIn(folder), (std::vector<QByteArray>{".hidden", "a.jpg", "caf\xe9.jpg", "dangling", "to-a"}));
-  std::vector<QByteArray> folders;
-  ASSERT_EQ(RealFileSystem().ListFolders(folder.path(), &folders), 0);
-  EXPECT_EQ(Sorted(folders), (std::vector<QByteArray>{"sub", "to-sub"}));
-  std::vector<QByteArray> names{"stale"};
-  EXPECT_EQ(RealFileSystem().ListFiles(folder / "gone/", &names), platform::kPathNotFound);
-  EXPECT_TRUE(names.empty());
-}
-
 using platform::NoReplaceMethod;
 
 // Every rename test runs through each way of refusing to replace, so the

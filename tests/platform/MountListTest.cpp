@@ -32,32 +32,6 @@ TEST(MountList, ParsesFieldsAndDecodesEscapes) {
   EXPECT_EQ(mounts[5], (MountEntry{"/mnt/photos", "cifs", "//nas/photos"}));
 }
 
-TEST(MountList, ListsRootHomeRemovableThenNetwork) {
-  const std::vector<Volume> volumes = MountList::Browsable(MountList::ParseMountInfo(kSample), "/home/ann");
-  const std::vector<Volume> expected = {
-      {"/", "/ [File System]", VolumeKind::Root},
-      {"/home/ann/", "/home/ann [Home]", VolumeKind::Home},
-      {"/media/ann/CANON DC/", "CANON DC [Removable]", VolumeKind::Removable},
-      {"/run/media/ann/SD_CARD/", "SD_CARD [Removable]", VolumeKind::Removable},
-      {"/mnt/photos/", "//nas/photos [Network]", VolumeKind::Network},
-      {"/mnt/archive/", "nas:/export/archive [Network]", VolumeKind::Network},
-      {"/run/user/1000/gvfs/", "/run/user/1000/gvfs [Network]", VolumeKind::Network},
-      {"/home/ann/remote/", "ann@host:/srv [Network]", VolumeKind::Network},
-  };
-  ASSERT_EQ(volumes.size(), expected.size());
-  for (size_t i = 0; i < expected.size(); ++i) {
-    EXPECT_EQ(volumes[i].path, expected[i].path) << i;
-    EXPECT_EQ(volumes[i].label, expected[i].label) << i;
-    EXPECT_EQ(volumes[i].kind, expected[i].kind) << i;
-  }
-}
-
-TEST(MountList, RootHomeIsNotListedTwice) {
-  const std::vector<Volume> volumes = MountList::Browsable({}, "/");
-  ASSERT_EQ(volumes.size(), 1u);
-  EXPECT_EQ(volumes[0].kind, VolumeKind::Root);
-}
-
 TEST(MountList, ContainingVolumeIsTheLongestMatch) {
   const std::vector<Volume> volumes = MountList::Browsable(MountList::ParseMountInfo(kSample), "/home/ann");
   const struct {

@@ -41,19 +41,6 @@ TEST(ViewExifDialog, ReadOnlyTextsTheNoteAndAccessibleNames) {
   }
 }
 
-TEST(ViewExifDialog, ShowsTheTextsWithPlainLineBreaksAndCentresItself) {
-  ViewExifDialog dialog;
-  dialog.SetTexts({"EXIF data for \"a.jpg\":\n\nline", "File Size: 2 KB (. MB)\r\nRead Only: No\r\n"});
-  EXPECT_EQ(dialog.ExifText(), "EXIF data for \"a.jpg\":\n\nline");
-  EXPECT_EQ(dialog.GeneralText(), "File Size: 2 KB (. MB)\nRead Only: No\n");
-  dialog.show();
-  const QRect screen = dialog.screen()->geometry();
-  EXPECT_EQ(dialog.x(), screen.x() + (screen.width() - dialog.width()) / 2);
-  EXPECT_EQ(dialog.y(), screen.y() + (screen.height() - dialog.height()) / 2);
-  dialog.findChild<QPushButton*>("Command1")->click();
-  EXPECT_FALSE(dialog.isVisible());
-}
-
 TEST(ViewExifDialog, CommandShowsTheReportOfTheSelectedFile) {
   MemoryFileSystem fs;
   ScriptedMessagePort messages;

@@ -4,8 +4,6 @@
 #include <QFile>
 #include <QSettings>
 
-#include <sys/stat.h>
-
 #include "TempSettingsFile.h"
 #include "platform/QtSettingsStorage.h"
 
@@ -14,22 +12,6 @@ namespace {
 
 const QString kMain;
 const QString kLastCustom = QStringLiteral("Last Custom");
-
-// Texts that QSettings' INI layout has to quote or escape to keep them
-// strings: separators, list commas, a leading "@", blanks at the ends.
-TEST(QtSettingsStorage, AwkwardTextsComeBackAsWritten) {
-  const QStringList texts{" ",        "a, b", "@Variant(x)", QString::fromUtf8("/home/jörg/日本/"),
-                          "x=y;z #c", "\"q\"", "back\\slash\\", ""};
-  TempSettingsFile file;
-  for (int i = 0; i < texts.size(); ++i) {
-    file.Open()->WriteSettingString(i % 2 ? kLastCustom : kMain, QString::number(i), texts[i]);
-  }
-  const auto storage = file.Open();
-  for (int i = 0; i < texts.size(); ++i) {
-    EXPECT_EQ(storage->ReadSettingString(i % 2 ? kLastCustom : kMain, QString::number(i)), texts[i])
-        << i;
-  }
-}
 
 TEST(QtSettingsStorage, ValuesThatAreNotStringsReadAsMissing) {
   TempSettingsFile file;
@@ -51,26 +33,6 @@ TEST(QtSettingsStorage, ValuesThatAreNotStringsReadAsMissing) {
   EXPECT_EQ(storage->ReadSettingString(kMain, "Plain"), "123");
   EXPECT_EQ(storage->ReadSettingString(kLastCustom, "Custom 1"), "");
   EXPECT_EQ(storage->ReadSettingString(kLastCustom, "Custom 2"), "kept");
-}
-
-ino_t FileIdentity(const QString& path) {
-  struct stat info {};
-  EXPECT_EQ(::stat(QFile::encodeName(path).constData(), &info), 0);
-  return info.st_ino;
-}
-
-// Each write is on disk at once; as that replaces the whole file, a write
-// of the text already stored is left out.
-TEST(QtSettingsStorage, WritesReachTheFileAtOnceUnlessNothingChanges) {
-  TempSettingsFile file;
-  const auto storage = file.Open();
-  storage->WriteSettingString(kMain, "NoTip3", "1");
-  EXPECT_TRUE(file.ReadRaw().contains("NoTip3=1"));
-  const ino_t first = FileIdentity(file.Path());
-  storage->WriteSettingString(kMain, "NoTip3", "1");
-  EXPECT_EQ(FileIdentity(file.Path()), first);
-  storage->WriteSettingString(kMain, "NoTip3", "0");
-  EXPECT_TRUE(file.ReadRaw().contains("NoTip3=0"));
 }
 
 // The program's own file, and only that: with fallbacks on, QSettings would

@@ -18,18 +18,6 @@ QStringList TipsOff(const TempSettingsFile& file) {
   return off.isEmpty() ? QStringList{"none"} : off;
 }
 
-TEST(QuickTipFlags, SingleFlagsAndTheAllTipsFlag) {
-  TempSettingsFile file;
-  const auto storage = file.Open();
-  QuickTipFlags flags(*storage);
-  EXPECT_EQ(TipsOff(file), QStringList{"none"});
-  flags.TurnTipOff(5);
-  storage->WriteSettingString(QString(), "NoTip2", "yes");  // only "1" turns a tip off
-  EXPECT_EQ(TipsOff(file), QStringList{"5"});
-  flags.TurnAllTipsOff();
-  EXPECT_EQ(TipsOff(file).size(), 21);
-}
-
 TEST(QuickTipFlags, RestoreBringsBackTipsUpTo18Only) {
   TempSettingsFile file;
   const auto storage = file.Open();

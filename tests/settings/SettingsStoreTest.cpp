@@ -54,13 +54,6 @@ QString SavedAs(const SettingsRecord& record, const QString& name) {
   return storage.values.value(name);
 }
 
-TEST(SettingsStore, FirstRunGivesTheDefaults) {
-  TempSettingsFile file;
-  SettingsRecord expected;
-  expected.lastFolder = QStringLiteral("/flipped/");  // no stored folder: start folder unchanged
-  EXPECT_EQ(LoadFrom(file, Flipped()), expected);
-}
-
 TEST(SettingsStore, EachStoredTextLoadsAsTheTableSays) {
   struct Case {
     const char *name, *stored;
@@ -99,18 +92,6 @@ TEST(SettingsStore, EachStoredTextLoadsAsTheTableSays) {
   }
 }
 
-TEST(SettingsStore, EmptyCustomCaptionFallsBackToNumberedName) {
-  TempSettingsFile file;
-  const auto storage = file.Open();
-  storage->WriteSettingString(QStringLiteral("Last Custom"), QStringLiteral("Custom 3"), "Kids");
-  storage->WriteSettingString(QStringLiteral("Last Custom"), QStringLiteral("Custom 4"), "");
-  storage->WriteSettingString(QString(), QStringLiteral("Custom 5"), "not a caption");
-  const SettingsRecord loaded = LoadFrom(file, Flipped());
-  EXPECT_EQ(loaded.customCaptions[2], QStringLiteral("Kids"));
-  EXPECT_EQ(loaded.customCaptions[3], QStringLiteral("Custom4"));
-  EXPECT_EQ(loaded.customCaptions[4], QStringLiteral("Custom5"));
-}
-
 SettingsRecord FullRecord() {
   SettingsRecord r = Flipped();
   r.seriesSpacing = QStringLiteral(" ");
@@ -126,19 +107,6 @@ TEST(SettingsStore, SavedRecordLoadsBackUnchanged) {
   TempSettingsFile file;
   SettingsStore(*file.Open()).SaveSettings(FullRecord(), false);
   EXPECT_EQ(LoadFrom(file, SettingsRecord{}), FullRecord());
-}
-
-TEST(SettingsStore, MinimisedSaveKeepsTheEarlierPlacement) {
-  TempSettingsFile file;
-  SettingsStore(*file.Open()).SaveSettings(FullRecord(), false);
-  SettingsRecord later = FullRecord();
-  later.windowTop = later.windowLeft = later.windowHeight = later.windowWidth = QStringLiteral("7");
-  later.exifDate = QStringLiteral("mmddyy");
-  SettingsStore(*file.Open()).SaveSettings(later, true);
-
-  SettingsRecord expected = FullRecord();
-  expected.exifDate = later.exifDate;
-  EXPECT_EQ(LoadFrom(file, SettingsRecord{}), expected);
 }
 
 }  // namespace

@@ -52,20 +52,5 @@ TEST(WindowPlacement, NumbersReadAlikeInEveryLocale) {
   QLocale::setDefault(previous);
 }
 
-TEST(WindowPlacement, SavedTextsRestoreTheSameGeometry) {
-  const TwipRect geometry{300, 1200, 9000, 7000};
-  const StoredPlacement texts = core::PlacementTexts(geometry);
-  EXPECT_EQ(texts.top + ' ' + texts.left + ' ' + texts.height + ' ' + texts.width,
-            "1200 300 7000 9000");
-  EXPECT_EQ(ApplyStoredPlacement(texts, {}, kScreen), geometry);
-}
-
-TEST(WindowPlacement, PixelTwipConversionFollowsTheDpi) {
-  EXPECT_EQ(core::PixelsToTwips(1024, 96), 15360);
-  EXPECT_EQ(core::PixelsToTwips(1024, 120), 12288);
-  EXPECT_EQ(core::TwipsToPixels(9735, 96), 649);
-  EXPECT_EQ(core::TwipsToPixels(9735, 192), 1298);
-}
-
 }  // namespace
 }  // namespace renvale::test
