@@ -133,8 +133,9 @@ TEST_F(FileReportTest, GeneralInfoOfMp3FilesWithAndWithoutTag) {
                 "---ID3 Data...\r\n---Tag: ID3v1\r\n---Title: Silence\r\n---Artist: piman\r\n---Album: "
                 "Album\r\n---Track #: 07\r\n---Year: 2004\r\n---Comment: linefeed\r\n");
   Add("/p/n.mp3", MakeMp3(nullptr, 10));
+  fs.SetWritable("/p/n.mp3", false);
   EXPECT_EQ(metadata::BuildGeneralInfo(fs, "/p/n.mp3"),
-            GeneralHead(4, ".") +
+            GeneralHead(4, ".", true) +
                 "---ID3 Data...\r\n** Could not retrieve ID3 info from the file. **\r\n");
   Id3v1Fields empty;
   Add("/p/e.mp3", MakeMp3(&empty, 10));  // a tag whose fields are all empty
