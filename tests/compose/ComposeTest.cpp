@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QFocusEvent>
-#include <QMainWindow>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -9,7 +8,6 @@
 #include "compose/ComposeFixture.h"
 #include "core/CoreTexts.h"
 #include "platform/FileSystem.h"
-#include "shell/MainWindowUi.h"
 #include "support/SampleAudio.h"
 #include "support/SampleImages.h"
 
@@ -167,20 +165,6 @@ TEST_F(Compose, SelectionLostToAButtonIsStillReplaced) {
   ASSERT_FALSE(Ui().Text1->hasSelectedText());
   Ui().Command6->click();
   EXPECT_EQ(NewName(), "01 .JPG");
-}
-
-TEST_F(Compose, ViewEntryCallsTheWindowsReport) {
-  QMainWindow bare;
-  shell::MainWindowUi ui;
-  ui.Setup(&bare);
-  core::RenameSession session;
-  session.SelectedCount = 1;
-  core::SettingsRecord settings;
-  int views = 0;
-  shell::ComposeController controller(ui, session, settings,
-                                      {platform::RealFileSystem(), messages, tips, [&] { ++views; }}, nullptr);
-  Trigger(controller.PrepareExifMenu(), "View EXIF && Other Info (Current File)");
-  EXPECT_EQ(views, 1);
 }
 
 }  // namespace

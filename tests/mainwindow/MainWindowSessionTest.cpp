@@ -32,29 +32,6 @@ TEST_F(MainWindowSession, StartListsTheStartFolderWithNothingSelected) {
   EXPECT_TRUE(messages.messages.empty());
 }
 
-TEST_F(MainWindowSession, OneFileIsIndividualModeAndTwoAreBatchMode) {
-  MakeFiles({"a.JPG", "b.JPG", "c.JPG"});
-  shell::MainWindow& main = Open();
-  main.show();
-  ClickRow(0);
-  EXPECT_EQ(main.Session().SelectedCount, 1);
-  EXPECT_FALSE(main.Session().BatchMode);
-  EXPECT_EQ(main.Ui().Text1->text(), "a.JPG");
-  EXPECT_EQ(main.Session().SelectedBase, "a");
-  EXPECT_EQ(main.Session().SelectedExt, ".JPG");
-
-  ClickRow(2, Qt::ControlModifier);
-  EXPECT_EQ(main.Session().SelectedCount, 2);
-  EXPECT_TRUE(main.Session().BatchMode);
-  EXPECT_TRUE(main.Ui().BatchFrame->isVisible());
-  EXPECT_EQ(main.Ui().Text1->text(), "a.JPG") << "batch mode leaves the box for the base name";
-
-  ClickRow(1);
-  EXPECT_FALSE(main.Session().BatchMode);
-  EXPECT_FALSE(main.Ui().BatchFrame->isVisible());
-  EXPECT_EQ(main.Ui().Text1->text(), "b.JPG");
-}
-
 TEST_F(MainWindowSession, SelectAllInAnEmptyFolderOnlyTellsSo) {
   shell::MainWindow& main = Open();
   main.Ui().Command14->click();
@@ -93,19 +70,6 @@ TEST_F(MainWindowSession, CtrlAInTheListSelectsAllButInATextBoxSelectsText) {
   EXPECT_EQ(main.Ui().Text1->selectedText(), "a.jpg");
 }
 
-TEST_F(MainWindowSession, RefreshRereadsTheFolderAndClearsTheSelection) {
-  MakeFiles({"a.jpg"});
-  shell::MainWindow& main = Open();
-  main.show();
-  ClickRow(0);
-  MakeFiles({"b.jpg"});
-  main.Ui().CmdRefresh->click();
-  EXPECT_EQ(ListedNames(), QStringList({"a.jpg", "b.jpg"}));
-  EXPECT_FALSE(main.FileIsSelected());
-  EXPECT_EQ(main.Ui().selectionLabel->text(), "(No File Selected)");
-  EXPECT_EQ(main.Ui().fileCountLabel->text(), "Files in folder (2):");
-}
-
 TEST_F(MainWindowSession, ANameThatIsNotUtf8IsListedAndSelectable) {
   MakeFile(QByteArray("caf\xe9.jpg"));
   shell::MainWindow& main = Open();
@@ -114,20 +78,6 @@ TEST_F(MainWindowSession, ANameThatIsNotUtf8IsListedAndSelectable) {
   ClickRow(0);
   EXPECT_EQ(main.Session().SelectedFileName.raw, QByteArray("caf\xe9.jpg"));
   EXPECT_EQ(main.Session().SelectedExt, ".jpg");
-}
-
-TEST_F(MainWindowSession, TheWelcomeTipIsOfferedOnTheFirstActivationOnly) {
-  shell::MainWindow& main = Open();
-  main.show();
-  main.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
-  QWidget other;
-  other.show();
-  other.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-  main.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&main));
-  EXPECT_EQ(tips.offered, std::vector<int>({1}));
 }
 
 TEST_F(MainWindowSession, ToolTipsFollowTheSetting) {

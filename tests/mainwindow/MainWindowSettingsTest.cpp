@@ -43,13 +43,6 @@ TEST_F(MainWindowSettings, ClosingAndReopeningRestoresFolderModeCaptionsAndPlace
   EXPECT_NEAR(second.height(), placed.height(), 1);
 }
 
-TEST_F(MainWindowSettings, AVanishedLastFolderFallsBackToItsNearestAncestor) {
-  storage->WriteSettingString("", "Last Folder", QFile::decodeName(Folder()) + "gone/deeper/");
-  shell::MainWindow& main = Open();
-  EXPECT_EQ(main.Session().CurrentFolder, Folder());
-  EXPECT_TRUE(messages.messages.empty());
-}
-
 TEST_F(MainWindowSettings, DropsOpenTheFolderOfTheFirstItemOrAreRefused) {
   MakeFiles({"a.jpg"});
   shell::MainWindow& main = Open();
@@ -111,11 +104,6 @@ TEST_F(MainWindowSettings, TheFolderListOpensAncestorsAndSubfolders) {
   EXPECT_EQ(main.Session().CurrentFolder, Folder() + "sub/");
   emit list->itemActivated(list->item(0));
   EXPECT_EQ(main.Session().CurrentFolder, "/");
-}
-
-TEST_F(MainWindowSettings, TheSeriesBoxTakesTheLoadedPlaceholders) {
-  storage->WriteSettingString("", "Placeholders", "4");
-  EXPECT_EQ(Open().Ui().Text2->text(), "0001");
 }
 
 }  // namespace

@@ -86,12 +86,12 @@ TEST_F(BatchRenameTest, BaseChecksComeBeforeAnyFile) {
 }
 
 TEST_F(BatchRenameTest, TokensPerFileInTheirOrder) {
-  Make({"s.mp3", "t.jpg", "u.JPG"});
-  Select({"s.mp3", "t.jpg", "u.JPG"});
-  tokens.id3["s.mp3"] = core::Id3Values{"Song", "Band", "Disc", "07"};
+  Make({"s.MP3", "t.jpg", "u.JPG"});
+  Select({"s.MP3", "t.jpg", "u.JPG"});
+  tokens.id3["s.MP3"] = core::Id3Values{"Song", "Band", "Disc", "07"};
   tokens.serials["t.jpg"] = "123";
   Batch("%TRACK% %title% %SERIAL% %serial% %ORIGFN%");
-  EXPECT_EQ(Folder(), (Files{{"07 Song  %serial% s.mp3", "s.mp3"}, {"07 Song 123 %serial% t.jpg", "t.jpg"},
+  EXPECT_EQ(Folder(), (Files{{"07 Song  %serial% s.MP3", "s.MP3"}, {"07 Song 123 %serial% t.jpg", "t.jpg"},
                              {"07 Song  %serial% u.JPG", "u.JPG"}}));
   EXPECT_EQ(tokens.id3Reads, 1);  // only the ".mp3" is read; the others keep its values
 }
@@ -115,23 +115,34 @@ TEST_F(BatchRenameTest, UnchangedNamesArePassedOverSilently) {
   EXPECT_EQ(view.reselected, "");
 }
 
+// A name the batch itself has just freed is free: no question about it.
+TEST_F(BatchRenameTest, NamesFreedByTheBatchAreFreeAgain) {
+  Make({"2.jpg", "3.jpg"});
+  Select({"2.jpg", "3.jpg"});
+  settings.placeholders = 0;
+  view.series = "1";
+  Batch("%SERIES%");
+  EXPECT_TRUE(port.messages.empty());
+  EXPECT_EQ(Folder(), (Files{{"1.jpg", "2.jpg"}, {"2.jpg", "3.jpg"}}));
+}
+
 TEST_F(BatchRenameTest, ExistingTargets) {
   struct Case { MessageAnswer answer; Files after; const char* series; const char* reselected; };
   const Case cases[] = {
-      {MessageAnswer::No, {{"2.jpg", "2.jpg"}, {"a.jpg", "a.jpg"}, {"3.jpg", "b.jpg"}, {"4.jpg", "c.jpg"}}, "5", "4.jpg"},
-      {MessageAnswer::Cancel, {{"2.jpg", "2.jpg"}, {"a.jpg", "a.jpg"}, {"b.jpg", "b.jpg"}, {"c.jpg", "c.jpg"}}, "2", ""},
+      {MessageAnswer::No, {{"2.jpg", "a.jpg"}, {"3.jpg", "3.jpg"}, {"b.jpg", "b.jpg"}, {"4.jpg", "c.jpg"}}, "5", "4.jpg"},
+      {MessageAnswer::Cancel, {{"2.jpg", "a.jpg"}, {"3.jpg", "3.jpg"}, {"b.jpg", "b.jpg"}, {"c.jpg", "c.jpg"}}, "3", ""},
       {MessageAnswer::Yes, {{"2.jpg", "a.jpg"}, {"3.jpg", "b.jpg"}, {"4.jpg", "c.jpg"}}, "5", "4.jpg"},
   };
   settings.placeholders = 0;
   for (const Case& c : cases) {
-    Remake({"2.jpg", "a.jpg", "b.jpg", "c.jpg"});
+    Remake({"3.jpg", "a.jpg", "b.jpg", "c.jpg"});
     Select({"a.jpg", "b.jpg", "c.jpg"});
     view.series = "2";
     view.reselected.clear();
     port.Clear();
     port.Script(c.answer);
     Batch("%SERIES%");
-    EXPECT_EQ(port.Texts(), QStringList{"Overwrite file: '2.jpg'?\nOverwriting an existing file will cause that file to be lost!"});
+    EXPECT_EQ(port.Texts(), QStringList{"Overwrite file: '3.jpg'?\nOverwriting an existing file will cause that file to be lost!"});
     EXPECT_EQ(Folder(), c.after);
     EXPECT_EQ(view.series, c.series);
     EXPECT_EQ(view.reselected, c.reselected);

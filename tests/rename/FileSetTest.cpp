@@ -4,6 +4,7 @@
 #include "core/BatchRename.h"
 #include "core/CoreTexts.h"
 #include "core/IndividualRename.h"
+#include "core/RenameFailureTexts.h"
 
 namespace renvale::test {
 namespace {
@@ -128,6 +129,20 @@ TEST_F(FileSetTest, FailingCompanionPutsTheSetBack) {
                               "File renaming operation cancelled.");
   EXPECT_EQ(Folder(), (Files{{"A.CRW", "A.CRW"}, {"A.THM", "A.THM"}, {"A.xmp", "A.xmp"}, {"B.jpg", "B.jpg"}}));
   EXPECT_EQ(view.reselected, "");
+}
+
+// The head's own taken name is asked about first: No passes over the set
+// and the batch goes on.
+TEST_F(FileSetTest, TakenHeadNameIsAskedAboutBeforeItsCompanions) {
+  Make({"A.CRW", "A.THM", "1.CRW", "1.THM", "B.jpg"});
+  Select({"A.CRW", "B.jpg"});
+  settings.placeholders = 0;
+  view.series = "1";
+  port.Script(platform::MessageAnswer::No);
+  Batch("%SERIES%");
+  EXPECT_EQ(port.Texts(), QStringList{core::OverwriteQuestionText("1.CRW")});
+  EXPECT_EQ(Folder(), (Files{{"1.CRW", "1.CRW"}, {"1.THM", "1.THM"}, {"A.CRW", "A.CRW"}, {"A.THM", "A.THM"},
+                             {"2.jpg", "B.jpg"}}));
 }
 
 TEST_F(FileSetTest, TakenCompanionNameStopsTheSetBeforeAnythingIsDeleted) {
