@@ -211,7 +211,7 @@ FileTransfer::Step FileTransfer::RenameSet(FileSet& set) {
       renameOnly_ = false;
       return CopySet(set);
     }
-    if (err == platform::kFileAlreadyExists && set.smartK > 0) {
+    if (err == platform::kFileAlreadyExists && SmartNaming()) {
       TakeNextSmartName(&set);
       i = static_cast<size_t>(-1);
       continue;
@@ -273,8 +273,7 @@ FileTransfer::Commit FileTransfer::CommitSet(FileSet& set) {
                                 : context_.fs.RenameNoReplace(member.temporary, Target(member));
     if (err == platform::kNoError) continue;
     TakeBack(set, i, true);
-    if (err == platform::kFileAlreadyExists && set.smartK > 0) {
-      // Someone took the name since it was found free: the next one.
+    if (err == platform::kFileAlreadyExists && SmartNaming()) {
       TakeNextSmartName(&set);
       i = static_cast<size_t>(-1);
       continue;
@@ -359,6 +358,12 @@ FileTransfer::Step FileTransfer::Fail(int error, bool smartName) {
 void FileTransfer::NoteSmartName(const FileSet& set) {
   if (set.smartK == 0) return;
   summary_->SmartNamed(Shown(destination_), Shown(set.head), Shown(set.members.front().to));
+}
+
+// Under SmartName a name taken since it was found free, by someone else or
+// by another file of this run, is one more clash.
+bool FileTransfer::SmartNaming() const {
+  return static_cast<OverwritePolicy>(context_.settings.moveOption) == OverwritePolicy::SmartName;
 }
 
 QByteArray FileTransfer::Target(const Member& member) const { return destination_ + member.to; }

@@ -84,6 +84,7 @@ class FileTransfer {
   Commit ReplaceFailed(int error);
   Step Fail(int error, bool smartName);
   void NoteSmartName(const FileSet& set);
+  bool SmartNaming() const;
   QByteArray Target(const Member& member) const;
   QByteArray Source(const Member& member) const;
 

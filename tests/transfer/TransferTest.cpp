@@ -145,6 +145,20 @@ TEST_F(TransferTest, SmartNameFindsTheNextFreeNameAndReportsIt) {
                               "'\n\n'IMG_0012.jpg' was changed to 'IMG_020012.jpg'.");
 }
 
+// SmartName gives "Beach.jpg" the name "Beach 01.jpg", free when found but
+// claimed by the selection's own "Beach 01.jpg" before either is named:
+// one more clash for the later one, never a loss.
+TEST_F(TransferTest, SmartNameTakenWithinTheRunIsTheNextClash) {
+  Source("Beach.jpg", "new beach");
+  Source("Beach 01.jpg", "first");
+  ASSERT_TRUE(WriteRaw(destination_ + "Beach.jpg", "old"));
+  Run(fileops::kCopyMode, fileops::OverwritePolicy::SmartName);
+  EXPECT_EQ(At("Beach.jpg"), "old");
+  EXPECT_EQ(At("Beach 01.jpg"), "new beach");
+  EXPECT_EQ(At("Beach 0101.jpg"), "first");
+  EXPECT_EQ(DestinationNames().size(), 3u);
+}
+
 TEST_F(TransferTest, DiskFullMidCopyLeavesSourceAndNoPartialTarget) {
   Source("a.jpg", "first");
   Source("b.jpg", "second");
