@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "RawFiles.h"
+#include "transfer/FakeTransferView.h"
 #include "core/SettingsRecord.h"
 #include "fileops/FileTransfer.h"
 #include "fileops/WriteProtection.h"
@@ -17,26 +18,6 @@ namespace {
 
 using fileops::FileTransfer;
 using platform::MessageAnswer;
-
-class FakeTransferView : public fileops::TransferView {
- public:
-  std::vector<platform::FileName> SelectedFiles() const override { return selected; }
-  void SetTransferring(bool on, int) override { transferring = on; }
-  void AdvanceProgress() override { ++progress; }
-  void ProcessEvents() override {}
-  bool CancelRequested() const override { return progress >= cancelAfter; }
-  void ShowMode() override {}
-  void ShowHistory() override {}
-  void RefreshFileList() override { ++refreshes; }
-  void ShowSmartNameResults(const QString& text) override { report = text; }
-
-  std::vector<platform::FileName> selected;
-  bool transferring = false;
-  int progress = 0;
-  int cancelAfter = 1 << 30;
-  int refreshes = 0;
-  QString report;
-};
 
 // A source on the disk; the destination on tmpfs when there is one, so that
 // a move copies across file systems as from a memory card.
@@ -157,6 +138,15 @@ TEST_F(TransferTest, SmartNameTakenWithinTheRunIsTheNextClash) {
   EXPECT_EQ(At("Beach 01.jpg"), "new beach");
   EXPECT_EQ(At("Beach 0101.jpg"), "first");
   EXPECT_EQ(DestinationNames().size(), 3u);
+}
+
+TEST_F(TransferTest, CancelLetsTheFileInHandFinish) {
+  Source("a.jpg", "a");
+  Source("b.jpg", "b");
+  view_.cancelAfter = 1;
+  Run(fileops::kCopyMode, fileops::OverwritePolicy::Ask);
+  EXPECT_EQ(port_.Texts(), QStringList{"The file copy operation was cancelled.\rSome files may not have been copied."});
+  EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"a.jpg"});
 }
 
 TEST_F(TransferTest, DiskFullMidCopyLeavesSourceAndNoPartialTarget) {
