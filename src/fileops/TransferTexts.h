@@ -36,6 +36,7 @@ inline const QString kExit = QStringLiteral("Exit");
 inline const QString kHelp = QStringLiteral("Help");
 inline const QString kResultsCaption = QStringLiteral("SmartName - Results Window");
 inline const QString kResultsClose = QStringLiteral("OK");
+inline const QString kProgress = QStringLiteral("Progress");
 
 // Choosing and remembering folders.
 inline const QString kChoosePrompt = QStringLiteral("Choose a destination to move or copy file(s) to...");

@@ -23,15 +23,16 @@ namespace {
 
 namespace text = fileops::transfer_text;
 
+// Only controls that show no text of their own get an accessible name: the
+// others are spoken by what they show, also after it changes.
 template <typename Widget>
-Widget* Named(Widget* widget, const char* objectName, const QString& accessibleName) {
+Widget* Named(Widget* widget, const char* objectName) {
   widget->setObjectName(QString::fromLatin1(objectName));
-  widget->setAccessibleName(accessibleName);
   return widget;
 }
 
 QPushButton* NamedButton(QWidget* parent, const char* objectName, const QString& caption) {
-  auto* button = Named(new QPushButton(caption, parent), objectName, caption);
+  auto* button = Named(new QPushButton(caption, parent), objectName);
   button->setAutoDefault(false);
   return button;
 }
@@ -42,7 +43,6 @@ MoveFilesDialog::MoveFilesDialog(Services services, QWidget* parent)
     : QDialog(parent), services_(std::move(services)) {
   setObjectName(QStringLiteral("frmMoveFiles"));
   setWindowTitle(text::kDialogCaption);
-  setAccessibleName(text::kDialogCaption);
   BuildControls();
   ShowMode();
   ShowHistory();
@@ -59,14 +59,14 @@ void MoveFilesDialog::Run(Services services, bool fileSelected, QWidget* parent)
 }
 
 void MoveFilesDialog::BuildControls() {
-  auto* label2 = Named(new QLabel(text::kDestinationLabel, this), "Label2", text::kDestinationLabel);
-  FolderName = new QLabel(this);
-  FolderName->setObjectName(QStringLiteral("FolderName"));
+  auto* label2 = Named(new QLabel(text::kDestinationLabel, this), "Label2");
+  FolderName = Named(new QLabel(this), "FolderName");
   FolderName->setFrameShape(QFrame::StyledPanel);
   FolderName->setTextInteractionFlags(Qt::TextSelectableByMouse);
   Command1 = NamedButton(this, "Command1", text::kChooseDestination);
-  auto* label1 = Named(new QLabel(text::kHistoryLabel, this), "Label1", text::kHistoryLabel);
-  FolderHistory = Named(new QListWidget(this), "FolderHistory", text::kHistoryLabel);
+  auto* label1 = Named(new QLabel(text::kHistoryLabel, this), "Label1");
+  FolderHistory = Named(new QListWidget(this), "FolderHistory");
+  FolderHistory->setAccessibleName(text::kHistoryLabel);
   label1->setBuddy(FolderHistory);
   Command2 = NamedButton(this, "Command2", text::kClearHistory);
   Command3 = NamedButton(this, "Command3", text::kTransferFiles);
@@ -74,7 +74,8 @@ void MoveFilesDialog::BuildControls() {
   Command5 = NamedButton(this, "Command5", text::kHelp);
   // The help window is not there yet.
   Command5->setEnabled(false);
-  ProgressBar1 = Named(new QProgressBar(this), "ProgressBar1", QStringLiteral("Progress"));
+  ProgressBar1 = Named(new QProgressBar(this), "ProgressBar1");
+  ProgressBar1->setAccessibleName(text::kProgress);
   ProgressBar1->setRange(0, 1);
   ProgressBar1->setValue(0);
 
@@ -105,11 +106,11 @@ void MoveFilesDialog::BuildControls() {
 
 // Index 0 is "Copy" and 1 "Move", the values the settings keep.
 QWidget* MoveFilesDialog::BuildModeFrame() {
-  auto* frame = Named(new QGroupBox(text::kModeFrame, this), "Frame2", text::kModeFrame);
+  auto* frame = Named(new QGroupBox(text::kModeFrame, this), "Frame2");
   auto* layout = new QVBoxLayout(frame);
   const QString captions[] = {text::kCopy, text::kMove};
   for (int i = 0; i < 2; ++i) {
-    auto* option = Named(new QRadioButton(captions[i], frame), "Option2", captions[i]);
+    auto* option = Named(new QRadioButton(captions[i], frame), "Option2");
     connect(option, &QRadioButton::clicked, this, [this, i] { services_.settings.transferMode = i; });
     Option2[static_cast<size_t>(i)] = option;
   }
@@ -121,11 +122,11 @@ QWidget* MoveFilesDialog::BuildModeFrame() {
 }
 
 QWidget* MoveFilesDialog::BuildPolicyFrame() {
-  auto* frame = Named(new QGroupBox(text::kPolicyFrame, this), "Frame1", text::kPolicyFrame);
+  auto* frame = Named(new QGroupBox(text::kPolicyFrame, this), "Frame1");
   auto* layout = new QVBoxLayout(frame);
   const QString captions[] = {text::kPolicyAsk, text::kPolicyNever, text::kPolicyAlways, text::kPolicySmartName};
   for (int i = 0; i < 4; ++i) {
-    auto* option = Named(new QRadioButton(captions[i], frame), "Option1", captions[i]);
+    auto* option = Named(new QRadioButton(captions[i], frame), "Option1");
     connect(option, &QRadioButton::clicked, this, [this, i] { services_.settings.moveOption = i; });
     layout->addWidget(option);
     Option1[static_cast<size_t>(i)] = option;
@@ -147,7 +148,6 @@ void MoveFilesDialog::ShowHistory() {
 void MoveFilesDialog::ShowDestination() {
   const QString& folder = services_.settings.lastMovePath;
   FolderName->setText(folder.isEmpty() ? text::kNoDestination : folder);
-  FolderName->setAccessibleName(FolderName->text());
 }
 
 void MoveFilesDialog::OnChooseFolder() {
@@ -206,7 +206,6 @@ std::vector<platform::FileName> MoveFilesDialog::SelectedFiles() const { return 
 void MoveFilesDialog::SetTransferring(bool on, int files) {
   transferring_ = on;
   Command3->setText(on ? text::kCancel : text::kTransferFiles);
-  Command3->setAccessibleName(Command3->text());
   for (QWidget* widget : {static_cast<QWidget*>(Command1), static_cast<QWidget*>(Command2),
                           static_cast<QWidget*>(Command4), static_cast<QWidget*>(FolderHistory),
                           static_cast<QWidget*>(Option1[0]->parentWidget()),

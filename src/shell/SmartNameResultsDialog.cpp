@@ -13,7 +13,6 @@ namespace text = fileops::transfer_text;
 SmartNameResultsDialog::SmartNameResultsDialog(const QString& report, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("SNResults"));
   setWindowTitle(text::kResultsCaption);
-  setAccessibleName(text::kResultsCaption);
   // Plain text: a file name is shown as it is, never read as markup.
   auto* results = new QPlainTextEdit(report, this);
   results->setObjectName(QStringLiteral("RichTextBox1"));
@@ -21,7 +20,6 @@ SmartNameResultsDialog::SmartNameResultsDialog(const QString& report, QWidget* p
   results->setReadOnly(true);
   auto* close = new QPushButton(text::kResultsClose, this);
   close->setObjectName(QStringLiteral("Command1"));
-  close->setAccessibleName(text::kResultsClose);
   connect(close, &QPushButton::clicked, this, &QDialog::accept);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(results, 1);
