@@ -69,11 +69,11 @@ int CopyContents(int in, int out) {
   return CopyByReadWrite(in, out);
 }
 
-int FinishTarget(int out, const struct stat& source) {
+int FinishTarget(int out, const struct stat& source, bool flush) {
   if (::fchmod(out, source.st_mode & 0777) != 0) return errno;
   const struct timespec times[2] = {source.st_atim, source.st_mtim};
   if (::futimens(out, times) != 0) return errno;
-  if (::fsync(out) != 0) return errno;
+  if (flush && ::fsync(out) != 0) return errno;
   return 0;
 }
 
@@ -102,21 +102,46 @@ UniqueFd CreateTarget(const QByteArray& to, bool replace, QByteArray* writtenPat
   return fd;
 }
 
-int WriteTarget(int in, UniqueFd out, const struct stat& source) {
+int WriteTarget(int in, UniqueFd out, const struct stat& source, bool flush = true) {
   int err = CopyContents(in, out.get());
-  if (err == 0) err = FinishTarget(out.get(), source);
+  if (err == 0) err = FinishTarget(out.get(), source, flush);
   if (::close(out.Release()) != 0 && err == 0) err = errno;
   return err;
 }
 
+int OpenSource(const QByteArray& from, UniqueFd* in, struct stat* source) {
+  *in = UniqueFd(::open(from.constData(), O_RDONLY | O_CLOEXEC));
+  if (!in->valid()) return ErrorNumberFromErrno(errno, ErrnoContext::File);
+  if (::fstat(in->get(), source) != 0) return ErrorNumberFromErrno(errno);
+  if (S_ISDIR(source->st_mode)) return ErrorNumberFromErrno(EISDIR);
+  return kNoError;
+}
+
 }  // namespace
 
-int CopyFileKeepingTimes(const QByteArray& from, const QByteArray& to, bool replace) {
-  UniqueFd in(::open(from.constData(), O_RDONLY | O_CLOEXEC));
-  if (!in.valid()) return ErrorNumberFromErrno(errno, ErrnoContext::File);
+int CopyToHiddenTemporary(const QByteArray& from, const QByteArray& folder, QByteArray* temporary) {
+  temporary->clear();
+  UniqueFd in;
   struct stat source;
-  if (::fstat(in.get(), &source) != 0) return ErrorNumberFromErrno(errno);
-  if (S_ISDIR(source.st_mode)) return ErrorNumberFromErrno(EISDIR);
+  if (const int err = OpenSource(from, &in, &source)) return err;
+  QByteArray pattern = folder;
+  if (!pattern.endsWith('/')) pattern += '/';
+  pattern += kTransferTemporaryPrefix;
+  pattern += "XXXXXX";
+  UniqueFd out(::mkostemp(pattern.data(), O_CLOEXEC));
+  if (!out.valid()) return ErrorNumberFromErrno(errno, ErrnoContext::Folder);
+  if (const int err = WriteTarget(in.get(), std::move(out), source, false)) {
+    ::unlink(pattern.constData());
+    return ErrorNumberFromErrno(err, ErrnoContext::Folder);
+  }
+  *temporary = pattern;
+  return kNoError;
+}
+
+int CopyFileKeepingTimes(const QByteArray& from, const QByteArray& to, bool replace) {
+  UniqueFd in;
+  struct stat source;
+  if (const int err = OpenSource(from, &in, &source)) return err;
   if (replace) {
     if (const int err = CheckReplacedTarget(to, source)) return ErrorNumberFromErrno(err);
   }

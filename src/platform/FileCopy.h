@@ -17,4 +17,12 @@ int CopyFileKeepingTimes(const QByteArray& from, const QByteArray& to, bool repl
 // files; lets that loop run on any disk.
 void ForceReadWriteCopy(bool force);
 
+// Hidden names of copies not yet given their final name. One left behind
+// was cut short by a crash; the next transfer into its folder removes it.
+inline constexpr char kTransferTemporaryPrefix[] = ".renvale-transfer-";
+
+// Copies as above to a fresh kTransferTemporaryPrefix name in `folder`,
+// returned in `temporary`, without flushing it.
+int CopyToHiddenTemporary(const QByteArray& from, const QByteArray& folder, QByteArray* temporary);
+
 }  // namespace renvale::platform

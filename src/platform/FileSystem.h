@@ -17,6 +17,10 @@ struct FileInfo {
   qint64 size = 0;
   QDateTime modified;       // UTC
   QDateTime created;        // UTC; statx birth time, else the modification time
+  // Which file this is: two paths reach the same file (or folder) exactly
+  // when both numbers agree.
+  quint64 device = 0;
+  quint64 inode = 0;
 };
 
 // An open file read at explicit offsets; never reads past what it reports.
@@ -57,6 +61,21 @@ class FileSystem {
   // before reporting success; removes a partial target on failure. With
   // replace false an existing target gives kFileAlreadyExists.
   virtual int CopyFile(const QByteArray& from, const QByteArray& to, bool replace) = 0;
+  // Renames over an existing target in one step: the target is replaced
+  // only by the complete file, never left missing. A folder target fails.
+  virtual int RenameReplacing(const QByteArray& from, const QByteArray& to) = 0;
+  // Copies contents, permissions and modification time to a fresh hidden
+  // name in `folder` (kTransferTemporaryPrefix + random letters) and returns
+  // that path in `temporary`. Nothing is flushed: FlushFileSystem does that
+  // for many copies at once. A failure removes the partial copy.
+  virtual int CopyToTemporary(const QByteArray& from, const QByteArray& folder, QByteArray* temporary) = 0;
+  // Makes everything written to the file system holding `folder` durable.
+  virtual int FlushFileSystem(const QByteArray& folder) = 0;
+  // Creates or truncates `path` and writes `contents`, but only into a
+  // regular file with no other name: a symlink is never followed and a
+  // hard link never truncated, so a name planted there cannot reach a file
+  // elsewhere. Not flushed.
+  virtual int WriteProbeFile(const QByteArray& path, const QByteArray& contents) = 0;
   // Moves `path` to the desktop's trash.
   virtual int MoveToTrash(const QByteArray& path) = 0;
 

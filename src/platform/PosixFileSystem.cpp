@@ -3,6 +3,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -67,6 +68,8 @@ QDateTime UtcFromTimestamp(qint64 seconds, quint32 nanoseconds) {
 
 void FillFromStatx(const struct statx& sx, FileInfo* info) {
   info->isDir = S_ISDIR(sx.stx_mode);
+  info->device = makedev(sx.stx_dev_major, sx.stx_dev_minor);
+  info->inode = sx.stx_ino;
   info->size = static_cast<qint64>(sx.stx_size);
   info->modified = UtcFromTimestamp(sx.stx_mtime.tv_sec, sx.stx_mtime.tv_nsec);
   // Many file systems (and older kernels) keep no birth time.
@@ -77,6 +80,8 @@ void FillFromStatx(const struct statx& sx, FileInfo* info) {
 
 void FillFromStat(const struct stat& st, FileInfo* info) {
   info->isDir = S_ISDIR(st.st_mode);
+  info->device = st.st_dev;
+  info->inode = st.st_ino;
   info->size = static_cast<qint64>(st.st_size);
   info->modified = UtcFromTimestamp(st.st_mtim.tv_sec, static_cast<quint32>(st.st_mtim.tv_nsec));
   info->created = info->modified;
@@ -182,6 +187,37 @@ int PosixFileSystem::RemoveFile(const QByteArray& path) {
 
 int PosixFileSystem::CopyFile(const QByteArray& from, const QByteArray& to, bool replace) {
   return CopyFileKeepingTimes(from, to, replace);
+}
+
+int PosixFileSystem::RenameReplacing(const QByteArray& from, const QByteArray& to) {
+  struct stat target;
+  if (::lstat(to.constData(), &target) == 0 && S_ISDIR(target.st_mode)) return ErrorNumberFromErrno(EISDIR);
+  return ::rename(from.constData(), to.constData()) == 0 ? kNoError
+                                                         : ErrorNumberFromErrno(errno, ErrnoContext::Folder);
+}
+
+int PosixFileSystem::CopyToTemporary(const QByteArray& from, const QByteArray& folder, QByteArray* temporary) {
+  return CopyToHiddenTemporary(from, folder, temporary);
+}
+
+int PosixFileSystem::FlushFileSystem(const QByteArray& folder) {
+  UniqueFd fd(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!fd.valid()) return ErrorNumberFromErrno(errno, ErrnoContext::Folder);
+  return ::syncfs(fd.get()) == 0 ? kNoError : ErrorNumberFromErrno(errno);
+}
+
+// O_NONBLOCK keeps a planted FIFO from hanging the open; truncation waits
+// until the name is known to be a regular file with a single link.
+int PosixFileSystem::WriteProbeFile(const QByteArray& path, const QByteArray& contents) {
+  UniqueFd fd(::open(path.constData(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0666));
+  if (!fd.valid()) return ErrorNumberFromErrno(errno, ErrnoContext::Folder);
+  struct stat st;
+  if (::fstat(fd.get(), &st) != 0) return ErrorNumberFromErrno(errno);
+  if (!S_ISREG(st.st_mode) || st.st_nlink != 1) return ErrorNumberFromErrno(EINVAL);
+  int err = ::ftruncate(fd.get(), 0) == 0 ? 0 : errno;
+  if (err == 0) err = WriteAll(fd.get(), contents.constData(), contents.size());
+  if (::close(fd.Release()) != 0 && err == 0) err = errno;
+  return ErrorNumberFromErrno(err);
 }
 
 int PosixFileSystem::MoveToTrash(const QByteArray& path) { return MoveFileToTrash(path); }

@@ -17,6 +17,10 @@ class PosixFileSystem : public FileSystem {
   int RenameNoReplace(const QByteArray& from, const QByteArray& to) override;
   int RemoveFile(const QByteArray& path) override;
   int CopyFile(const QByteArray& from, const QByteArray& to, bool replace) override;
+  int RenameReplacing(const QByteArray& from, const QByteArray& to) override;
+  int CopyToTemporary(const QByteArray& from, const QByteArray& folder, QByteArray* temporary) override;
+  int FlushFileSystem(const QByteArray& folder) override;
+  int WriteProbeFile(const QByteArray& path, const QByteArray& contents) override;
   int MoveToTrash(const QByteArray& path) override;
 
   int OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) override;

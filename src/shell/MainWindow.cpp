@@ -37,6 +37,7 @@
 #include "shell/ComposeController.h"
 #include "shell/FilenameAsTemp.h"
 #include "shell/ManTempDialog.h"
+#include "shell/MoveFilesDialog.h"
 #include "shell/SandR.h"
 #include "shell/MetadataTokenSource.h"
 #include "shell/PreviewPane.h"
@@ -228,6 +229,11 @@ void MainWindow::ConnectRenameButtons() {
     MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
     SandR::Open({session_, settings_, renameView_, services_.messages, services_.fs, tokens}, this);
   });
+  connect(ui_.Command13, &QPushButton::clicked, this, [this] {
+    MoveFilesDialog::Run({settings_, services_.fs, services_.messages, services_.pickFolder, renameView_,
+                          session_.CurrentFolder},
+                         FileIsSelected(), this);
+  });
   // Random numbers and file sets do not mix well; say so while it is ticked.
   auto* note = findChild<QLabel*>(QStringLiteral("RandomNote"));
   connect(ui_.Check1, &QCheckBox::toggled, note, &QLabel::setVisible);
@@ -236,7 +242,7 @@ void MainWindow::ConnectRenameButtons() {
 // Controls whose features are not built yet stay visible but unusable.
 void MainWindow::DisableLaterFeatures() {
   QWidget* const widgets[] = {
-      ui_.Command13, ui_.Command12};
+      ui_.Command12};
   for (QWidget* widget : widgets) widget->setEnabled(false);
   for (QAction* action : {ui_.optionsAction, ui_.MapNet, ui_.UnMap}) {
     action->setEnabled(false);

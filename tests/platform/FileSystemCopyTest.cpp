@@ -113,13 +113,18 @@ TEST_P(FileSystemCopy, FailureHalfWayLeavesNoPartialTarget) {
   ASSERT_TRUE(WriteRaw(folder / "kept.jpg", "old target"));
   int fresh;
   int replacing;
+  int hidden;
+  QByteArray temporary = "stale";
   {
     FileSizeLimit limit(256 * 1024);
     fresh = RealFileSystem().CopyFile(folder / "big.jpg", folder / "new.jpg", false);
     replacing = RealFileSystem().CopyFile(folder / "big.jpg", folder / "kept.jpg", true);
+    hidden = RealFileSystem().CopyToTemporary(folder / "big.jpg", folder.path(), &temporary);
   }
   EXPECT_EQ(fresh, platform::kErrnoBase + EFBIG);
   EXPECT_EQ(replacing, platform::kErrnoBase + EFBIG);
+  EXPECT_EQ(hidden, platform::kErrnoBase + EFBIG);
+  EXPECT_TRUE(temporary.isEmpty());
   EXPECT_EQ(Entries(folder), (std::vector<QByteArray>{"big.jpg", "kept.jpg"}));
   EXPECT_EQ(ReadRaw(folder / "kept.jpg"), "old target");
 }

@@ -41,8 +41,8 @@ bool RawExists(const QByteArray& path) {
   return ::lstat(path.constData(), &st) == 0;
 }
 
-ScratchFolder::ScratchFolder() {
-  QByteArray pattern = "/tmp/renvale-scratch-XXXXXX";
+ScratchFolder::ScratchFolder(const QByteArray& parent) {
+  QByteArray pattern = parent + "/renvale-scratch-XXXXXX";
   if (::mkdtemp(pattern.data()) == nullptr) std::abort();
   path_ = pattern + '/';
 }

@@ -12,10 +12,11 @@ QByteArray ReadRaw(const QByteArray& path);
 bool RawExists(const QByteArray& path);
 
 // A fresh temporary folder, as raw bytes with a trailing '/'. Removed with
-// everything in it, also names QDir cannot see.
+// everything in it, also names QDir cannot see. `parent` chooses the file
+// system, e.g. a tmpfs.
 class ScratchFolder {
  public:
-  ScratchFolder();
+  explicit ScratchFolder(const QByteArray& parent = "/tmp");
   ~ScratchFolder();
   ScratchFolder(const ScratchFolder&) = delete;
   ScratchFolder& operator=(const ScratchFolder&) = delete;

@@ -32,6 +32,25 @@ int FaultyFileSystem::CopyFile(const QByteArray& from, const QByteArray& to, boo
   return inner_.CopyFile(from, to, replace);
 }
 
+int FaultyFileSystem::RenameReplacing(const QByteArray& from, const QByteArray& to) {
+  if (const int error = Injected(Change::Rename, from, to)) return error;
+  return inner_.RenameReplacing(from, to);
+}
+
+int FaultyFileSystem::CopyToTemporary(const QByteArray& from, const QByteArray& folder, QByteArray* temporary) {
+  if (beforeCopy) beforeCopy(from);
+  if (const int error = Injected(Change::Copy, from)) {
+    temporary->clear();
+    return error;
+  }
+  return inner_.CopyToTemporary(from, folder, temporary);
+}
+
+int FaultyFileSystem::WriteProbeFile(const QByteArray& path, const QByteArray& contents) {
+  if (const int error = Injected(Change::Write, path)) return error;
+  return inner_.WriteProbeFile(path, contents);
+}
+
 int FaultyFileSystem::MoveToTrash(const QByteArray& path) {
   if (const int error = Injected(Change::Trash, path)) return error;
   return inner_.MoveToTrash(path);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "platform/FileSystem.h"
@@ -24,6 +25,11 @@ class FaultyFileSystem : public platform::FileSystem {
   void FailRemove(const QByteArray& path, int errorNumber) { faults_.push_back({Change::Remove, path, errorNumber}); }
   void FailTrash(const QByteArray& path, int errorNumber) { faults_.push_back({Change::Trash, path, errorNumber}); }
   void FailWrite(const QByteArray& path, int errorNumber) { faults_.push_back({Change::Write, path, errorNumber}); }
+  // A copy of the source `path` fails as if the disk filled up part way:
+  // nothing is left at the destination.
+  void FailCopy(const QByteArray& path, int errorNumber) { faults_.push_back({Change::Copy, path, errorNumber}); }
+  // Calls back before each copy of a source, e.g. to remove a folder mid-run.
+  std::function<void(const QByteArray&)> beforeCopy;
   void ClearFaults() { faults_.clear(); }
 
   int ListFiles(const QByteArray& folder, std::vector<QByteArray>* names) override;
@@ -33,13 +39,17 @@ class FaultyFileSystem : public platform::FileSystem {
   int RenameNoReplace(const QByteArray& from, const QByteArray& to) override;
   int RemoveFile(const QByteArray& path) override;
   int CopyFile(const QByteArray& from, const QByteArray& to, bool replace) override;
+  int RenameReplacing(const QByteArray& from, const QByteArray& to) override;
+  int CopyToTemporary(const QByteArray& from, const QByteArray& folder, QByteArray* temporary) override;
+  int FlushFileSystem(const QByteArray& folder) override { return inner_.FlushFileSystem(folder); }
+  int WriteProbeFile(const QByteArray& path, const QByteArray& contents) override;
   int MoveToTrash(const QByteArray& path) override;
   int OpenForRead(const QByteArray& path, std::unique_ptr<platform::ReadableFile>* file) override;
   int WriteWholeFile(const QByteArray& path, const QByteArray& contents) override;
   int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) override;
 
  private:
-  enum class Change { Rename, RenameFrom, Remove, Trash, Write };
+  enum class Change { Rename, RenameFrom, Remove, Trash, Write, Copy };
   struct Fault {
     Change change;
     QByteArray path;

@@ -1,5 +1,7 @@
 #include "support/MemoryFileSystem.h"
 
+#include "platform/FileCopy.h"
+
 #include <cerrno>
 #include <set>
 
@@ -133,6 +135,27 @@ int MemoryFileSystem::CopyFile(const QByteArray& from, const QByteArray& to, boo
   if (!replace && Find(to) != nullptr) return platform::kFileAlreadyExists;
   const Entry copy = *e;
   files_[Key(to)] = copy;
+  return platform::kNoError;
+}
+
+int MemoryFileSystem::RenameReplacing(const QByteArray& from, const QByteArray& to) {
+  Entry* e = Find(from);
+  if (e == nullptr) return platform::kFileNotFound;
+  Entry moved = *e;
+  files_.erase(Key(from));
+  files_[Key(to)] = moved;
+  return platform::kNoError;
+}
+
+int MemoryFileSystem::CopyToTemporary(const QByteArray& from, const QByteArray& folder, QByteArray* temporary) {
+  *temporary = platform::JoinPath(folder, platform::kTransferTemporaryPrefix + QByteArray::number(++temporaries_));
+  const int err = CopyFile(from, *temporary, false);
+  if (err != 0) temporary->clear();
+  return err;
+}
+
+int MemoryFileSystem::WriteProbeFile(const QByteArray& path, const QByteArray& contents) {
+  Add(path, contents);
   return platform::kNoError;
 }
 

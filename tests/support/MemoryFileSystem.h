@@ -4,6 +4,7 @@
 #include <map>
 #include <vector>
 
+#include "platform/ErrorNumbers.h"
 #include "platform/FileSystem.h"
 
 namespace renvale::test {
@@ -39,6 +40,10 @@ class MemoryFileSystem : public platform::FileSystem {
   int RenameNoReplace(const QByteArray& from, const QByteArray& to) override;
   int RemoveFile(const QByteArray& path) override;
   int CopyFile(const QByteArray& from, const QByteArray& to, bool replace) override;
+  int RenameReplacing(const QByteArray& from, const QByteArray& to) override;
+  int CopyToTemporary(const QByteArray& from, const QByteArray& folder, QByteArray* temporary) override;
+  int FlushFileSystem(const QByteArray&) override { return platform::kNoError; }
+  int WriteProbeFile(const QByteArray& path, const QByteArray& contents) override;
   int MoveToTrash(const QByteArray& path) override;
   int OpenForRead(const QByteArray& path, std::unique_ptr<platform::ReadableFile>* file) override;
   int WriteWholeFile(const QByteArray& path, const QByteArray& contents) override;
@@ -55,6 +60,7 @@ class MemoryFileSystem : public platform::FileSystem {
   Entry* Find(const QByteArray& path);
 
   bool foldCase_;
+  int temporaries_ = 0;
   std::map<QByteArray, Entry> files_;
 };
 

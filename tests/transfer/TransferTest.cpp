@@ -1,0 +1,249 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <algorithm>
+
+#include "RawFiles.h"
+#include "transfer/FakeTransferView.h"
+#include "core/SettingsRecord.h"
+#include "fileops/FileTransfer.h"
+#include "fileops/WriteProtection.h"
+#include "platform/ErrorNumbers.h"
+#include "support/FaultyFileSystem.h"
+#include "support/ScriptedMessagePort.h"
+
+namespace renvale::test {
+namespace {
+
+using fileops::FileTransfer;
+using platform::MessageAnswer;
+
+// A source on the disk; the destination on tmpfs when there is one, so that
+// a move copies across file systems as from a memory card.
+QByteArray DestinationParent() { return ::access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp"; }
+
+class TransferTest : public ::testing::Test {
+ protected:
+  TransferTest() : target_(DestinationParent()), destination_(target_.path()), fs_(platform::RealFileSystem()) {}
+  void Source(const QByteArray& name, const QByteArray& contents) {
+    ASSERT_TRUE(WriteRaw(source_ / name, contents));
+    view_.selected.push_back({name});
+  }
+  void Run(int mode, fileops::OverwritePolicy policy) {
+    settings_.transferMode = mode;
+    settings_.moveOption = static_cast<int>(policy);
+    FileTransfer({source_.path(), settings_, port_, fs_, view_}).Run(destination_);
+  }
+  QByteArray At(const QByteArray& name) const { return ReadRaw(destination_ + name); }
+  std::vector<QByteArray> DestinationNames() {
+    std::vector<QByteArray> names;
+    EXPECT_EQ(fs_.ListFiles(destination_, &names), 0);
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+
+  ScratchFolder source_;
+  ScratchFolder target_;
+  QByteArray destination_;
+  FaultyFileSystem fs_;
+  ScriptedMessagePort port_;
+  FakeTransferView view_;
+  core::SettingsRecord settings_;
+};
+
+TEST_F(TransferTest, MoveAcrossFileSystemsKeepsBytesAndNamesAndLeavesNoSource) {
+  Source("caf\xe9.JPG", "one");
+  Source("IMG_0002.CRW", "raw");
+  ASSERT_TRUE(WriteRaw(source_ / "IMG_0002.THM", "thumb"));
+  view_.selected.push_back({"IMG_0002.THM"});
+  ASSERT_TRUE(WriteRaw(source_ / "IMG_0002.CRW.xmp", "edits"));  // a sidecar always follows
+  Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
+  EXPECT_EQ(port_.Texts(), QStringList{"File(s) moved successfully."});
+  EXPECT_EQ(DestinationNames(), (std::vector<QByteArray>{"IMG_0002.CRW", "IMG_0002.CRW.xmp", "IMG_0002.THM", "caf\xe9.JPG"}));
+  EXPECT_EQ(At("caf\xe9.JPG"), "one");
+  EXPECT_EQ(At("IMG_0002.CRW.xmp"), "edits");
+  EXPECT_FALSE(RawExists(source_ / "caf\xe9.JPG"));
+  EXPECT_FALSE(RawExists(source_ / "IMG_0002.THM"));
+  EXPECT_EQ(view_.progress, 3);
+  EXPECT_EQ(view_.refreshes, 1);
+  EXPECT_FALSE(view_.transferring);
+}
+
+// Each policy and answer against a file already in the destination.
+TEST_F(TransferTest, PoliciesAndAnswers) {
+  using P = fileops::OverwritePolicy;
+  struct Row {
+    P policy;
+    std::vector<MessageAnswer> answers;
+    QByteArray kept;      // what the destination's a.jpg holds afterwards
+    QStringList texts;    // every message, in order
+  };
+  const QString ask = "The file 'a.jpg' already exists in the destination folder.\rOverwrite the existing file?  "
+                      "The existing file will be lost!";
+  const QString skipped = "File(s) copied successfully.\r\rSome files were not copied because they already existed "
+                          "in destination folder.";
+  const Row rows[] = {
+      {P::Ask, {MessageAnswer::Yes}, "new", {ask, "File(s) copied successfully."}},
+      {P::Ask, {MessageAnswer::No}, "old", {ask, skipped}},
+      {P::Ask, {MessageAnswer::Cancel, MessageAnswer::No, MessageAnswer::Cancel, MessageAnswer::Yes}, "old",
+       {ask, "Cancel the file copy operation?", ask, "Cancel the file copy operation?",
+        "The file copy operation was cancelled.\rSome files may not have been copied."}},
+      {P::Never, {}, "old", {skipped}},
+      {P::Always, {}, "new",
+       {"File(s) copied successfully.\r\rSome files in destination folder were overwritten because they already "
+        "existed, and 'Always Overwrite' was enabled."}},
+  };
+  for (const Row& row : rows) {
+    port_.Clear();
+    view_.selected.clear();
+    Source("a.jpg", "new");
+    ASSERT_TRUE(WriteRaw(destination_ + "a.jpg", "old"));
+    for (MessageAnswer answer : row.answers) port_.Script(answer);
+    Run(fileops::kCopyMode, row.policy);
+    EXPECT_EQ(At("a.jpg"), row.kept);
+    EXPECT_EQ(port_.Texts(), row.texts);
+    EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"a.jpg"});
+    if (!port_.messages.empty() && row.policy == P::Ask) {
+      EXPECT_EQ(port_.messages.front().defaultButton, MessageAnswer::No);
+    }
+  }
+}
+
+TEST_F(TransferTest, SmartNameFindsTheNextFreeNameAndReportsIt) {
+  Source("IMG_0012.jpg", "new");
+  ASSERT_TRUE(WriteRaw(destination_ + "IMG_0012.jpg", "old"));
+  ASSERT_TRUE(WriteRaw(destination_ + "IMG_010012.jpg", "older"));
+  Run(fileops::kMoveMode, fileops::OverwritePolicy::SmartName);
+  EXPECT_EQ(At("IMG_020012.jpg"), "new");
+  EXPECT_EQ(port_.Texts(),
+            (QStringList{"SmartName changed the names of some of the files because the destination\rfolder contained "
+                         "identical filename(s).  Click OK for results.",
+                         "File(s) moved successfully.\r\rSome source file(s) had sub-series #s added because "
+                         "destination folder contained identical filename(s) (SmartName)."}));
+  EXPECT_EQ(view_.report, "SmartName made the following changes to filenames while moving them to the destination "
+                          "folder:\n\nDestination Folder: '" + QString::fromUtf8(destination_) +
+                              "'\n\n'IMG_0012.jpg' was changed to 'IMG_020012.jpg'.");
+}
+
+// SmartName gives "Beach.jpg" the name "Beach 01.jpg", free when found but
+// claimed by the selection's own "Beach 01.jpg" before either is named:
+// one more clash for the later one, never a loss.
+TEST_F(TransferTest, SmartNameTakenWithinTheRunIsTheNextClash) {
+  Source("Beach.jpg", "new beach");
+  Source("Beach 01.jpg", "first");
+  ASSERT_TRUE(WriteRaw(destination_ + "Beach.jpg", "old"));
+  Run(fileops::kCopyMode, fileops::OverwritePolicy::SmartName);
+  EXPECT_EQ(At("Beach.jpg"), "old");
+  EXPECT_EQ(At("Beach 01.jpg"), "new beach");
+  EXPECT_EQ(At("Beach 0101.jpg"), "first");
+  EXPECT_EQ(DestinationNames().size(), 3u);
+}
+
+TEST_F(TransferTest, CancelLetsTheFileInHandFinish) {
+  Source("a.jpg", "a");
+  Source("b.jpg", "b");
+  view_.cancelAfter = 1;
+  Run(fileops::kCopyMode, fileops::OverwritePolicy::Ask);
+  EXPECT_EQ(port_.Texts(), QStringList{"The file copy operation was cancelled.\rSome files may not have been copied."});
+  EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"a.jpg"});
+}
+
+TEST_F(TransferTest, DiskFullMidCopyLeavesSourceAndNoPartialTarget) {
+  Source("a.jpg", "first");
+  Source("b.jpg", "second");
+  fs_.FailCopy(source_ / "b.jpg", platform::kErrnoBase + 28);
+  Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
+  EXPECT_EQ(port_.Texts(), QStringList{"Could not move file(s).\rError #1028"});
+  EXPECT_EQ(ReadRaw(source_ / "b.jpg"), "second");
+  // What was copied before the failure still completes its move.
+  EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"a.jpg"});
+  EXPECT_FALSE(RawExists(source_ / "a.jpg"));
+}
+
+TEST_F(TransferTest, VanishedDestinationIs76AndLeavesTheHistory) {
+  Source("a.jpg", "a");
+  settings_.folderHistory[0] = QString::fromUtf8(destination_);
+  fs_.beforeCopy = [this](const QByteArray&) { QDir(QString::fromUtf8(destination_)).removeRecursively(); };
+  Run(fileops::kCopyMode, fileops::OverwritePolicy::Ask);
+  EXPECT_EQ(port_.Texts(), QStringList{"Could not copy file(s).\rThe destination folder no longer exists, and has been "
+                                       "removed from folder history.\rPlease choose another folder or recreate the "
+                                       "missing one."});
+  EXPECT_TRUE(settings_.folderHistory[0].isEmpty());
+  EXPECT_EQ(ReadRaw(source_ / "a.jpg"), "a");
+}
+
+TEST_F(TransferTest, ReadOnlyDestinationIs75AndSourceDeleteFailureAsks) {
+  Source("a.jpg", "a");
+  fs_.FailCopy(source_ / "a.jpg", platform::kPathFileAccess);
+  Run(fileops::kCopyMode, fileops::OverwritePolicy::Ask);
+  EXPECT_EQ(port_.Texts(), QStringList{"Could not copy file(s).\rThe destination folder is 'Read Only' or Write Protected."});
+
+  port_.Clear();
+  fs_.ClearFaults();
+  fs_.FailRemove(source_ / "a.jpg", platform::kPathFileAccess);
+  port_.Script(MessageAnswer::Ok);
+  Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
+  EXPECT_EQ(port_.Texts(), (QStringList{"Could not delete source file after copying to destination.\rThe source file "
+                                        "or folder is 'Read Only' or Write Protected.\rClick OK to continue moving "
+                                        "files or Cancel to cancel the file move operation.",
+                                        "File(s) moved successfully.\r\rSome source files could not be deleted."}));
+}
+
+TEST_F(TransferTest, ProtectedSourceOffersCopyAndSameFolderIsRefused) {
+  Source("a.jpg", "a");
+  fs_.FailWrite(source_ / "RV_TestFile", platform::kPathFileAccess);
+  port_.Script(MessageAnswer::No);
+  Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
+  ASSERT_EQ(port_.Texts().size(), 2);
+  EXPECT_EQ(port_.Texts()[1], "The file move operation was cancelled.");
+  EXPECT_FALSE(RawExists(destination_ + "a.jpg"));
+
+  port_.Clear();
+  port_.Script(MessageAnswer::Yes);
+  Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
+  EXPECT_EQ(settings_.transferMode, fileops::kCopyMode);
+  EXPECT_EQ(port_.Texts().back(), "File(s) copied successfully.");
+  EXPECT_EQ(ReadRaw(source_ / "a.jpg"), "a");
+
+  port_.Clear();
+  ASSERT_EQ(::symlink(source_.path().constData(), (target_ / "link").constData()), 0);
+  FileTransfer({source_.path(), settings_, port_, fs_, view_}).Run(target_ / "link");
+  EXPECT_EQ(port_.Texts(), QStringList{"File(s) could not be copied.  The destination folder is the same as source!\r"
+                                       "Please choose a different destination folder."});
+}
+
+TEST_F(TransferTest, CompanionThatCannotFollowTakesItsHeadBack) {
+  Source("IMG_0002.CRW", "raw");
+  Source("IMG_0002.THM", "thumb");
+  fs_.FailRename(destination_ + "IMG_0002.THM", platform::kErrnoBase + 5);
+  ASSERT_TRUE(WriteRaw(destination_ + ".renvale-transfer-left", "crash"));
+  Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
+  EXPECT_EQ(port_.Texts(), QStringList{"Could not move file(s).\rError #1005"});
+  EXPECT_TRUE(DestinationNames().empty());
+  EXPECT_EQ(ReadRaw(source_ / "IMG_0002.CRW"), "raw");
+  EXPECT_EQ(ReadRaw(source_ / "IMG_0002.THM"), "thumb");
+}
+
+TEST(WriteProbe, WritesAndDeletesTheVeryNameAndRefusesPlantedNames) {
+  ScratchFolder folder;
+  auto& fs = platform::RealFileSystem();
+  EXPECT_FALSE(fileops::IsWriteProtected(fs, folder.path()));
+  EXPECT_FALSE(RawExists(folder / "RV_TestFile"));
+
+  ASSERT_TRUE(WriteRaw(folder / "elsewhere", "precious"));
+  ASSERT_EQ(::symlink((folder / "elsewhere").constData(), (folder / "RV_TestFile").constData()), 0);
+  EXPECT_TRUE(fileops::IsWriteProtected(fs, folder.path()));
+  ASSERT_EQ(::unlink((folder / "RV_TestFile").constData()), 0);
+  ASSERT_EQ(::link((folder / "elsewhere").constData(), (folder / "RV_TestFile").constData()), 0);
+  EXPECT_TRUE(fileops::IsWriteProtected(fs, folder.path()));
+  EXPECT_EQ(ReadRaw(folder / "elsewhere"), "precious");
+
+  FaultyFileSystem readOnly(fs);
+  readOnly.FailWrite(folder / "RV_TestFile", platform::kPathFileAccess);
+  EXPECT_TRUE(fileops::IsWriteProtected(readOnly, folder.path()));
+  EXPECT_TRUE(fileops::IsWriteProtected(fs, folder / "missing/"));
+}
+
+}  // namespace
+}  // namespace renvale::test
