@@ -31,8 +31,12 @@
 #include "platform/ErrorNumbers.h"
 #include "platform/FileSystem.h"
 #include "platform/MessagePort.h"
+#include "platform/widgets/DesktopLinks.h"
+#include "platform/widgets/HelpWindow.h"
 #include "platform/widgets/WindowSystem.h"
+#include "shell/AboutDialog.h"
 #include "shell/BrowsePane.h"
+#include "shell/BuildInfo.h"
 #include "shell/ButtonEditor.h"
 #include "shell/ComposeController.h"
 #include "shell/FilenameAsTemp.h"
@@ -92,6 +96,7 @@ MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
   Timer1.setInterval(0);
   ConnectSignals();
   DisableLaterFeatures();
+  ConnectHelp();
   BuildComposeControllers();
   ConnectRenameButtons();
   qApp->installEventFilter(this);
@@ -241,13 +246,28 @@ void MainWindow::ConnectRenameButtons() {
 
 // Controls whose features are not built yet stay visible but unusable.
 void MainWindow::DisableLaterFeatures() {
-  QWidget* const widgets[] = {
-      ui_.Command12};
-  for (QWidget* widget : widgets) widget->setEnabled(false);
   for (QAction* action : {ui_.optionsAction, ui_.MapNet, ui_.UnMap}) {
     action->setEnabled(false);
   }
-  for (QAction* action : ui_.HelpMen) action->setEnabled(false);
+}
+
+// The Help menu's entries in their order: two topics, two addresses of the
+// project's (each usable only when the build gave one), and About.
+void MainWindow::ConnectHelp() {
+  platform::AttachHelp(this, nullptr, platform::HelpTopic::Interface);
+  connect(ui_.Command12, &QPushButton::clicked, this,
+          [this] { platform::ShowHelp(this, platform::HelpTopic::BatchRenaming); });
+  connect(ui_.HelpMen[0], &QAction::triggered, this,
+          [this] { platform::ShowHelp(this, platform::HelpTopic::Overview); });
+  connect(ui_.HelpMen[1], &QAction::triggered, this,
+          [this] { platform::ShowHelp(this, platform::HelpTopic::Interface); });
+  const QString addresses[] = {QString::fromUtf8(build::kWebsiteUrl), QString::fromUtf8(build::kForumUrl)};
+  for (size_t n = 0; n < 2; ++n) {
+    ui_.HelpMen[n + 2]->setEnabled(!addresses[n].isEmpty());
+    connect(ui_.HelpMen[n + 2], &QAction::triggered, this,
+            [address = addresses[n]] { platform::OpenInBrowser(address); });
+  }
+  connect(ui_.HelpMen[4], &QAction::triggered, this, [this] { AboutDialog::Run(this); });
 }
 
 void MainWindow::ApplyBrowseMode(int mode) {

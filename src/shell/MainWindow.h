@@ -96,6 +96,7 @@ class MainWindow : public QMainWindow {
   bool HandleEnter();
   void OfferBoxTips(QObject* watched);
   void DisableLaterFeatures();
+  void ConnectHelp();
   void BuildComposeControllers();
   void ConnectRenameButtons();
   template <typename Operation, typename Action>

@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "platform/AppPaths.h"
+#include "platform/widgets/HelpWindow.h"
 #include "shell/ButtonTexts.h"
 #include "shell/MainWindowUi.h"
 
@@ -72,7 +73,7 @@ void ManTempDialog::BuildControls() {
   auto* buttons = new QHBoxLayout;
   QPushButton* done = NamedButton(this, "cmdDone", texts::kDoneButton);
   QPushButton* help = NamedButton(this, "cmdHelp", texts::kHelpButton);
-  help->setEnabled(false);  // the help pages come with the help window
+  platform::AttachHelp(this, help, platform::HelpTopic::Templates);
   buttons->addStretch(1);
   buttons->addWidget(done);
   buttons->addWidget(help);

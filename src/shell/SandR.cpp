@@ -14,6 +14,7 @@
 
 #include "fileops/FileopsTexts.h"
 #include "fileops/SearchReplace.h"
+#include "platform/widgets/HelpWindow.h"
 #include "shell/SandRresults.h"
 
 namespace renvale::shell {
@@ -77,7 +78,7 @@ void SandR::BuildControls() {
   Command2 = NamedButton(this, "Command2", texts::kExecuteButton);
   Command1 = NamedButton(this, "Command1", texts::kExitButton);
   Command3 = NamedButton(this, "Command3", texts::kHelpButton);
-  Command3->setEnabled(false);  // the help pages come with the help window
+  platform::AttachHelp(this, Command3, platform::HelpTopic::SearchReplace);
   auto* buttons = new QHBoxLayout;
   buttons->addWidget(Command2);
   buttons->addStretch(1);

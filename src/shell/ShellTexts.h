@@ -56,4 +56,9 @@ inline QString PictureCaption(const QString& name, int width, int height) {
          QStringLiteral("h");
 }
 
+// The About window.
+inline const QString kAboutCaption = QStringLiteral("About ");
+inline const QString kAboutDescription = QStringLiteral("The easy way to rename digital photos, and more!");
+inline const QString kAboutOk = QStringLiteral("OK");
+
 }  // namespace renvale::shell::texts
