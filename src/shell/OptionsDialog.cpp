@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -54,6 +55,16 @@ QHBoxLayout* SampleRow(QWidget* parent, QLabel* sample) {
   row->addWidget(caption);
   row->addWidget(sample, 1);
   return row;
+}
+
+// Every format is short: the list is as wide and as tall as its entries, so
+// that none is cut off and none needs scrolling.
+void FitToEntries(QListWidget* list) {
+  const int frame = 2 * list->frameWidth();
+  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list->setFixedWidth(list->sizeHintForColumn(0) + frame + list->verticalScrollBar()->sizeHint().width());
+  list->setFixedHeight(list->sizeHintForRow(0) * list->count() + frame);
 }
 
 }  // namespace
@@ -157,6 +168,8 @@ QGroupBox* OptionsDialog::BuildFormats() {
                                     texts::kTimeSampleDesign));
   DateFormat->addItems(core::DateFormatChoices());
   TimeFormat->addItems(core::TimeFormatChoices());
+  FitToEntries(DateFormat);
+  FitToEntries(TimeFormat);
   connect(DateFormat, &QListWidget::currentRowChanged, this,
           [this](int row) { React(OptionControl::DateFormat, row); });
   connect(TimeFormat, &QListWidget::currentRowChanged, this,
@@ -178,6 +191,7 @@ QGroupBox* OptionsDialog::BuildFormatList(const char* groupName, const QString& 
   layout->addWidget(choose, 0, 0, Qt::AlignTop);
   layout->addWidget(list, 0, 1);
   layout->addLayout(SampleRow(group, sample), 1, 0, 1, 2);
+  layout->setRowStretch(2, 1);
   return group;
 }
 
