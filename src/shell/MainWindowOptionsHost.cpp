@@ -1,7 +1,5 @@
 #include "shell/MainWindowOptionsHost.h"
 
-#include <QLabel>
-
 #include "core/CoreTexts.h"
 #include "core/RenameView.h"
 #include "core/SeriesCounter.h"
