@@ -42,6 +42,7 @@
 #include "shell/FilenameAsTemp.h"
 #include "shell/ManTempDialog.h"
 #include "shell/MoveFilesDialog.h"
+#include "shell/OptionsDialog.h"
 #include "shell/SandR.h"
 #include "shell/MetadataTokenSource.h"
 #include "shell/PreviewPane.h"
@@ -85,7 +86,8 @@ void SetupOneShot(QTimer& timer, const char* name) {
 MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
     : QMainWindow(parent),
       services_(std::move(services)),
-      renameView_(*this) {
+      renameView_(*this),
+      optionsHost_(*this, renameView_) {
   ui_.Setup(this);
   files_ = new FileListModel(this);
   ui_.File1->setModel(files_);
@@ -121,6 +123,7 @@ void MainWindow::Start(const QByteArray& startPath) {
   startPath_ = startPath;
   if (!startPath.isEmpty()) startPlace_ = ResolveStartPath(services_.fs, startPath);
   ApplyLoadedSettings();
+  options_ = new OptionsDialog(settings_, services_.settings, services_.messages, optionsHost_, this);
   FinishStartPath();
   Timer1.start();
 }
@@ -189,6 +192,9 @@ void MainWindow::ConnectSignals() {
   connect(ui_.browse, &BrowsePane::ChooseFolderClicked, this, &MainWindow::OnChooseFolder);
   connect(ui_.browse, &BrowsePane::UrlsDropped, this, &MainWindow::OnUrlsDropped);
   connect(ui_.vEX, &QAction::triggered, this, &MainWindow::ShowFileReport);
+  connect(ui_.optionsAction, &QAction::triggered, this, [this] {
+    if (options_ != nullptr) options_->Open();
+  });
   connect(&FNDelay, &QTimer::timeout, this, [this] { services_.tips.ShowQuickTip(kNewNameTip); });
   connect(&SerDelay, &QTimer::timeout, this, [this] { services_.tips.ShowQuickTip(kSeriesBoxTip); });
   // Once the window is up, the file list takes the keyboard so that arrow
@@ -246,7 +252,7 @@ void MainWindow::ConnectRenameButtons() {
 
 // Controls whose features are not built yet stay visible but unusable.
 void MainWindow::DisableLaterFeatures() {
-  for (QAction* action : {ui_.optionsAction, ui_.MapNet, ui_.UnMap}) {
+  for (QAction* action : {ui_.MapNet, ui_.UnMap}) {
     action->setEnabled(false);
   }
 }

@@ -9,6 +9,7 @@
 #include "core/RenameSession.h"
 #include "core/SettingsRecord.h"
 #include "platform/MountList.h"
+#include "shell/MainWindowOptionsHost.h"
 #include "shell/MainWindowRenameView.h"
 #include "shell/MainWindowUi.h"
 #include "shell/StartPath.h"
@@ -22,6 +23,7 @@ class SettingsStorage;
 namespace renvale::shell {
 
 class FileListModel;
+class OptionsDialog;
 class PreviewPane;
 class QuickTipOffer;
 
@@ -68,6 +70,8 @@ class MainWindow : public QMainWindow {
   bool FileIsSelected() const;
   void ApplyToolTips(bool on);
   void ApplyFileFilter(int filter);
+  // Fonts follow the window's size while "Resize fonts too" is on.
+  void ScaleFonts();
   // Saves every setting and closes every window; both the close button and
   // File > Exit end here.
   void Shutdown();
@@ -101,7 +105,6 @@ class MainWindow : public QMainWindow {
   void ConnectRenameButtons();
   template <typename Operation, typename Action>
   void RunRename(Action action);
-  void ScaleFonts();
 
   MainWindowServices services_;
   QByteArray startPath_;
@@ -112,6 +115,8 @@ class MainWindow : public QMainWindow {
   FileListModel* files_ = nullptr;
   PreviewPane* preview_ = nullptr;
   MainWindowRenameView renameView_;
+  MainWindowOptionsHost optionsHost_;
+  OptionsDialog* options_ = nullptr;  // made once the settings are loaded
   std::vector<platform::Volume> drives_;
   QTimer FNDelay;
   QTimer SerDelay;

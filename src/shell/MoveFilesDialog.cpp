@@ -16,6 +16,7 @@
 #include "fileops/FolderHistory.h"
 #include "fileops/TransferTexts.h"
 #include "platform/MessagePort.h"
+#include "platform/widgets/HelpWindow.h"
 #include "shell/SmartNameResultsDialog.h"
 
 namespace renvale::shell {
@@ -72,8 +73,7 @@ void MoveFilesDialog::BuildControls() {
   Command3 = NamedButton(this, "Command3", text::kTransferFiles);
   Command4 = NamedButton(this, "Command4", text::kExit);
   Command5 = NamedButton(this, "Command5", text::kHelp);
-  // The help window is not there yet.
-  Command5->setEnabled(false);
+  platform::AttachHelp(this, Command5, platform::HelpTopic::MoveCopy);
   ProgressBar1 = Named(new QProgressBar(this), "ProgressBar1");
   ProgressBar1->setAccessibleName(text::kProgress);
   ProgressBar1->setRange(0, 1);
