@@ -7,7 +7,7 @@
 #include "platform/widgets/FolderPicker.h"
 #include "platform/widgets/QtMessagePort.h"
 #include "shell/MainWindow.h"
-#include "shell/SilentQuickTips.h"
+#include "shell/ShownQuickTips.h"
 
 namespace {
 
@@ -34,7 +34,7 @@ int main(int argc, char** argv) {
 
   platform::QtSettingsStorage settings;
   platform::QtMessagePort messages;
-  shell::SilentQuickTips tips;
+  shell::ShownQuickTips tips(settings, messages);
   shell::MainWindowServices services{platform::RealFileSystem(), messages, settings, tips,
                                      platform::PickFolder, platform::MountList::Current,
                                      platform::CurrentDirectory};

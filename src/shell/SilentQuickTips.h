@@ -4,8 +4,8 @@
 
 namespace renvale::shell {
 
-// Until the quick-tip window exists, tips are offered to no one: the call
-// points are in place, and nothing pops up.
+// Tips offered to no one, for runs that nobody watches (the benchmarks):
+// a modal tip there would wait for a click forever.
 class SilentQuickTips : public QuickTipOffer {
  public:
   void ShowQuickTip(int) override {}
