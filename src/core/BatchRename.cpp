@@ -13,6 +13,9 @@ namespace renvale::core {
 namespace {
 
 constexpr int kBatchTip = 15;
+// Told when the person stops at a duplicate-name warning: the moment they
+// look for a way to make every name unique.
+constexpr int kUniqueNamesTip = 21;
 
 // Keeps the file list from taking clicks while the batch lets window events
 // run, and lets go on every way out.
@@ -64,8 +67,12 @@ bool BatchRename::BaseAccepted(const QString& base) {
     return false;
   }
   if (!verdict.IsQuestion()) return true;
-  return context_.messages.Ask(verdict.text, platform::MessageButtons::YesNo,
-                               platform::MessageIcon::Warning) == platform::MessageAnswer::Yes;
+  if (context_.messages.Ask(verdict.text, platform::MessageButtons::YesNo, platform::MessageIcon::Warning) ==
+      platform::MessageAnswer::Yes) {
+    return true;
+  }
+  context_.view.ShowQuickTip(kUniqueNamesTip);
+  return false;
 }
 
 // The extension guard makes the selected file's extension the end of the

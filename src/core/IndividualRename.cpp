@@ -13,6 +13,8 @@ namespace renvale::core {
 namespace {
 
 constexpr int kRenameDoneTip = 10;
+constexpr int kRevertTip = 7;
+constexpr int kClearTip = 8;
 
 }  // namespace
 
@@ -124,6 +126,7 @@ void IndividualRename::ShowRenamedFile(const QString& newName) {
 }
 
 void IndividualRename::RevertNewName() {
+  context_.view.ShowQuickTip(kRevertTip);
   const RenameSession& session = context_.session;
   if (session.SelectedFileName.raw.isEmpty()) {
     context_.messages.Notify(texts::kNoFileIsSelected);
@@ -133,6 +136,9 @@ void IndividualRename::RevertNewName() {
                                                         context_.settings.forceLowerCaseExtension));
 }
 
-void IndividualRename::ClearNewName() { context_.view.SetNewNameText(QString()); }
+void IndividualRename::ClearNewName() {
+  context_.view.ShowQuickTip(kClearTip);
+  context_.view.SetNewNameText(QString());
+}
 
 }  // namespace renvale::core

@@ -11,12 +11,15 @@ using platform::MessageAnswer;
 using platform::MessageButtons;
 using platform::MessageIcon;
 
+constexpr int kDeleteTip = 6;
+
 }  // namespace
 
 DeleteToTrash::DeleteToTrash(const core::RenameContext& context) : context_(context) {}
 
 void DeleteToTrash::DeleteSelected() {
   if (context_.session.Busy) return;
+  context_.view.ShowQuickTip(kDeleteTip);
   folder_ = context_.session.CurrentFolder;
   const bool asked = context_.session.BatchMode ? DeleteSeveral() : DeleteCurrent();
   if (asked) ShowFolderAfterwards();

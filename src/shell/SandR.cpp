@@ -9,6 +9,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -25,6 +26,7 @@ namespace {
 
 // As often as a screen refreshes; drawing more often only slows a run down.
 constexpr qint64 kEventIntervalMs = 50;
+constexpr int kSearchReplaceTip = 17;
 
 // A caption as it shows: "&&" is one ampersand.
 QString Shown(const QString& caption) { return QString(caption).replace(QStringLiteral("&&"), QStringLiteral("&")); }
@@ -55,6 +57,8 @@ SandR::SandR(const core::RenameContext& context, QWidget* parent) : QDialog(pare
 void SandR::Open(const core::RenameContext& context, QWidget* parent) {
   if (!fileops::SearchReplace::SelectionAllowsSearch(context)) return;
   SandR dialog(context, parent);
+  // The tip comes once the dialog is up, over it, where the person now looks.
+  QTimer::singleShot(0, &dialog, [&context] { context.view.ShowQuickTip(kSearchReplaceTip); });
   dialog.exec();
 }
 

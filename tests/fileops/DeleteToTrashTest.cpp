@@ -28,6 +28,7 @@ TEST_F(DeleteToTrashRun, SeveralSelectedGoToTheTrashAfterOneQuestionAndTheListIs
                                        "Could not move file 'del2.jpg' to Recycle Bin!"}));
   EXPECT_EQ(port.messages[0].title, "Confirm Delete");
   EXPECT_EQ(port.messages[0].defaultButton, MessageAnswer::No);
+  EXPECT_EQ(view.tips, std::vector<int>{6});
   QByteArray trashed;
   platform::RealFileSystem().ReadWholeFile(qgetenv("XDG_DATA_HOME") + "/Trash/files/del\xff" "1.jpg", 1 << 20, &trashed);
   EXPECT_EQ(trashed, "del\xff" "1.jpg");

@@ -183,6 +183,9 @@ TEST_F(IndividualRenameTest, RevertNeedsASelectionAndForcesTheCase) {
   settings.forceLowerCaseExtension = true;
   rename.RevertNewName();
   EXPECT_EQ(view.newName, "a.jpg");
+  rename.ClearNewName();
+  EXPECT_EQ(view.newName, "");
+  EXPECT_EQ(view.tips, (std::vector<int>{7, 7, 8}));
 }
 
 }  // namespace
