@@ -38,7 +38,7 @@ void QuickTip::BuildControls() {
   TipText->setAccessibleName(texts::kQuickTipCaption);
   TipText->setReadOnly(true);
   TipText->setPlainText(texts::kQuickTipDesignText);
-  TipText->setMinimumSize(420, 200);
+  TipText->setMinimumSize(480, 330);
 
   NoMoreTip = new QCheckBox(texts::kNoMoreTip, this);
   NoMoreTip->setObjectName(QStringLiteral("NoMoreTip"));
