@@ -8,6 +8,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "core/CoreTexts.h"
@@ -23,6 +24,8 @@ namespace renvale::shell {
 namespace {
 
 namespace text = fileops::transfer_text;
+
+constexpr int kTransferTip = 16;
 
 // Only controls that show no text of their own get an accessible name: the
 // others are spoken by what they show, also after it changes.
@@ -55,7 +58,10 @@ void MoveFilesDialog::Run(Services services, bool fileSelected, QWidget* parent)
     services.messages.Notify(core::texts::kNoFileIsSelected);
     return;
   }
+  core::RenameView& mainView = services.mainView;
   MoveFilesDialog dialog(std::move(services), parent);
+  // The tip comes once the dialog is up, over it, where the person now looks.
+  QTimer::singleShot(0, &dialog, [&mainView] { mainView.ShowQuickTip(kTransferTip); });
   dialog.exec();
 }
 

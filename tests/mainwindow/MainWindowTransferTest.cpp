@@ -56,6 +56,7 @@ TEST_F(MainWindowFixture, TransferMovesTheSelectionThroughTheDialog) {
   EXPECT_TRUE(QFile::exists(target.path() + "/b.JPG"));
   EXPECT_EQ(main.Settings().lastMovePath, target.path() + '/');
   EXPECT_EQ(main.Settings().folderHistory[0], target.path() + '/');
+  EXPECT_EQ(tips.offered, std::vector<int>{16});
 }
 
 }  // namespace
