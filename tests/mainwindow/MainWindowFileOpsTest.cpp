@@ -50,6 +50,7 @@ TEST_F(MainWindowFileOps, SearchAndReplaceThroughTheDialogThenDelTrashesTheSelec
   EXPECT_EQ(messages.Last().text, "Are you sure you want to move all selected files to the Recycle Bin?");
   EXPECT_EQ(ListedNames(), QStringList{"Pic_2.jpg"});
   EXPECT_EQ(main.Ui().fileCountLabel->text(), "Files in folder (1):");
+  EXPECT_EQ(tips.offered, (std::vector<int>{17, 6}));
 }
 
 }  // namespace
