@@ -12,11 +12,6 @@
 namespace renvale::platform {
 namespace {
 
-TEST(QtMessagePort, EveryLineBreakStyleIsOneBreak) {
-  EXPECT_EQ(QtMessagePort::NormaliseLineBreaks("a\rb\nc\r\nd"), "a\nb\nc\nd");
-  EXPECT_EQ(QtMessagePort::NormaliseLineBreaks("a\r\n\r\nb"), "a\n\nb");
-}
-
 // Presses `key` on the message box as soon as it is up, and notes what it showed.
 struct BoxDriver {
   explicit BoxDriver(Qt::Key pressed) : key(pressed) {}
@@ -40,31 +35,34 @@ TEST(QtMessagePort, ShowsTheMessageAndMapsTheAnswer) {
   QtMessagePort port;
   BoxDriver driver(Qt::Key_Y);
   driver.Arm();
-  const MessageAnswer answer =
-      port.Ask("Overwrite?\rLost!", MessageButtons::YesNoCancel, MessageIcon::Warning, "Filename already exists!");
+  const MessageAnswer answer = port.Ask("Overwrite?\rLost!\r\n\r\nGone\nNow", MessageButtons::YesNoCancel,
+                                        MessageIcon::Warning, "Filename already exists!");
   EXPECT_EQ(answer, MessageAnswer::Yes);
-  EXPECT_EQ(driver.shownText, "Overwrite?\nLost!");
+  EXPECT_EQ(driver.shownText, "Overwrite?\nLost!\n\nGone\nNow");  // every line-break style is one break
   EXPECT_EQ(driver.shownTitle, "Filename already exists!");
   EXPECT_EQ(driver.shownIcon, QMessageBox::Warning);
 }
 
-// Enter pressed on a question whose Yes loses a file must not press Yes.
-TEST(QtMessagePort, EnterOnAQuestionBeforeALossAnswersNo) {
+// Enter on a question whose Yes loses a file must not press Yes; Escape
+// gives the safe answer of each shape.
+TEST(QtMessagePort, EnterBeforeALossAndEscapeGiveTheSafeAnswer) {
+  const struct {
+    Qt::Key key;
+    bool beforeLoss;
+    MessageButtons buttons;
+    MessageAnswer expected;
+  } rows[] = {{Qt::Key_Return, true, MessageButtons::YesNoCancel, MessageAnswer::No},
+              {Qt::Key_Escape, false, MessageButtons::YesNo, MessageAnswer::No},
+              {Qt::Key_Escape, false, MessageButtons::YesNoCancel, MessageAnswer::Cancel}};
   QtMessagePort port;
-  BoxDriver enter(Qt::Key_Return);
-  enter.Arm();
-  EXPECT_EQ(port.AskBeforeLoss("Overwrite?", MessageButtons::YesNoCancel, MessageIcon::Warning), MessageAnswer::No);
-}
-
-TEST(QtMessagePort, EscapeGivesTheSafeAnswer) {
-  QtMessagePort port;
-  BoxDriver yesNo(Qt::Key_Escape);
-  yesNo.Arm();
-  EXPECT_EQ(port.Ask("Sure?", MessageButtons::YesNo, MessageIcon::Question), MessageAnswer::No);
-  EXPECT_EQ(yesNo.shownTitle, "Renvale");
-  BoxDriver yesNoCancel(Qt::Key_Escape);
-  yesNoCancel.Arm();
-  EXPECT_EQ(port.Ask("Sure?", MessageButtons::YesNoCancel, MessageIcon::Warning), MessageAnswer::Cancel);
+  for (const auto& row : rows) {
+    BoxDriver driver(row.key);
+    driver.Arm();
+    EXPECT_EQ(row.beforeLoss ? port.AskBeforeLoss("Overwrite?", row.buttons, MessageIcon::Warning)
+                             : port.Ask("Sure?", row.buttons, MessageIcon::Question),
+              row.expected);
+    EXPECT_EQ(driver.shownTitle, "Renvale");
+  }
 }
 
 }  // namespace

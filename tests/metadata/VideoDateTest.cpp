@@ -63,20 +63,6 @@ TEST(VideoDate, AviIditChunk) {
   }
 }
 
-TEST(VideoDate, ReadsOnlyTheBoxesOnTheWay) {
-  const FixedZone zone;
-  MemoryFileSystem fs;
-  const QByteArray movie = MakeQuickTimeMovie({.created = k2005});
-  const qint64 mdat = qint64(3) << 30;  // a 3 GB recording before its "moov"
-  fs.Add("/p/big.mov", QByteArray("\0\0\0\x01mdat", 8), mdat + movie.size());
-  QByteArray largeSize(8, '\0');
-  for (int i = 0; i < 8; ++i) largeSize[i] = char(mdat >> (56 - 8 * i));
-  fs.Put("/p/big.mov", 8, largeSize);
-  fs.Put("/p/big.mov", mdat, movie);
-  EXPECT_EQ(metadata::VideoDateReader::ReadFile(fs, "/p/big.mov"), kLocal2005);
-  EXPECT_LT(fs.bytesRead, 64 * 1024);
-}
-
 TEST(DateSource, VideoFilesTakeTheirRecordedDateFirst) {
   const FixedZone zone;
   MemoryFileSystem fs;
@@ -85,11 +71,21 @@ TEST(DateSource, VideoFilesTakeTheirRecordedDateFirst) {
   fs.Add("/p/clip.jpg", movie);  // not a video name: never looked at as one
   fs.Add("/p/unset.mp4", MakeQuickTimeMovie({.created = 0}));
   fs.Add("/p/phone.avi", MakeAvi("2009/10/27 12:14:34"));
+  // A 3 GB recording before its "moov": only the boxes on the way are read.
+  const qint64 mdat = qint64(3) << 30;
+  fs.Add("/p/big.mov", QByteArray("\0\0\0\x01mdat", 8), mdat + movie.size());
+  QByteArray largeSize(8, '\0');
+  for (int i = 0; i < 8; ++i) largeSize[i] = char(mdat >> (56 - 8 * i));
+  fs.Put("/p/big.mov", 8, largeSize);
+  fs.Put("/p/big.mov", mdat, movie);
   const QDateTime modified(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC);
   for (const char* path : {"/p/clip.jpg", "/p/unset.mp4"}) fs.SetTimes(path, modified, modified);
   const QString own = metadata::FileTimeText(modified, metadata::LocalClockOffsetHours());
   EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", "clip.MOV", ""), kLocal2005);
   EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", "phone.avi", ""), "2009:10:27 12:14:34");
+  fs.bytesRead = 0;
+  EXPECT_EQ(metadata::VideoDateReader::ReadFile(fs, "/p/big.mov"), kLocal2005);
+  EXPECT_LT(fs.bytesRead, 64 * 1024);
   EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", "clip.jpg", ""), own);
   EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", "unset.mp4", ""), own);
 }
