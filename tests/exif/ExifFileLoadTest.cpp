@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <cerrno>
 
 #include "ExifTestBytes.h"
@@ -86,23 +84,6 @@ TEST(ExifFileLoad, OpenAndReadFailuresAreErrors) {
     EXPECT_FALSE(status.endsWith("not found.", Qt::CaseInsensitive)) << c.name;
     EXPECT_EQ(reader.Tag("Make"), "") << c.name;
   }
-}
-
-TEST(ExifFileLoad, RealFileSystem) {
-  QTemporaryDir dir;
-  ASSERT_TRUE(dir.isValid());
-  const ExifFields fields = TypicalExifFields();
-  const QString path = dir.filePath("IMG_0001.JPG");
-  ASSERT_TRUE(WriteFile(path, MakeExifJpeg(&fields, 32, 24, true)));
-  ExifReader reader;
-  reader.Load(platform::RealFileSystem(), QFile::encodeName(path));
-  EXPECT_EQ(reader.Status(), "");
-  EXPECT_EQ(reader.Tag("DateTimeOriginal"), fields.dateTimeOriginal);
-
-  reader.Load(platform::RealFileSystem(), QFile::encodeName(dir.path()));  // a folder
-  EXPECT_FALSE(reader.Status().isEmpty());
-  EXPECT_FALSE(reader.Status().endsWith("not found."));
-  EXPECT_EQ(reader.Tag("DateTimeOriginal"), "");
 }
 
 }  // namespace
