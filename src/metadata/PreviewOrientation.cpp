@@ -1,9 +1,6 @@
 #include "metadata/PreviewOrientation.h"
 
-#include "metadata/ExifReader.h"
-#include "metadata/ExifStatusCheck.h"
 #include "metadata/MetadataTexts.h"
-#include "platform/FileName.h"
 
 namespace renvale::metadata {
 
@@ -14,15 +11,6 @@ PreviewTurn PreviewTurnForOrientation(const QString& word) {
   if (start == texts::kOrientationCounter) return PreviewTurn::QuarterCounterClockwise;
   if (start == texts::kOrientationClockwise) return PreviewTurn::QuarterClockwise;
   return PreviewTurn::Half;
-}
-
-PreviewTurn ExifOrientationForPreview(platform::FileSystem& fs, platform::MessagePort& messages,
-                                      const QByteArray& folder, const QByteArray& rawName) {
-  ExifReader reader;
-  if (!LoadExifChecked(reader, fs, messages, platform::JoinPath(folder, rawName))) {
-    return PreviewTurn::None;
-  }
-  return PreviewTurnForOrientation(reader.Tag(texts::kTagOrientation));
 }
 
 }  // namespace renvale::metadata

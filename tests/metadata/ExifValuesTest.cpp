@@ -109,18 +109,5 @@ TEST(PreviewTurn, FirstThreeLettersOfTheWordDecide) {
   }
 }
 
-TEST_F(ExifValuesTest, PreviewTurnIsReadFromTheFile) {
-  ExifFields exif = TypicalExifFields();
-  exif.orientation = 6;
-  fs.Add("/p/turned.jpg", MakeExifJpeg(&exif));
-  EXPECT_EQ(metadata::ExifOrientationForPreview(fs, messages, "/p/", "turned.jpg"),
-            PreviewTurn::QuarterClockwise);
-  EXPECT_EQ(metadata::ExifOrientationForPreview(fs, messages, "/p/", "plain.jpg"),
-            PreviewTurn::None);
-  EXPECT_EQ(metadata::ExifOrientationForPreview(fs, messages, "/p/", "locked.jpg"),
-            PreviewTurn::None);
-  EXPECT_EQ(messages.messages.size(), 1u);
-}
-
 }  // namespace
 }  // namespace renvale::test
