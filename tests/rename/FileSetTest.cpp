@@ -82,16 +82,6 @@ class FileSetTest : public RenameFixture {
   }
 };
 
-TEST_F(FileSetTest, PictureTakesItsSidecarsInIndividualMode) {
-  Make({"IMG_1.CR2", "IMG_1.XMP", "IMG_1.CR2.xmp", "IMG_1.THM"});
-  Select({"IMG_1.CR2"});
-  view.newName = "Trip";
-  core::IndividualRename(context).RenameSelectedFile();
-  EXPECT_TRUE(port.messages.empty());
-  EXPECT_EQ(Folder(), (Files{{"Trip.CR2", "IMG_1.CR2"}, {"Trip.XMP", "IMG_1.XMP"},
-                             {"Trip.CR2.xmp", "IMG_1.CR2.xmp"}, {"IMG_1.THM", "IMG_1.THM"}}));
-}
-
 TEST_F(FileSetTest, BatchPassesOverCompanionEntriesWhateverTheirPlace) {
   Make({"A.CRW", "A.THM", "B.jpg", "B.xmp", "C.jpg"});
   Select({"B.xmp", "A.CRW", "A.THM", "B.jpg", "C.jpg"});  // the sidecar listed before its picture
@@ -103,16 +93,22 @@ TEST_F(FileSetTest, BatchPassesOverCompanionEntriesWhateverTheirPlace) {
   EXPECT_EQ(view.series, "04");
 }
 
-TEST_F(FileSetTest, ThumbnailFollowsItsCrwOrCanonClipSelectedAlone) {
-  Make({"set1.crw", "set1.thm", "MVI_0001.AVI", "MVI_0001.THM", "B.jpg"});
-  Select({"set1.crw"});
-  view.newName = "one";
-  core::IndividualRename(context).RenameSelectedFile();
+// A picture takes its sidecars, a CRW or a Canon clip its thumbnail; a
+// picture's THM is no sidecar of it.
+TEST_F(FileSetTest, CompanionsFollowTheirFileSelectedAlone) {
+  Make({"IMG_1.CR2", "IMG_1.XMP", "IMG_1.CR2.xmp", "IMG_1.THM", "set1.crw", "set1.thm", "MVI_0001.AVI",
+        "MVI_0001.THM", "B.jpg"});
+  for (const auto& [file, name] : {std::pair{"IMG_1.CR2", "Trip"}, std::pair{"set1.crw", "one"}}) {
+    Select({file});
+    view.newName = name;
+    core::IndividualRename(context).RenameSelectedFile();
+  }
   Select({"MVI_0001.AVI", "B.jpg"});
   Batch("Clip %SERIES%");
   EXPECT_TRUE(port.messages.empty());
-  EXPECT_EQ(Folder(), (Files{{"one.crw", "set1.crw"}, {"one.thm", "set1.thm"}, {"Clip 01.AVI", "MVI_0001.AVI"},
-                             {"Clip 01.THM", "MVI_0001.THM"}, {"Clip 02.jpg", "B.jpg"}}));
+  EXPECT_EQ(Folder(), (Files{{"Trip.CR2", "IMG_1.CR2"}, {"Trip.XMP", "IMG_1.XMP"}, {"Trip.CR2.xmp", "IMG_1.CR2.xmp"},
+                             {"IMG_1.THM", "IMG_1.THM"}, {"one.crw", "set1.crw"}, {"one.thm", "set1.thm"},
+                             {"Clip 01.AVI", "MVI_0001.AVI"}, {"Clip 01.THM", "MVI_0001.THM"}, {"Clip 02.jpg", "B.jpg"}}));
 }
 
 TEST_F(FileSetTest, FailingCompanionPutsTheSetBack) {
