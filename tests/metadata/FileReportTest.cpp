@@ -181,6 +181,11 @@ TEST_F(FileReportTest, ExifReportExplainsAFileSet) {
                   .endsWith("Created Date & Time: " + Local(created) +
                             "\nModified Date & Time: " + Local(modified) + "\n"));
   EXPECT_TRUE(messages.messages.empty());
+  // A file the reader cannot open gives no report, only the reader's error.
+  fs.FailOpen("/p/plain.jpg", platform::kAccessViolation);
+  EXPECT_EQ(metadata::BuildExifReport(fs, messages, "/p/", "plain.jpg"), "");
+  ASSERT_EQ(messages.messages.size(), 1u);
+  EXPECT_TRUE(messages.Last().text.startsWith("EXIF Error: "));
 }
 
 }  // namespace
