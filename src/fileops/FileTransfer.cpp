@@ -4,7 +4,7 @@
 
 #include "fileops/FolderHistory.h"
 #include "fileops/SmartName.h"
-#include "fileops/TransferTexts.h"
+#include "fileops/FileopsTexts.h"
 #include "fileops/WriteProtection.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/FileCopy.h"

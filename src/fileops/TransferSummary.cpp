@@ -1,6 +1,6 @@
 #include "fileops/TransferSummary.h"
 
-#include "fileops/TransferTexts.h"
+#include "fileops/FileopsTexts.h"
 
 namespace renvale::fileops {
 

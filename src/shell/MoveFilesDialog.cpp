@@ -15,7 +15,7 @@
 #include "core/RenameView.h"
 #include "fileops/FileTransfer.h"
 #include "fileops/FolderHistory.h"
-#include "fileops/TransferTexts.h"
+#include "fileops/FileopsTexts.h"
 #include "platform/MessagePort.h"
 #include "platform/widgets/HelpWindow.h"
 #include "shell/SmartNameResultsDialog.h"

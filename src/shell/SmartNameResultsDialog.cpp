@@ -4,7 +4,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "fileops/TransferTexts.h"
+#include "fileops/FileopsTexts.h"
 
 namespace renvale::shell {
 
