@@ -90,6 +90,9 @@ class SambaShare : public ::testing::Test {
     environment.insert("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
     qputenv("XDG_RUNTIME_DIR", (root + "/run").toLocal8Bit());
     qputenv("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
+    // Samba and GVfs end their own process groups on the way out; each gets
+    // a session of its own so that the test is not taken with them.
+    for (QProcess* helper : {&bus, &samba}) helper->setChildProcessModifier([] { ::setsid(); });
     bus.setProcessEnvironment(environment);
     bus.start(dbus, {"--session", "--nofork", "--print-address=1"});
     if (!bus.waitForReadyRead(5000)) GTEST_SKIP() << "no D-Bus session: " << bus.errorString().toStdString();
