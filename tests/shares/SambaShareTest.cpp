@@ -15,6 +15,7 @@
 #include <QTemporaryDir>
 #include <QThread>
 #include <algorithm>
+#include <csignal>
 
 #include "platform/ErrorNumbers.h"
 #include "platform/FileSystem.h"
@@ -90,14 +91,12 @@ class SambaShare : public ::testing::Test {
     environment.insert("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
     qputenv("XDG_RUNTIME_DIR", (root + "/run").toLocal8Bit());
     qputenv("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
-    // Samba and GVfs end their own process groups on the way out; each gets
-    // a session of its own so that the test is not taken with them.
-    for (QProcess* helper : {&bus, &samba}) helper->setChildProcessModifier([] { ::setsid(); });
     bus.setProcessEnvironment(environment);
     bus.start(dbus, {"--session", "--nofork", "--print-address=1"});
     if (!bus.waitForReadyRead(5000)) GTEST_SKIP() << "no D-Bus session: " << bus.errorString().toStdString();
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.readLine().trimmed());
 
+    samba.setProcessChannelMode(QProcess::MergedChannels);
     samba.start(smbd, {"-F", "--debug-stdout", "-d0", "-s", root + "/smb.conf"});
     for (QDeadlineTimer deadline(5000); !Listening(port) && !deadline.hasExpired();) QThread::msleep(50);
     if (!Listening(port)) GTEST_SKIP() << "smbd did not start: " << samba.readAll().toStdString();
@@ -108,6 +107,11 @@ class SambaShare : public ::testing::Test {
     samba.waitForFinished(3000);
     bus.terminate();
     bus.waitForFinished(3000);
+    // GIO ends a program whose session bus goes away with SIGTERM; this bus
+    // was the case's own, so its end is waited out here.
+    std::signal(SIGTERM, SIG_IGN);
+    LetDesktopCatchUp();
+    std::signal(SIGTERM, SIG_DFL);
     // GVfs's FUSE bridge leaves with the session; its folder must be gone
     // before the temporary folder is removed.
     const QByteArray fuse = QFile::encodeName(dir.path()) + "/run/gvfs";
