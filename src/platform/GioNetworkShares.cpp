@@ -177,6 +177,9 @@ MapResult GioNetworkShares::Map(const QByteArray& uri, const AskLogin& askLogin,
     g_file_mount_enclosing_volume(file, G_MOUNT_MOUNT_NONE, operation, nullptr, AsyncWait::Done, &wait);
     g_file_mount_enclosing_volume_finish(file, wait.Result(), &error);
   }
+  // GVfs may keep the operation for as long as the share stays connected,
+  // and `asking` ends here.
+  g_signal_handlers_disconnect_by_data(operation, &asking);
   g_object_unref(operation);
   MapResult result;
   if (error != nullptr && !g_error_matches(error, G_IO_ERROR, G_IO_ERROR_ALREADY_MOUNTED)) {
