@@ -31,29 +31,19 @@ QString Program(const QString& name) {
   return QStandardPaths::findExecutable(name, {"/usr/sbin", "/usr/bin", "/usr/libexec", "/sbin"});
 }
 
-int FreeLoopbackPort() {
+// With port 0 a free loopback port; otherwise 1 when something listens on it.
+int Loopback(int port) {
   const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  sockaddr_in address{AF_INET, htons(quint16(port)), {htonl(INADDR_LOOPBACK)}, {}};
   socklen_t length = sizeof address;
-  int port = 0;
-  if (::bind(fd, reinterpret_cast<sockaddr*>(&address), length) == 0 &&
-      ::getsockname(fd, reinterpret_cast<sockaddr*>(&address), &length) == 0)
-    port = ntohs(address.sin_port);
+  auto* any = reinterpret_cast<sockaddr*>(&address);
+  int result = 0;
+  if (port != 0)
+    result = ::connect(fd, any, length) == 0;
+  else if (::bind(fd, any, length) == 0 && ::getsockname(fd, any, &length) == 0)
+    result = ntohs(address.sin_port);
   ::close(fd);
-  return port;
-}
-
-bool Listening(int port) {
-  const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  address.sin_port = htons(quint16(port));
-  const bool up = ::connect(fd, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0;
-  ::close(fd);
-  return up;
+  return result;
 }
 
 // The desktop hears of mounts through its event loop, which the window runs.
@@ -76,7 +66,7 @@ class SambaShare : public ::testing::Test {
     for (const char* sub : {"/share", "/private", "/run"}) ASSERT_TRUE(QDir().mkpath(root + sub));
     QFile::setPermissions(root + "/run", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     ASSERT_TRUE(WriteFile(root + "/share/IMG_0001.JPG", "picture"));
-    port = FreeLoopbackPort();
+    port = Loopback(0);
     user = QString::fromLocal8Bit(::getpwuid(::getuid())->pw_name);
     ASSERT_TRUE(WriteFile(root + "/smb.conf", SambaConfig(root).toUtf8()));
 
@@ -98,8 +88,8 @@ class SambaShare : public ::testing::Test {
 
     samba.setProcessChannelMode(QProcess::MergedChannels);
     samba.start(smbd, {"-F", "--debug-stdout", "-d0", "-s", root + "/smb.conf"});
-    for (QDeadlineTimer deadline(5000); !Listening(port) && !deadline.hasExpired();) QThread::msleep(50);
-    if (!Listening(port)) GTEST_SKIP() << "smbd did not start: " << samba.readAll().toStdString();
+    for (QDeadlineTimer deadline(5000); !Loopback(port) && !deadline.hasExpired();) QThread::msleep(50);
+    if (!Loopback(port)) GTEST_SKIP() << "smbd did not start: " << samba.readAll().toStdString();
   }
 
   void TearDown() override {
