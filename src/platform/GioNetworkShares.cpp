@@ -172,18 +172,21 @@ MapResult GioNetworkShares::Map(const QByteArray& uri, const AskLogin& askLogin,
   g_signal_connect(operation, "ask-password", G_CALLBACK(OnAskPassword), &asking);
   g_signal_connect(operation, "ask-question", G_CALLBACK(OnAskQuestion), &asking);
   GError* error = nullptr;
+  mapping_ = g_cancellable_new();
   {
     AsyncWait wait;
-    g_file_mount_enclosing_volume(file, G_MOUNT_MOUNT_NONE, operation, nullptr, AsyncWait::Done, &wait);
+    g_file_mount_enclosing_volume(file, G_MOUNT_MOUNT_NONE, operation, mapping_, AsyncWait::Done, &wait);
     g_file_mount_enclosing_volume_finish(file, wait.Result(), &error);
   }
+  g_clear_object(&mapping_);
   // GVfs may keep the operation for as long as the share stays connected,
   // and `asking` ends here.
   g_signal_handlers_disconnect_by_data(operation, &asking);
   g_object_unref(operation);
   MapResult result;
   if (error != nullptr && !g_error_matches(error, G_IO_ERROR, G_IO_ERROR_ALREADY_MOUNTED)) {
-    result.declined = asking.declined || g_error_matches(error, G_IO_ERROR, G_IO_ERROR_FAILED_HANDLED);
+    result.declined = asking.declined || g_error_matches(error, G_IO_ERROR, G_IO_ERROR_FAILED_HANDLED) ||
+                      g_error_matches(error, G_IO_ERROR, G_IO_ERROR_CANCELLED);
     result.error = ErrorNumberFromGError(error);
   } else if (char* path = g_file_get_path(file)) {
     result.localFolder = WithSlash(path);
@@ -195,6 +198,10 @@ MapResult GioNetworkShares::Map(const QByteArray& uri, const AskLogin& askLogin,
   g_clear_error(&error);
   g_object_unref(file);
   return result;
+}
+
+void GioNetworkShares::CancelMap() {
+  if (mapping_ != nullptr) g_cancellable_cancel(mapping_);
 }
 
 std::vector<NetworkMount> GioNetworkShares::List() {

@@ -2,6 +2,8 @@
 
 #include "platform/NetworkShares.h"
 
+typedef struct _GCancellable GCancellable;
+
 namespace renvale::platform {
 
 // Network folders through GIO: GVfs mounts them for the desktop (its FUSE
@@ -10,8 +12,12 @@ namespace renvale::platform {
 class GioNetworkShares : public NetworkShares {
  public:
   MapResult Map(const QByteArray& uri, const AskLogin& askLogin, const AskChoice& askChoice) override;
+  void CancelMap() override;
   std::vector<NetworkMount> List() override;
   int Disconnect(const NetworkMount& mount) override;
+
+ private:
+  GCancellable* mapping_ = nullptr;  // while Map waits
 };
 
 }  // namespace renvale::platform

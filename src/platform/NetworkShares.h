@@ -43,7 +43,7 @@ using AskChoice = std::function<int(const QString& question, const std::vector<Q
 
 struct MapResult {
   int error = 0;  // an error number from ErrorNumbers.h
-  bool declined = false;  // the person cancelled a login or a question
+  bool declined = false;  // the person cancelled a login, a question or the whole attempt
   QByteArray localFolder;  // with a trailing '/'
 };
 
@@ -56,6 +56,9 @@ class NetworkShares {
   // local folder through which its files are reached. Blocks until done,
   // while the desktop's events keep being handled.
   virtual MapResult Map(const QByteArray& uri, const AskLogin& askLogin, const AskChoice& askChoice) = 0;
+  // Called while Map waits (from an event it handles): Map gives up and
+  // returns as declined.
+  virtual void CancelMap() = 0;
   // The connected network folders, those of the desktop first.
   virtual std::vector<NetworkMount> List() = 0;
   // Returns an error number; a system mount the person may not undo gives one.

@@ -65,7 +65,7 @@ MapDriveL::MapDriveL(Services services, QWidget* parent) : QDialog(parent), serv
 
   connect(Command3, &QPushButton::clicked, this, &MapDriveL::OnChoose);
   connect(Command1, &QPushButton::clicked, this, &MapDriveL::OnMap);
-  connect(Command2, &QPushButton::clicked, this, &QDialog::reject);
+  connect(Command2, &QPushButton::clicked, this, &MapDriveL::reject);
 }
 
 QByteArray MapDriveL::Run(Services services, QWidget* parent) {
@@ -94,6 +94,26 @@ void MapDriveL::OnChoose() {
   NetFolder->setText(address);
 }
 
+// Only Cancel stays usable while the server answers.
+void MapDriveL::SetMapping(bool on) {
+  mapping_ = on;
+  for (QWidget* control : std::initializer_list<QWidget*>{NetFolder, Command1, Command3, Command5})
+    control->setEnabled(!on);
+  if (on) {
+    QApplication::setOverrideCursor(Qt::BusyCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+void MapDriveL::reject() {
+  if (mapping_) {
+    services_.shares.CancelMap();
+    return;
+  }
+  QDialog::reject();
+}
+
 void MapDriveL::OnMap() {
   if (NetFolder->text().trimmed().isEmpty()) {
     services_.messages.Notify(texts::kPleaseChooseNetFolder);
@@ -104,9 +124,7 @@ void MapDriveL::OnMap() {
     services_.messages.Notify(texts::kNotNetworkFolder);
     return;
   }
-  // The dialog stays up, but unusable, while the server answers.
-  setEnabled(false);
-  QApplication::setOverrideCursor(Qt::BusyCursor);
+  SetMapping(true);
   const auto askLogin = [this](const platform::LoginRequest& request, platform::LoginAnswer* answer) {
     QApplication::restoreOverrideCursor();
     const bool given = NetworkLoginDialog::Ask(request, answer, this);
@@ -122,8 +140,7 @@ void MapDriveL::OnMap() {
                : -1;
   };
   const platform::MapResult result = services_.shares.Map(uri, askLogin, askChoice);
-  QApplication::restoreOverrideCursor();
-  setEnabled(true);
+  SetMapping(false);
   if (result.declined) return;
   if (result.error != 0 || result.localFolder.isEmpty()) {
     services_.messages.Notify(result.error != 0 ? texts::CouldNotMapText(result.error) : texts::kCouldNotMapChosen);

@@ -39,12 +39,19 @@ class MapDriveL : public QDialog {
 
   const QByteArray& MappedFolder() const { return mapped_; }
 
+ public slots:
+  // While a server is being asked, Cancel and Escape give up the attempt;
+  // otherwise they close the dialog.
+  void reject() override;
+
  private:
   void OnChoose();
   void OnMap();
+  void SetMapping(bool on);
 
   Services services_;
   QByteArray mapped_;
+  bool mapping_ = false;
   QLineEdit* NetFolder = nullptr;
   QPushButton* Command1 = nullptr;
   QPushButton* Command2 = nullptr;

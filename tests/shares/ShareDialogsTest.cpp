@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
+#include <functional>
 
 #include "platform/ErrorNumbers.h"
 #include "platform/NetworkShares.h"
@@ -21,7 +22,12 @@ class FakeShares : public platform::NetworkShares {
  public:
   platform::MapResult Map(const QByteArray& uri, const platform::AskLogin&, const platform::AskChoice&) override {
     mapped.push_back(uri);
+    if (duringMap) duringMap();
     return mapResult;
+  }
+  void CancelMap() override {
+    ++cancels;
+    mapResult.declined = true;
   }
   std::vector<NetworkMount> List() override { return mounts; }
   int Disconnect(const NetworkMount& mount) override {
@@ -29,6 +35,8 @@ class FakeShares : public platform::NetworkShares {
     return disconnectError;
   }
   std::vector<QByteArray> mapped;
+  std::function<void()> duringMap;
+  int cancels = 0;
   platform::MapResult mapResult;
   std::vector<NetworkMount> mounts;
   int disconnectError = platform::kNoError;
@@ -80,6 +88,25 @@ TEST(MapDriveL, OnlyANetworkFolderIsMappedAndEveryOutcomeIsTold) {
     EXPECT_EQ(shares.mapped, c.mapped.isEmpty() ? std::vector<QByteArray>{} : std::vector<QByteArray>{c.mapped});
     EXPECT_EQ(dialog.MappedFolder(), c.result.error == 0 && !c.result.declined ? c.result.localFolder : "");
   }
+}
+
+TEST(MapDriveL, CancelWhileTheServerIsAskedGivesUpTheAttemptNotTheDialog) {
+  FakeShares shares;
+  ScriptedMessagePort messages;
+  NoTips tips;
+  shell::MapDriveL dialog({shares, messages, tips, {}}, nullptr);
+  auto* map = Child<QPushButton>(dialog, "Command1");
+  Child<QLineEdit>(dialog, "NetFolder")->setText("sftp://slow-host");
+  dialog.show();
+  shares.duringMap = [&] {
+    EXPECT_FALSE(map->isEnabled());
+    Child<QPushButton>(dialog, "Command2")->click();
+  };
+  map->click();
+  EXPECT_EQ(shares.cancels, 1);
+  EXPECT_TRUE(messages.messages.empty());
+  EXPECT_TRUE(map->isEnabled());
+  EXPECT_TRUE(dialog.isVisible());
 }
 
 TEST(DisDrive, ListsDisconnectsAndTellsWhatCouldNotBe) {
