@@ -76,12 +76,9 @@ class SambaShare : public ::testing::Test {
     addUser.closeWriteChannel();
     if (!addUser.waitForFinished(5000) || addUser.exitCode() != 0) GTEST_SKIP() << "smbpasswd cannot add a user";
 
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("XDG_RUNTIME_DIR", root + "/run");
-    environment.insert("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
-    qputenv("XDG_RUNTIME_DIR", (root + "/run").toLocal8Bit());
+    // GVfs and its FUSE bridge live where the session's services find them.
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(root + "/run"));
     qputenv("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
-    bus.setProcessEnvironment(environment);
     bus.start(dbus, {"--session", "--nofork", "--print-address=1"});
     if (!bus.waitForReadyRead(5000)) GTEST_SKIP() << "no D-Bus session: " << bus.errorString().toStdString();
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.readLine().trimmed());
