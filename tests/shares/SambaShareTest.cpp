@@ -61,7 +61,6 @@ class SambaShare : public ::testing::Test {
     if (smbd.isEmpty() || smbpasswd.isEmpty() || dbus.isEmpty() || Program("gvfsd").isEmpty())
       GTEST_SKIP() << "samba, D-Bus or GVfs is not installed";
     if (::access("/dev/fuse", R_OK | W_OK) != 0) GTEST_SKIP() << "no FUSE: GVfs shares have no local folder";
-    ASSERT_TRUE(dir.isValid());
     const QString root = dir.path();
     for (const char* sub : {"/share", "/private", "/run"}) ASSERT_TRUE(QDir().mkpath(root + sub));
     QFile::setPermissions(root + "/run", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -69,13 +68,11 @@ class SambaShare : public ::testing::Test {
     port = Loopback(0);
     user = QString::fromLocal8Bit(::getpwuid(::getuid())->pw_name);
     ASSERT_TRUE(WriteFile(root + "/smb.conf", SambaConfig(root).toUtf8()));
-
     QProcess addUser;
     addUser.start(smbpasswd, {"-c", root + "/smb.conf", "-s", "-a", user});
     addUser.write("secret\nsecret\n");
     addUser.closeWriteChannel();
     if (!addUser.waitForFinished(5000) || addUser.exitCode() != 0) GTEST_SKIP() << "smbpasswd cannot add a user";
-
     // GVfs and its FUSE bridge live where the session's services find them.
     qputenv("XDG_RUNTIME_DIR", QFile::encodeName(root + "/run"));
     qputenv("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
