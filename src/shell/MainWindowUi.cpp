@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QSplitter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "shell/BrowsePane.h"
@@ -225,17 +226,44 @@ QWidget* MainWindowUi::BuildPreviewPane(QWidget* parent) {
   mediaControls = new QWidget(previewFrame);
   mediaControls->setObjectName(QStringLiteral("MoviePlayer1"));
   mediaControls->setAccessibleName(QStringLiteral("Media player"));
-  auto* media = new QHBoxLayout(mediaControls);
+  auto* media = new QGridLayout(mediaControls);
   media->setContentsMargins(0, 0, 0, 0);
   int index = 0;
   for (const char* caption : {"Play", "Pause", "Stop", "Step", "Step"}) {
     QPushButton* button = Button(mediaControls, "MediaButton", QString::fromLatin1(caption));
-    button->setProperty("index", index++);
-    media->addWidget(button);
+    button->setProperty("index", index);
+    media->addWidget(button, 0, index);
+    MediaButton[static_cast<size_t>(index++)] = button;
   }
-  auto* volume = Make<QSlider>(mediaControls, "VolAdj", QStringLiteral("Volume"));
-  volume->setOrientation(Qt::Horizontal);
-  media->addWidget(volume);
+  // The two steps share a caption; their arrows and descriptions tell them
+  // apart.
+  MediaButton[3]->setIcon(MediaButton[3]->style()->standardIcon(QStyle::SP_MediaSeekBackward));
+  MediaButton[3]->setToolTip(texts::kStepBack);
+  MediaButton[3]->setAccessibleDescription(texts::kStepBack);
+  MediaButton[4]->setIcon(MediaButton[4]->style()->standardIcon(QStyle::SP_MediaSeekForward));
+  MediaButton[4]->setToolTip(texts::kStepForward);
+  MediaButton[4]->setAccessibleDescription(texts::kStepForward);
+  VolAdj = Make<QSlider>(mediaControls, "VolAdj", texts::kVolume);
+  VolAdj->setOrientation(Qt::Horizontal);
+  VolAdj->setRange(0, 100);
+  VolAdj->setValue(100);
+  VolAdj->setToolTip(texts::kVolume);
+  media->addWidget(VolAdj, 0, index);
+  Slider1 = Make<QSlider>(mediaControls, "Slider1", texts::kPosition);
+  Slider1->setOrientation(Qt::Horizontal);
+  media->addWidget(Slider1, 1, 0, 1, index);
+  auto* times = new QHBoxLayout;
+  times->setSpacing(0);
+  CurTime = Make<QLabel>(mediaControls, "CurTime");
+  CurTime->setToolTip(texts::kCurrentPosition);
+  CurTime->setAccessibleDescription(texts::kCurrentPosition);
+  TotalLength = Make<QLabel>(mediaControls, "TotalLength");
+  TotalLength->setToolTip(texts::kTotalLength);
+  TotalLength->setAccessibleDescription(texts::kTotalLength);
+  times->addWidget(CurTime);
+  times->addWidget(TotalLength);
+  times->addStretch(1);
+  media->addLayout(times, 1, index);
   mediaControls->setEnabled(false);
   mediaControls->hide();
   layout->addWidget(mediaControls);
