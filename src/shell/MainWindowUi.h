@@ -89,6 +89,7 @@ struct MainWindowUi {
   QWidget* BuildButtonPane(QWidget* parent);
   QWidget* BuildBatchPane(QWidget* parent);
   QWidget* BuildPreviewPane(QWidget* parent);
+  QWidget* BuildMediaControls(QWidget* parent);
   void BuildMenus(QMainWindow* window);
 };
 
