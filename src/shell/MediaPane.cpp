@@ -48,7 +48,10 @@ void MediaPane::Show(const QByteArray& path, const QString& name) {
   ready_ = false;
   ui_.previewCaption->setText(texts::kLoadingMedia);
   ui_.Gvbox1->clear();
-  player_->Load(path);
+  if (!player_->Load(path)) {
+    Fail(texts::kNotARegularFile);
+    return;
+  }
   loadTimeout_.start();
   ShowControls();
   ShowTimes();

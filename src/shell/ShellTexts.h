@@ -60,6 +60,7 @@ inline const QString kCurrentPosition = QStringLiteral("Current Position (second
 inline const QString kTotalLength = QStringLiteral("Total Length (seconds)");
 inline const QString kPositionSeparator = QStringLiteral(" / ");
 inline const QString kLoadTimedOut = QStringLiteral("it did not open within 15 seconds");
+inline const QString kNotARegularFile = QStringLiteral("it is not a file that holds sound or video");
 inline const QString kUnknownMediaFailure = QStringLiteral("its kind or its encoding is not supported");
 
 // "song.mp3  -  cannot be played (Could not demultiplex stream.)": why in

@@ -1,6 +1,7 @@
 #include "platform/widgets/MediaPlayer.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include <QAudioOutput>
 #include <QFile>
@@ -51,9 +52,11 @@ MediaPlayer::~MediaPlayer() {
 // An address holds text, so a name that is not valid UTF-8 cannot be
 // spelled in one. Such a file is opened here and handed over by its
 // descriptor's name in /proc, which the framework opens as the same file.
-void MediaPlayer::Load(const QByteArray& path) {
+bool MediaPlayer::Load(const QByteArray& path) {
   Release();
   error_.clear();
+  struct stat st;
+  if (::stat(path.constData(), &st) != 0 || !S_ISREG(st.st_mode)) return false;
   SetState(MediaState::Loading);
   QUrl url = FileUrl(path);
   if (QFile::encodeName(url.toLocalFile()) != path) {
@@ -61,6 +64,7 @@ void MediaPlayer::Load(const QByteArray& path) {
     url = QUrl::fromLocalFile(QStringLiteral("/proc/self/fd/%1").arg(held_.get()));
   }
   player_->setSource(url);
+  return true;
 }
 
 // An empty source takes the framework's pipeline down to its null state,

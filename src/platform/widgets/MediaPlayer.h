@@ -31,8 +31,10 @@ class MediaPlayer : public QObject {
   explicit MediaPlayer(QWidget* videoParent, QObject* parent = nullptr);
   ~MediaPlayer() override;
 
-  // Opens `path` (raw bytes) ready to play, without starting it.
-  void Load(const QByteArray& path);
+  // Opens `path` (raw bytes) ready to play, without starting it. False,
+  // with nothing opened, when it is not a regular file: the framework would
+  // wait forever on a named pipe with no writer.
+  bool Load(const QByteArray& path);
   // Stops and closes the file: afterwards nothing of it is held open.
   void Release();
 
