@@ -12,6 +12,7 @@ top=$(pwd)
 
 packages=(cmake ninja-build g++ clang libclang-rt-14-dev pkg-config
           qt6-base-dev qt6-multimedia-dev libglib2.0-dev libheif-dev
+          gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-libav
           libgtest-dev libgmock-dev libbenchmark-dev
           xvfb xauth rename libglib2.0-bin
           samba gvfs-backends gvfs-daemons gvfs-fuse dbus)

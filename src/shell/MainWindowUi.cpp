@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QSplitter>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "shell/BrowsePane.h"
@@ -222,23 +223,7 @@ QWidget* MainWindowUi::BuildPreviewPane(QWidget* parent) {
   Gvbox1->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
   Gvbox1->setAlignment(Qt::AlignCenter);
   layout->addWidget(Gvbox1, 1);
-  mediaControls = new QWidget(previewFrame);
-  mediaControls->setObjectName(QStringLiteral("MoviePlayer1"));
-  mediaControls->setAccessibleName(QStringLiteral("Media player"));
-  auto* media = new QHBoxLayout(mediaControls);
-  media->setContentsMargins(0, 0, 0, 0);
-  int index = 0;
-  for (const char* caption : {"Play", "Pause", "Stop", "Step", "Step"}) {
-    QPushButton* button = Button(mediaControls, "MediaButton", QString::fromLatin1(caption));
-    button->setProperty("index", index++);
-    media->addWidget(button);
-  }
-  auto* volume = Make<QSlider>(mediaControls, "VolAdj", QStringLiteral("Volume"));
-  volume->setOrientation(Qt::Horizontal);
-  media->addWidget(volume);
-  mediaControls->setEnabled(false);
-  mediaControls->hide();
-  layout->addWidget(mediaControls);
+  layout->addWidget(BuildMediaControls(previewFrame));
   auto* row = new QHBoxLayout;
   ShPrev = Button(previewFrame, "ShPrev", QStringLiteral("Preview"));
   UnSupported = Button(previewFrame, "UnSupported", QStringLiteral("External Preview"));
@@ -246,6 +231,67 @@ QWidget* MainWindowUi::BuildPreviewPane(QWidget* parent) {
   row->addWidget(UnSupported);
   layout->addLayout(row);
   return previewFrame;
+}
+
+// The player's controls: the buttons and the volume above, the position
+// and the times below.
+QWidget* MainWindowUi::BuildMediaControls(QWidget* parent) {
+  mediaControls = new QWidget(parent);
+  mediaControls->setObjectName(QStringLiteral("MoviePlayer1"));
+  mediaControls->setAccessibleName(QStringLiteral("Media player"));
+  auto* rows = new QVBoxLayout(mediaControls);
+  rows->setContentsMargins(0, 0, 0, 0);
+  auto* buttons = new QHBoxLayout;
+  int index = 0;
+  for (const char* caption : {"Play", "Pause", "Stop", "Step", "Step"}) {
+    QPushButton* button = Button(mediaControls, "MediaButton", QString::fromLatin1(caption));
+    button->setProperty("index", index);
+    buttons->addWidget(button);
+    MediaButton[static_cast<size_t>(index++)] = button;
+  }
+  // The two steps share a caption; their arrows and descriptions tell them
+  // apart.
+  const std::pair<QStyle::StandardPixmap, QString> steps[] = {{QStyle::SP_MediaSeekBackward, texts::kStepBack},
+                                                              {QStyle::SP_MediaSeekForward, texts::kStepForward}};
+  for (size_t i = 0; i < 2; ++i) {
+    QPushButton* step = MediaButton[3 + i];
+    step->setIcon(step->style()->standardIcon(steps[i].first));
+    step->setToolTip(steps[i].second);
+    step->setAccessibleDescription(steps[i].second);
+  }
+  VolAdj = Make<QSlider>(mediaControls, "VolAdj", texts::kVolume);
+  VolAdj->setOrientation(Qt::Horizontal);
+  VolAdj->setRange(0, 100);
+  VolAdj->setValue(100);
+  VolAdj->setToolTip(texts::kVolume);
+  VolAdj->setMaximumWidth(VolAdj->fontMetrics().horizontalAdvance(QStringLiteral("Volume")) * 2);
+  buttons->addWidget(VolAdj);
+  rows->addLayout(buttons);
+
+  auto* position = new QHBoxLayout;
+  Slider1 = Make<QSlider>(mediaControls, "Slider1", texts::kPosition);
+  Slider1->setOrientation(Qt::Horizontal);
+  position->addWidget(Slider1, 1);
+  CurTime = Make<QLabel>(mediaControls, "CurTime");
+  TotalLength = Make<QLabel>(mediaControls, "TotalLength");
+  for (auto [label, tip] : {std::pair{CurTime, texts::kCurrentPosition}, std::pair{TotalLength, texts::kTotalLength}}) {
+    label->setTextFormat(Qt::PlainText);
+    label->setToolTip(tip);
+    label->setAccessibleDescription(tip);
+  }
+  // Room for the figures as they grow, so that nothing shifts while a file
+  // plays.
+  CurTime->setMinimumWidth(CurTime->fontMetrics().horizontalAdvance(QStringLiteral("000.00")));
+  CurTime->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  TotalLength->setMinimumWidth(TotalLength->fontMetrics().horizontalAdvance(QStringLiteral(" / 000.00")));
+  position->setSpacing(0);
+  position->addSpacing(6);
+  position->addWidget(CurTime);
+  position->addWidget(TotalLength);
+  rows->addLayout(position);
+  mediaControls->setEnabled(false);
+  mediaControls->hide();
+  return mediaControls;
 }
 
 void MainWindowUi::BuildMenus(QMainWindow* window) {

@@ -65,7 +65,12 @@ struct MainWindowUi {
   QLabel* Gvbox1 = nullptr;
   QPushButton* ShPrev = nullptr;
   QPushButton* UnSupported = nullptr;
-  QWidget* mediaControls = nullptr;
+  QWidget* mediaControls = nullptr;  // MoviePlayer1's controls
+  std::array<QPushButton*, 5> MediaButton{};  // Play, Pause, Stop, Step back, Step forward
+  QSlider* VolAdj = nullptr;
+  QSlider* Slider1 = nullptr;         // position
+  QLabel* CurTime = nullptr;
+  QLabel* TotalLength = nullptr;
 
   QAction* refreshAction = nullptr;
   QAction* exitAction = nullptr;
@@ -84,6 +89,7 @@ struct MainWindowUi {
   QWidget* BuildButtonPane(QWidget* parent);
   QWidget* BuildBatchPane(QWidget* parent);
   QWidget* BuildPreviewPane(QWidget* parent);
+  QWidget* BuildMediaControls(QWidget* parent);
   void BuildMenus(QMainWindow* window);
 };
 

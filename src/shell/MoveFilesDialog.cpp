@@ -202,6 +202,9 @@ void MoveFilesDialog::OnTransfer() {
     return;
   }
   cancelRequested_ = false;
+  // The preview may be playing one of the files: it lets go before any of
+  // them moves, and the list is read afresh afterwards anyway.
+  services_.mainView.ResetPreview(QString());
   fileops::FileTransfer transfer(
       {services_.sourceFolder, services_.settings, services_.messages, services_.fs, *this});
   transfer.Run(platform::FileName::FromDisplay(services_.settings.lastMovePath).raw);

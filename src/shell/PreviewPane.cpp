@@ -9,6 +9,8 @@
 
 #include "platform/FileSystem.h"
 #include "platform/MessagePort.h"
+#include "platform/VideoDecoding.h"
+#include "shell/MediaPane.h"
 #include "shell/MainWindowUi.h"
 #include "shell/PreviewKind.h"
 #include "shell/ShellTexts.h"
@@ -52,9 +54,13 @@ void PreviewPane::ShowPreview(const platform::FileName& name) {
   if (file.raw.isEmpty()) return;
   ReleasePreview();
   const QString display = file.Display();
-  // The media player is not built yet: sound and video get the notice.
-  if (PreviewKindFor(display, settings_.playQuickTime, settings_.playRealMedia) != PreviewKind::Picture) {
+  const PreviewKind kind = PreviewKindFor(display, settings_.playQuickTime, settings_.playRealMedia);
+  if (kind == PreviewKind::Notice) {
     ui_.previewCaption->setText(texts::kPreviewUnavailable);
+    return;
+  }
+  if (kind == PreviewKind::Media) {
+    ShowMedia(file);
     return;
   }
   session_.PreviewedPath = platform::JoinPath(session_.CurrentFolder, file.raw);
@@ -64,7 +70,24 @@ void PreviewPane::ShowPreview(const platform::FileName& name) {
   Post({currentId_, session_.PreviewedPath, area, settings_.previewStyle != 1});
 }
 
+void PreviewPane::ShowMedia(const platform::FileName& file) {
+  session_.PreviewedPath = platform::JoinPath(session_.CurrentFolder, file.raw);
+  Media().Show(session_.PreviewedPath, file.Display());
+}
+
+// Made on first use: a folder of pictures never starts the media framework,
+// and the video work-around must be chosen before it starts.
+MediaPane& PreviewPane::Media() {
+  if (media_ == nullptr) {
+    platform::VideoDecoding::Choose(settings_.fixDirectShow);
+    media_ = new MediaPane(ui_, this);
+    connect(media_, &MediaPane::Unplayable, this, [this] { session_.PreviewedPath.clear(); });
+  }
+  return *media_;
+}
+
 void PreviewPane::ReleasePreview() {
+  if (media_ != nullptr) media_->Release();
   ++currentId_;
   {
     std::lock_guard lock(mutex_);

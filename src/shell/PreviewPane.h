@@ -23,6 +23,7 @@ class MessagePort;
 namespace renvale::shell {
 
 struct MainWindowUi;
+class MediaPane;
 
 // The preview area of the main window: the caption, the picture, the
 // "Preview" and "External Preview" buttons and "Rotate Preview 90 degrees".
@@ -53,6 +54,8 @@ class PreviewPane : public QObject {
   void Render();
 
   void SetExternalOpener(ExternalOpener opener) { opener_ = std::move(opener); }
+  // The media player, made when the first sound or video is shown.
+  MediaPane& Media();
   const QImage& Picture() const { return image_; }
 
  signals:
@@ -70,6 +73,7 @@ class PreviewPane : public QObject {
     bool fill = false;
   };
 
+  void ShowMedia(const platform::FileName& file);
   void Post(const Request& request);
   void WorkOnPending();  // on the decoding thread
   void TakeDecoded(quint64 id, const DecodedPreview& decoded);
@@ -81,6 +85,7 @@ class PreviewPane : public QObject {
   platform::MessagePort& messages_;
   ExternalOpener opener_ = platform::DefaultApplication::Open;
   QMenu* extprev_ = nullptr;  // the picture's pop-up menu
+  MediaPane* media_ = nullptr;
   QImage image_;
   quint64 currentId_ = 0;
   QString currentName_;

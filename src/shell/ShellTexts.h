@@ -50,6 +50,25 @@ inline const QString kNoExternalApplication =
     QStringLiteral("Unable to preview file externally.\n"
                    "This computer does not appear to have an application associated with this type of file.");
 
+// The media player.
+inline const QString kLoadingMedia = QStringLiteral("(Loading media file...)");
+inline const QString kVolume = QStringLiteral("Volume");
+inline const QString kPosition = QStringLiteral("Position");
+inline const QString kStepBack = QStringLiteral("Step back");
+inline const QString kStepForward = QStringLiteral("Step forward");
+inline const QString kCurrentPosition = QStringLiteral("Current Position (seconds)");
+inline const QString kTotalLength = QStringLiteral("Total Length (seconds)");
+inline const QString kPositionSeparator = QStringLiteral(" / ");
+inline const QString kLoadTimedOut = QStringLiteral("it did not open within 15 seconds");
+inline const QString kNotARegularFile = QStringLiteral("it is not a file that holds sound or video");
+inline const QString kUnknownMediaFailure = QStringLiteral("its kind or its encoding is not supported");
+
+// "song.mp3  -  cannot be played (Could not demultiplex stream.)": why in
+// the framework's own words.
+inline QString UnplayableCaption(const QString& name, const QString& reason) {
+  return name + QStringLiteral("  -  cannot be played (") + reason + QLatin1Char(')');
+}
+
 // "IMG_0001.JPG  -  1600w X 1200h": the picture's own size, before any turn.
 inline QString PictureCaption(const QString& name, int width, int height) {
   return name + QStringLiteral("  -  ") + QString::number(width) + QStringLiteral("w X ") + QString::number(height) +

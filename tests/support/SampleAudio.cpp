@@ -1,5 +1,7 @@
 #include "support/SampleAudio.h"
 
+#include <cmath>
+
 namespace renvale::test {
 namespace {
 
@@ -40,6 +42,24 @@ QByteArray MakeMp3(const Id3v1Fields* tag, int frames) {
   for (int i = 0; i < frames; ++i) mp3 += frame;
   if (tag != nullptr) mp3 += MakeId3v1Tag(*tag);
   return mp3;
+}
+
+QByteArray MakeWav(int ms) {
+  constexpr int kRate = 8000;
+  QByteArray samples;
+  for (int i = 0; i < kRate * ms / 1000; ++i) {
+    const auto value = static_cast<qint16>(8000 * std::sin(2 * M_PI * 440 * i / kRate));
+    samples += char(value & 0xFF);
+    samples += char((value >> 8) & 0xFF);
+  }
+  auto le = [](quint32 v, int bytes) {
+    QByteArray out;
+    for (int i = 0; i < bytes; ++i) out += char((v >> (8 * i)) & 0xFF);
+    return out;
+  };
+  const auto size = static_cast<quint32>(samples.size());
+  return "RIFF" + le(36 + size, 4) + "WAVEfmt " + le(16, 4) + le(1, 2) + le(1, 2) + le(kRate, 4) + le(kRate * 2, 4) +
+         le(2, 2) + le(16, 2) + "data" + le(size, 4) + samples;
 }
 
 }  // namespace renvale::test

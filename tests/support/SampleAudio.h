@@ -23,4 +23,7 @@ QByteArray MakeId3v1Tag(const Id3v1Fields& fields);
 // 44.1 kHz, mono; 417 bytes each), followed by the tag when `tag` is given.
 QByteArray MakeMp3(const Id3v1Fields* tag, int frames = 8);
 
+// A WAV file: `ms` milliseconds of a 440 Hz tone, 8 kHz mono 16-bit PCM.
+QByteArray MakeWav(int ms);
+
 }  // namespace renvale::test
