@@ -5,7 +5,6 @@
 #include "core/FileNameRules.h"
 #include "core/RenameFailureTexts.h"
 #include "core/SeriesCounter.h"
-#include "core/TokenExpansion.h"
 #include "core/ViewSeriesBox.h"
 
 namespace renvale::core {
@@ -30,19 +29,11 @@ class BusyScope {
   RenameSession& session_;
 };
 
-int NumberedFiles(const std::vector<platform::FileName>& files, const FileRenamer& renamer) {
-  int count = 0;
-  for (const platform::FileName& file : files) {
-    if (!renamer.Sets().TravelsWithSelectedHead(file.raw)) ++count;
-  }
-  return count;
-}
-
 }  // namespace
 
 BatchRename::BatchRename(const RenameContext& context) : context_(context) {}
 
-void BatchRename::StartBatchRename() {
+void BatchRename::StartBatchRename(const BatchNaming* prepared) {
   // The batch lets window events run; Enter pressed meanwhile must not start
   // a second one inside it.
   if (context_.session.Busy) return;
@@ -53,7 +44,7 @@ void BatchRename::StartBatchRename() {
   Ending ending;
   {
     BusyScope busy(context_.session);
-    ending = RenameAll(FileBase(base), &lastNewName);
+    ending = RenameAll(FileBase(base), prepared, &lastNewName);
     context_.view.ProcessEvents();
   }
   Finish(ending, lastNewName);
@@ -84,7 +75,20 @@ QString BatchRename::FileBase(const QString& base) const {
   return guarded.left(guarded.size() - extension.size());
 }
 
-BatchRename::Ending BatchRename::RenameAll(const QString& base, QString* lastNewName) {
+bool BatchRename::StillValid(const BatchNaming& prepared, const QString& base,
+                             const std::vector<platform::FileName>& files) const {
+  if (prepared.folder != context_.session.CurrentFolder || prepared.base != base ||
+      prepared.seriesAtStart != context_.view.SeriesText() || prepared.files.size() != files.size()) {
+    return false;
+  }
+  for (size_t i = 0; i < files.size(); ++i) {
+    if (prepared.files[i].file.raw != files[i].raw) return false;
+  }
+  return true;
+}
+
+BatchRename::Ending BatchRename::RenameAll(const QString& base, const BatchNaming* prepared,
+                                           QString* lastNewName) {
   RenameView& view = context_.view;
   view.SetSelectionLabel(texts::kProcessingFiles);
   shownPercent_ = -1;
@@ -93,37 +97,131 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, QString* lastNew
   // The folder is held for the whole batch: events that run meanwhile may
   // change the window's current folder, never the files being renamed.
   FileRenamer renamer(context_, context_.session.CurrentFolder, files);
-  std::optional<int> randomCount;
-  if (view.RandomSeries()) randomCount = NumberedFiles(files, renamer);
-  BatchFileNamer namer(context_, renamer.Folder(), base, randomCount);
-  if (MentionsExifToken(base)) context_.tokens.ExpectExifValues(renamer.Folder(), files);
-  for (size_t i = 0; i < files.size(); ++i) {
-    ShowProgress(i, files.size());
-    if (renamer.Sets().TravelsWithSelectedHead(files[i].raw)) continue;
-    if (RenameOne(files[i], namer, renamer, lastNewName) == Step::Stop) return Ending::Stopped;
+  // Every name is worked out first, so that a file can wait for the file
+  // that holds its new name; random numbers are drawn once, so a preview's
+  // names are the names given.
+  const BatchNaming naming = prepared != nullptr && StillValid(*prepared, base, files)
+                                 ? *prepared
+                                 : NameBatch(context_, renamer, files, base, view.RandomSeries(), false);
+  aside_.clear();
+  const std::vector<Turn> turns = Turns(naming, renamer);
+  for (size_t i = 0; i < turns.size(); ++i) {
+    ShowProgress(i, turns.size());
+    if (TakeTurn(turns[i], naming, renamer, lastNewName) == Step::Stop) {
+      PutBackAside(renamer);
+      return Ending::Stopped;
+    }
   }
-  ShowProgress(files.size(), files.size());
+  ShowProgress(turns.size(), turns.size());
+  for (const NamedFile& named : naming.files) {
+    if (named.seriesTaken) {
+      view.SetSeriesText(naming.seriesAtEnd);
+      break;
+    }
+  }
   return Ending::Finished;
 }
 
-BatchRename::Step BatchRename::RenameOne(const platform::FileName& file, BatchFileNamer& namer,
-                                         FileRenamer& renamer, QString* lastNewName) {
-  const QString unexpanded = namer.Unexpanded(file);
-  context_.view.SetNewNameText(unexpanded);
-  context_.view.ProcessEvents();
-  const QString newName = namer.Expand(file, unexpanded);
-  if (newName == file.Display()) return Step::Next;
-  const QByteArray target = platform::FileName::TextToName(newName);
-  // A change of letter case alone is renamed without asking.
-  const bool caseOnly = target.compare(file.raw, Qt::CaseInsensitive) == 0;
-  const bool targetKnown = !caseOnly && renamer.Index().Contains(target);
-  const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(file, newName, targetKnown);
-  return Settle(outcome, file, newName, namer, lastNewName);
+// Files keep list order, except that the files that get new names take
+// their places among themselves in the order of the plan.
+std::vector<BatchRename::Turn> BatchRename::Turns(const BatchNaming& naming, FileRenamer& renamer) const {
+  std::vector<RenameMove> moves;
+  std::vector<size_t> moveFile;
+  for (size_t i = 0; i < naming.files.size(); ++i) {
+    const NamedFile& named = naming.files[i];
+    if (named.travels || named.newName == named.file.Display()) continue;
+    const QByteArray target = platform::FileName::TextToName(named.newName);
+    moves.push_back({{named.file.raw, target}, renamer.Sets().Companions(named.file.raw, target)});
+    moveFile.push_back(i);
+  }
+  const RenamePlan plan =
+      PlanRenames(moves, [&renamer](const QByteArray& name) { return renamer.Index().Contains(name); });
+  std::vector<Turn> placed;
+  std::vector<PlannedRename> asides;
+  for (const PlannedRename& step : plan) {
+    if (step.kind == PlannedRename::Kind::ToTemporary) {
+      asides.push_back(step);
+    } else {
+      placed.push_back({moveFile[static_cast<size_t>(step.move)], std::exchange(asides, {})});
+    }
+  }
+  std::vector<Turn> turns;
+  turns.reserve(naming.files.size());
+  size_t next = 0;
+  for (size_t i = 0; i < naming.files.size(); ++i) {
+    if (next < moveFile.size() && moveFile[next] == i) {
+      turns.push_back(std::move(placed[next++]));
+    } else {
+      turns.push_back({i, {}});
+    }
+  }
+  return turns;
 }
 
-BatchRename::Step BatchRename::Settle(const OverwriteOutcome& outcome, const platform::FileName& file,
-                                      const QString& newName, BatchFileNamer& namer,
+BatchRename::Step BatchRename::TakeTurn(const Turn& turn, const BatchNaming& naming, FileRenamer& renamer,
+                                        QString* lastNewName) {
+  const NamedFile& named = naming.files[turn.file];
+  if (named.travels) return Step::Next;
+  context_.view.SetNewNameText(named.unexpanded);
+  context_.view.ProcessEvents();
+  for (const QString& message : named.messages) context_.messages.Notify(message);
+  if (named.seriesTaken) {
+    context_.session.SeriesUsed = true;
+    context_.view.SetSeriesText(named.seriesAfter);
+  }
+  if (named.newName == named.file.Display()) return Step::Next;
+  for (const PlannedRename& aside : turn.asides) {
+    if (StepAside(aside, renamer) == Step::Stop) return Step::Stop;
+  }
+  platform::FileName current = named.file;
+  for (auto it = aside_.begin(); it != aside_.end(); ++it) {
+    if (it->from == named.file.raw) {
+      current = platform::FileName{it->to};
+      aside_.erase(it);
+      break;
+    }
+  }
+  const QByteArray target = platform::FileName::TextToName(named.newName);
+  // A change of letter case alone is renamed without asking.
+  const bool caseOnly = target.compare(current.raw, Qt::CaseInsensitive) == 0;
+  const bool targetKnown = !caseOnly && renamer.Index().Contains(target);
+  const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(current, named.newName, targetKnown);
+  if (outcome.kind != OverwriteOutcome::Kind::Renamed && current.raw != named.file.raw) {
+    PutBack({named.file.raw, current.raw}, renamer);
+  }
+  return Settle(outcome, named, lastNewName);
+}
+
+// A file that steps aside for a cycle is renamed as at its own turn would
+// be, with its set; a failure ends the batch like any failed rename.
+BatchRename::Step BatchRename::StepAside(const PlannedRename& aside, FileRenamer& renamer) {
+  const QByteArray& folder = renamer.Folder();
+  const int error = renamer.RenameFile(folder + aside.head.from, folder + aside.head.to);
+  if (error == 0) {
+    aside_.push_back(aside.head);
+    return Step::Next;
+  }
+  if (!renamer.FailureShown()) {
+    context_.messages.Notify(BatchRenameFailureText(error), platform::MessageIcon::Critical);
+  }
+  return Step::Stop;
+}
+
+// A file that stepped aside but was not renamed after all gets its old name
+// back; where that is taken meanwhile it stays, complete, under the hidden one.
+void BatchRename::PutBackAside(FileRenamer& renamer) {
+  for (const NamePair& pair : aside_) PutBack(pair, renamer);
+  aside_.clear();
+}
+
+void BatchRename::PutBack(const NamePair& aside, FileRenamer& renamer) {
+  const QByteArray& folder = renamer.Folder();
+  renamer.RenameFile(folder + aside.to, folder + aside.from);
+}
+
+BatchRename::Step BatchRename::Settle(const OverwriteOutcome& outcome, const NamedFile& named,
                                       QString* lastNewName) {
+  const QString& newName = named.newName;
   switch (outcome.kind) {
     case OverwriteOutcome::Kind::Renamed:
       *lastNewName = newName;
@@ -131,14 +229,19 @@ BatchRename::Step BatchRename::Settle(const OverwriteOutcome& outcome, const pla
     case OverwriteOutcome::Kind::Declined:
       return Step::Next;
     case OverwriteOutcome::Kind::Cancelled:
-      if (namer.SeriesTaken()) namer.StepBackSeries();
+      if (named.seriesTaken) {
+        ViewSeriesBox box(context_.view);
+        SeriesCounter(box, context_.settings).StepBackSeries();
+      }
       return Step::Stop;
     case OverwriteOutcome::Kind::Failed:
       break;
   }
   if (!outcome.failureShown) {
     QString text = BatchRenameFailureText(outcome.error);
-    if (outcome.targetDeleted) text += texts::kCr + texts::kTargetDeletedRenameFailed.arg(newName, file.Display());
+    if (outcome.targetDeleted) {
+      text += texts::kCr + texts::kTargetDeletedRenameFailed.arg(newName, named.file.Display());
+    }
     context_.messages.Notify(text, platform::MessageIcon::Critical);
   }
   return Step::Stop;

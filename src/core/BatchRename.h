@@ -3,10 +3,11 @@
 #include <QString>
 #include <vector>
 
-#include "core/BatchFileNamer.h"
+#include "core/BatchNaming.h"
 #include "core/FileRenamer.h"
 #include "core/OverwritingRename.h"
 #include "core/RenameContext.h"
+#include "core/RenamePlanner.h"
 
 namespace renvale::core {
 
@@ -18,27 +19,48 @@ class BatchRename {
  public:
   explicit BatchRename(const RenameContext& context);
 
-  // Checks the base (before any file is touched), then renames the selected
-  // files in list order, asking before replacing a file; stops at a Cancel
-  // or the first failure (files renamed before it stay renamed).
-  void StartBatchRename();
+  // Checks the base (before any file is touched), works out every new name,
+  // then renames the selected files, asking before replacing a file; stops
+  // at a Cancel or the first failure (files renamed before it stay
+  // renamed). A file whose new name another file of the batch leaves is
+  // renamed after that one, through a hidden name where names form a cycle,
+  // so files trading names are never asked about. `prepared` (the names a
+  // preview showed) is used when it is still the batch's: same folder,
+  // base, selection and next series number.
+  void StartBatchRename(const BatchNaming* prepared = nullptr);
+
+  // The extension guard's base for the current selection: the batch's base
+  // without the extension each file puts in its place.
+  QString FileBase(const QString& base) const;
 
  private:
   enum class Ending { Finished, Stopped };
   enum class Step { Next, Stop };
 
+  // One file's turn: the renames to hidden names that must come first, and
+  // its own move of the plan.
+  struct Turn {
+    size_t file = 0;
+    std::vector<PlannedRename> asides;
+  };
+
   bool BaseAccepted(const QString& base);
-  QString FileBase(const QString& base) const;
-  Ending RenameAll(const QString& base, QString* lastNewName);
-  Step RenameOne(const platform::FileName& file, BatchFileNamer& namer, FileRenamer& renamer,
-                 QString* lastNewName);
-  Step Settle(const OverwriteOutcome& outcome, const platform::FileName& file, const QString& newName,
-              BatchFileNamer& namer, QString* lastNewName);
+  bool StillValid(const BatchNaming& prepared, const QString& base,
+                  const std::vector<platform::FileName>& files) const;
+  Ending RenameAll(const QString& base, const BatchNaming* prepared, QString* lastNewName);
+  std::vector<Turn> Turns(const BatchNaming& naming, FileRenamer& renamer) const;
+  Step TakeTurn(const Turn& turn, const BatchNaming& naming, FileRenamer& renamer, QString* lastNewName);
+  Step StepAside(const PlannedRename& aside, FileRenamer& renamer);
+  void PutBackAside(FileRenamer& renamer);
+  void PutBack(const NamePair& aside, FileRenamer& renamer);
+  Step Settle(const OverwriteOutcome& outcome, const NamedFile& named, QString* lastNewName);
   void ShowProgress(size_t done, size_t total);
   void Finish(Ending ending, const QString& lastNewName);
 
   const RenameContext& context_;
   int shownPercent_ = -1;
+  // Files standing under a hidden name until their turn: old name -> hidden name.
+  std::vector<NamePair> aside_;
 };
 
 }  // namespace renvale::core
