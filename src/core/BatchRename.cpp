@@ -104,7 +104,7 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, const BatchNamin
                                  ? *prepared
                                  : NameBatch(context_, renamer, files, base, view.RandomSeries(), false);
   aside_.clear();
-  const std::vector<Turn> turns = Turns(naming, renamer);
+  const std::vector<PlannedTurn> turns = Turns(naming, renamer);
   for (size_t i = 0; i < turns.size(); ++i) {
     ShowProgress(i, turns.size());
     if (TakeTurn(turns[i], naming, renamer, lastNewName) == Step::Stop) {
@@ -124,7 +124,7 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, const BatchNamin
 
 // Files keep list order, except that the files that get new names take
 // their places among themselves in the order of the plan.
-std::vector<BatchRename::Turn> BatchRename::Turns(const BatchNaming& naming, FileRenamer& renamer) const {
+std::vector<PlannedTurn> BatchRename::Turns(const BatchNaming& naming, FileRenamer& renamer) const {
   std::vector<RenameMove> moves;
   std::vector<size_t> moveFile;
   for (size_t i = 0; i < naming.files.size(); ++i) {
@@ -136,29 +136,10 @@ std::vector<BatchRename::Turn> BatchRename::Turns(const BatchNaming& naming, Fil
   }
   const RenamePlan plan =
       PlanRenames(moves, [&renamer](const QByteArray& name) { return renamer.Index().Contains(name); });
-  std::vector<Turn> placed;
-  std::vector<PlannedRename> asides;
-  for (const PlannedRename& step : plan) {
-    if (step.kind == PlannedRename::Kind::ToTemporary) {
-      asides.push_back(step);
-    } else {
-      placed.push_back({moveFile[static_cast<size_t>(step.move)], std::exchange(asides, {})});
-    }
-  }
-  std::vector<Turn> turns;
-  turns.reserve(naming.files.size());
-  size_t next = 0;
-  for (size_t i = 0; i < naming.files.size(); ++i) {
-    if (next < moveFile.size() && moveFile[next] == i) {
-      turns.push_back(std::move(placed[next++]));
-    } else {
-      turns.push_back({i, {}});
-    }
-  }
-  return turns;
+  return TurnsInListOrder(naming.files.size(), moveFile, plan);
 }
 
-BatchRename::Step BatchRename::TakeTurn(const Turn& turn, const BatchNaming& naming, FileRenamer& renamer,
+BatchRename::Step BatchRename::TakeTurn(const PlannedTurn& turn, const BatchNaming& naming, FileRenamer& renamer,
                                         QString* lastNewName) {
   const NamedFile& named = naming.files[turn.file];
   if (named.travels) return Step::Next;

@@ -37,19 +37,12 @@ class BatchRename {
   enum class Ending { Finished, Stopped };
   enum class Step { Next, Stop };
 
-  // One file's turn: the renames to hidden names that must come first, and
-  // its own move of the plan.
-  struct Turn {
-    size_t file = 0;
-    std::vector<PlannedRename> asides;
-  };
-
   bool BaseAccepted(const QString& base);
   bool StillValid(const BatchNaming& prepared, const QString& base,
                   const std::vector<platform::FileName>& files) const;
   Ending RenameAll(const QString& base, const BatchNaming* prepared, QString* lastNewName);
-  std::vector<Turn> Turns(const BatchNaming& naming, FileRenamer& renamer) const;
-  Step TakeTurn(const Turn& turn, const BatchNaming& naming, FileRenamer& renamer, QString* lastNewName);
+  std::vector<PlannedTurn> Turns(const BatchNaming& naming, FileRenamer& renamer) const;
+  Step TakeTurn(const PlannedTurn& turn, const BatchNaming& naming, FileRenamer& renamer, QString* lastNewName);
   Step StepAside(const PlannedRename& aside, FileRenamer& renamer);
   void PutBackAside(FileRenamer& renamer);
   void PutBack(const NamePair& aside, FileRenamer& renamer);

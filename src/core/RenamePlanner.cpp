@@ -2,6 +2,7 @@
 
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 #include "core/AsciiFoldedName.h"
 
@@ -150,6 +151,30 @@ class Planner {
 RenamePlan PlanRenames(const std::vector<RenameMove>& moves,
                        const std::function<bool(const QByteArray&)>& taken) {
   return Planner(moves, taken).Run();
+}
+
+std::vector<PlannedTurn> TurnsInListOrder(size_t fileCount, const std::vector<size_t>& moveFile,
+                                          const RenamePlan& plan) {
+  std::vector<PlannedTurn> placed;
+  std::vector<PlannedRename> asides;
+  for (const PlannedRename& step : plan) {
+    if (step.kind == PlannedRename::Kind::ToTemporary) {
+      asides.push_back(step);
+    } else {
+      placed.push_back({moveFile[static_cast<size_t>(step.move)], std::exchange(asides, {})});
+    }
+  }
+  std::vector<PlannedTurn> turns;
+  turns.reserve(fileCount);
+  size_t next = 0;
+  for (size_t i = 0; i < fileCount; ++i) {
+    if (next < moveFile.size() && moveFile[next] == i) {
+      turns.push_back(std::move(placed[next++]));
+    } else {
+      turns.push_back({i, {}});
+    }
+  }
+  return turns;
 }
 
 }  // namespace renvale::core

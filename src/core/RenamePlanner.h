@@ -46,4 +46,18 @@ using RenamePlan = std::vector<PlannedRename>;
 RenamePlan PlanRenames(const std::vector<RenameMove>& moves,
                        const std::function<bool(const QByteArray&)>& taken);
 
+// One file's turn in a run over a list: the steps aside to hidden names that
+// must come first, then the file's own rename.
+struct PlannedTurn {
+  size_t file = 0;
+  std::vector<PlannedRename> asides;
+};
+
+// The turns of a list of `fileCount` files of which the files `moveFile`
+// (ascending; one per planned move) get new names: files keep list order,
+// except that the moving files take their places among themselves in the
+// order of `plan`. Without waits this is exactly list order.
+std::vector<PlannedTurn> TurnsInListOrder(size_t fileCount, const std::vector<size_t>& moveFile,
+                                          const RenamePlan& plan);
+
 }  // namespace renvale::core
