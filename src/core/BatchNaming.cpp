@@ -47,34 +47,58 @@ int NumberedFiles(const std::vector<platform::FileName>& files, const FileRename
 
 }  // namespace
 
+struct BatchNames::Parts {
+  Parts(const RenameContext& context, const QByteArray& folder, const QString& base,
+        std::optional<int> randomCount, RandomSeriesPool::RandomSource random)
+      : box(context.view.SeriesText()),
+        namer(context, box, folder, base, randomCount, std::move(random)),
+        collected(context.tokens) {}
+
+  CopiedSeriesBox box;
+  BatchFileNamer namer;
+  CollectedMessages collected;
+};
+
+BatchNames::BatchNames(const RenameContext& context, const FileRenamer& renamer,
+                       const std::vector<platform::FileName>& files, const QString& base, bool randomSeries,
+                       bool withDateSources, RandomSeriesPool::RandomSource random)
+    : context_(context), renamer_(renamer), withDateSources_(withDateSources) {
+  std::optional<int> randomCount;
+  if (randomSeries) randomCount = NumberedFiles(files, renamer);
+  if (withDateSources || MentionsExifToken(base)) context.tokens.ExpectExifValues(renamer.Folder(), files);
+  parts_ = std::make_unique<Parts>(context, renamer.Folder(), base, randomCount, std::move(random));
+}
+
+BatchNames::~BatchNames() = default;
+
+QString BatchNames::SeriesText() const { return parts_->box.Text(); }
+
+NamedFile BatchNames::Next(const platform::FileName& file) {
+  NamedFile named;
+  named.file = file;
+  named.travels = renamer_.Sets().TravelsWithSelectedHead(file.raw);
+  if (!named.travels) {
+    named.unexpanded = parts_->namer.Unexpanded(file);
+    named.newName = parts_->namer.Expand(file, named.unexpanded);
+    named.seriesTaken = parts_->namer.SeriesTaken();
+    named.messages = parts_->collected.Take();
+  }
+  // A file whose name uses no date is read only for the preview, which
+  // shows no message; the batch must not show one either.
+  if (withDateSources_) named.dateSource = context_.tokens.DateSourceText(renamer_.Folder(), file);
+  parts_->collected.Take();
+  named.seriesAfter = parts_->box.Text();
+  return named;
+}
+
 BatchNaming NameBatch(const RenameContext& context, const FileRenamer& renamer,
                       const std::vector<platform::FileName>& files, const QString& base, bool randomSeries,
                       bool withDateSources, RandomSeriesPool::RandomSource random) {
   BatchNaming naming{renamer.Folder(), base, context.view.SeriesText(), {}, {}};
-  CopiedSeriesBox box(naming.seriesAtStart);
-  std::optional<int> randomCount;
-  if (randomSeries) randomCount = NumberedFiles(files, renamer);
-  BatchFileNamer namer(context, box, naming.folder, base, randomCount, std::move(random));
-  if (withDateSources || MentionsExifToken(base)) context.tokens.ExpectExifValues(naming.folder, files);
-  CollectedMessages collected(context.tokens);
+  BatchNames names(context, renamer, files, base, randomSeries, withDateSources, std::move(random));
   naming.files.reserve(files.size());
-  for (const platform::FileName& file : files) {
-    NamedFile& named = naming.files.emplace_back();
-    named.file = file;
-    named.travels = renamer.Sets().TravelsWithSelectedHead(file.raw);
-    if (!named.travels) {
-      named.unexpanded = namer.Unexpanded(file);
-      named.newName = namer.Expand(file, named.unexpanded);
-      named.seriesTaken = namer.SeriesTaken();
-      named.messages = collected.Take();
-    }
-    // A file whose name uses no date is read only for the preview, which
-    // shows no message; the batch must not show one either.
-    if (withDateSources) named.dateSource = context.tokens.DateSourceText(naming.folder, file);
-    collected.Take();
-    named.seriesAfter = box.Text();
-  }
-  naming.seriesAtEnd = box.Text();
+  for (const platform::FileName& file : files) naming.files.push_back(names.Next(file));
+  naming.seriesAtEnd = names.SeriesText();
   return naming;
 }
 

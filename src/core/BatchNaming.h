@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <memory>
 #include <vector>
 
 #include "core/FileRenamer.h"
@@ -33,10 +34,33 @@ struct BatchNaming {
   QString seriesAtEnd;     // the box after the last number
 };
 
-// Works the names out with the batch's own namer, series numbers and token
-// values, but takes no number from the window's box, shows no message and
-// renames nothing. `withDateSources` also asks each file where its date
-// comes from (a read per file, so only the preview asks).
+// Works the names out one file at a time, in list order, with the batch's
+// own namer, series numbers and token values, but takes no number from the
+// window's box, shows no message and renames nothing. `withDateSources`
+// also asks each file where its date comes from (a read per file, so only
+// the preview asks). A batch names each file just before its turn, so the
+// reading of the files still runs ahead while earlier files are renamed.
+class BatchNames {
+ public:
+  BatchNames(const RenameContext& context, const FileRenamer& renamer, const std::vector<platform::FileName>& files,
+             const QString& base, bool randomSeries, bool withDateSources,
+             RandomSeriesPool::RandomSource random = RandomSeriesPool::TimeSeededSource());
+  ~BatchNames();
+  BatchNames(const BatchNames&) = delete;
+  BatchNames& operator=(const BatchNames&) = delete;
+
+  NamedFile Next(const platform::FileName& file);
+  QString SeriesText() const;
+
+ private:
+  struct Parts;
+  const RenameContext& context_;
+  const FileRenamer& renamer_;
+  bool withDateSources_;
+  std::unique_ptr<Parts> parts_;
+};
+
+// Every file's name at once.
 BatchNaming NameBatch(const RenameContext& context, const FileRenamer& renamer,
                       const std::vector<platform::FileName>& files, const QString& base, bool randomSeries,
                       bool withDateSources,

@@ -97,27 +97,60 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, const BatchNamin
   // The folder is held for the whole batch: events that run meanwhile may
   // change the window's current folder, never the files being renamed.
   FileRenamer renamer(context_, context_.session.CurrentFolder, files);
-  // Every name is worked out first, so that a file can wait for the file
-  // that holds its new name; random numbers are drawn once, so a preview's
-  // names are the names given.
-  const BatchNaming naming = prepared != nullptr && StillValid(*prepared, base, files)
-                                 ? *prepared
-                                 : NameBatch(context_, renamer, files, base, view.RandomSeries(), false);
   aside_.clear();
-  const std::vector<PlannedTurn> turns = Turns(naming, renamer);
-  for (size_t i = 0; i < turns.size(); ++i) {
-    ShowProgress(i, turns.size());
-    if (TakeTurn(turns[i], naming, renamer, lastNewName) == Step::Stop) {
-      PutBackAside(renamer);
-      return Ending::Stopped;
-    }
+  done_ = 0;
+  total_ = files.size();
+  seriesTaken_ = false;
+  // A preview's names are the names given, random numbers included.
+  const bool usePrepared = prepared != nullptr && StillValid(*prepared, base, files);
+  const Ending ending = usePrepared ? RenamePlanned(*prepared, renamer, lastNewName)
+                                    : RenameAsNamed(files, base, renamer, lastNewName);
+  if (ending == Ending::Stopped) {
+    PutBackAside(renamer);
+    return ending;
   }
-  ShowProgress(turns.size(), turns.size());
-  for (const NamedFile& named : naming.files) {
-    if (named.seriesTaken) {
-      view.SetSeriesText(naming.seriesAtEnd);
-      break;
+  ShowProgress(files.size(), files.size());
+  if (seriesTaken_) view.SetSeriesText(usePrepared ? prepared->seriesAtEnd : finalSeries_);
+  return ending;
+}
+
+// Each file is named just before its turn, so the files are read ahead
+// while earlier ones are renamed. A file whose new name a selected file
+// not renamed yet still holds waits, and so does any file that needs the
+// name of a waiting one; the waiting files go last, in the planner's order.
+BatchRename::Ending BatchRename::RenameAsNamed(const std::vector<platform::FileName>& files, const QString& base,
+                                               FileRenamer& renamer, QString* lastNewName) {
+  BatchNames names(context_, renamer, files, base, context_.view.RandomSeries(), false);
+  FoldedNames held(files.size());
+  for (const platform::FileName& file : files) held.insert(file.raw);
+  BatchNaming waiting{renamer.Folder(), base, {}, {}, {}};
+  for (const platform::FileName& file : files) {
+    NamedFile named = names.Next(file);
+    if (const auto own = held.find(file.raw); own != held.end()) held.erase(own);
+    if (!named.travels && MustWait(named, held, renamer)) {
+      waiting.files.push_back(std::move(named));
+      continue;
     }
+    if (TakeTurn({}, named, renamer, lastNewName) == Step::Stop) return Ending::Stopped;
+  }
+  finalSeries_ = names.SeriesText();
+  return RenamePlanned(waiting, renamer, lastNewName);
+}
+
+bool BatchRename::MustWait(const NamedFile& named, const FoldedNames& held, const FileRenamer& renamer) const {
+  if (named.newName == named.file.Display()) return false;
+  const QByteArray target = platform::FileName::TextToName(named.newName);
+  if (held.count(target) != 0) return true;
+  for (const NamePair& companion : renamer.Sets().Companions(named.file.raw, target)) {
+    if (held.count(companion.to) != 0) return true;
+  }
+  return false;
+}
+
+BatchRename::Ending BatchRename::RenamePlanned(const BatchNaming& naming, FileRenamer& renamer,
+                                               QString* lastNewName) {
+  for (const PlannedTurn& turn : Turns(naming, renamer)) {
+    if (TakeTurn(turn.asides, naming.files[turn.file], renamer, lastNewName) == Step::Stop) return Ending::Stopped;
   }
   return Ending::Finished;
 }
@@ -139,19 +172,20 @@ std::vector<PlannedTurn> BatchRename::Turns(const BatchNaming& naming, FileRenam
   return TurnsInListOrder(naming.files.size(), moveFile, plan);
 }
 
-BatchRename::Step BatchRename::TakeTurn(const PlannedTurn& turn, const BatchNaming& naming, FileRenamer& renamer,
-                                        QString* lastNewName) {
-  const NamedFile& named = naming.files[turn.file];
+BatchRename::Step BatchRename::TakeTurn(const std::vector<PlannedRename>& asides, const NamedFile& named,
+                                        FileRenamer& renamer, QString* lastNewName) {
+  ShowProgress(done_++, total_);
   if (named.travels) return Step::Next;
   context_.view.SetNewNameText(named.unexpanded);
   context_.view.ProcessEvents();
   for (const QString& message : named.messages) context_.messages.Notify(message);
   if (named.seriesTaken) {
+    seriesTaken_ = true;
     context_.session.SeriesUsed = true;
     context_.view.SetSeriesText(named.seriesAfter);
   }
   if (named.newName == named.file.Display()) return Step::Next;
-  for (const PlannedRename& aside : turn.asides) {
+  for (const PlannedRename& aside : asides) {
     if (StepAside(aside, renamer) == Step::Stop) return Step::Stop;
   }
   platform::FileName current = named.file;

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <unordered_set>
 #include <vector>
 
+#include "core/AsciiFoldedName.h"
 #include "core/BatchNaming.h"
 #include "core/FileRenamer.h"
 #include "core/OverwritingRename.h"
@@ -37,12 +39,19 @@ class BatchRename {
   enum class Ending { Finished, Stopped };
   enum class Step { Next, Stop };
 
+  using FoldedNames = std::unordered_multiset<QByteArray, AsciiFoldedName, AsciiFoldedName>;
+
   bool BaseAccepted(const QString& base);
   bool StillValid(const BatchNaming& prepared, const QString& base,
                   const std::vector<platform::FileName>& files) const;
   Ending RenameAll(const QString& base, const BatchNaming* prepared, QString* lastNewName);
+  Ending RenameAsNamed(const std::vector<platform::FileName>& files, const QString& base, FileRenamer& renamer,
+                       QString* lastNewName);
+  bool MustWait(const NamedFile& named, const FoldedNames& held, const FileRenamer& renamer) const;
+  Ending RenamePlanned(const BatchNaming& naming, FileRenamer& renamer, QString* lastNewName);
   std::vector<PlannedTurn> Turns(const BatchNaming& naming, FileRenamer& renamer) const;
-  Step TakeTurn(const PlannedTurn& turn, const BatchNaming& naming, FileRenamer& renamer, QString* lastNewName);
+  Step TakeTurn(const std::vector<PlannedRename>& asides, const NamedFile& named, FileRenamer& renamer,
+                QString* lastNewName);
   Step StepAside(const PlannedRename& aside, FileRenamer& renamer);
   void PutBackAside(FileRenamer& renamer);
   void PutBack(const NamePair& aside, FileRenamer& renamer);
@@ -52,6 +61,10 @@ class BatchRename {
 
   const RenameContext& context_;
   int shownPercent_ = -1;
+  size_t done_ = 0;
+  size_t total_ = 0;
+  bool seriesTaken_ = false;  // a file took a number: the box ends where the names left it
+  QString finalSeries_;
   // Files standing under a hidden name until their turn: old name -> hidden name.
   std::vector<NamePair> aside_;
 };
