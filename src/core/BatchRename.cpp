@@ -31,7 +31,8 @@ class BusyScope {
 
 }  // namespace
 
-BatchRename::BatchRename(const RenameContext& context) : context_(context) {}
+BatchRename::BatchRename(const RenameContext& context, RandomSeriesPool::RandomSource random)
+    : context_(context), random_(std::move(random)) {}
 
 void BatchRename::StartBatchRename(const BatchNaming* prepared) {
   // The batch lets window events run; Enter pressed meanwhile must not start
@@ -120,16 +121,21 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, const BatchNamin
 // name of a waiting one; the waiting files go last, in the planner's order.
 BatchRename::Ending BatchRename::RenameAsNamed(const std::vector<platform::FileName>& files, const QString& base,
                                                FileRenamer& renamer, QString* lastNewName) {
-  BatchNames names(context_, renamer, files, base, context_.view.RandomSeries(), false);
+  BatchNames names(context_, renamer, files, base, context_.view.RandomSeries(), false, random_);
   FoldedNames held(files.size());
   for (const platform::FileName& file : files) held.insert(file.raw);
   BatchNaming waiting{renamer.Folder(), base, {}, {}, {}};
   for (const platform::FileName& file : files) {
     NamedFile named = names.Next(file);
-    if (const auto own = held.find(file.raw); own != held.end()) held.erase(own);
-    if (!named.travels && MustWait(named, held, renamer)) {
-      waiting.files.push_back(std::move(named));
-      continue;
+    // A file that goes with its picture holds its name for good: it moves
+    // when its picture does, which may be among the waiting files.
+    if (!named.travels) {
+      if (const auto own = held.find(file.raw); own != held.end()) held.erase(own);
+      if (MustWait(named, held, renamer)) {
+        held.insert(file.raw);
+        waiting.files.push_back(std::move(named));
+        continue;
+      }
     }
     if (TakeTurn({}, named, renamer, lastNewName) == Step::Stop) return Ending::Stopped;
   }

@@ -19,7 +19,8 @@ namespace renvale::core {
 // refreshed once at the end and re-selection is one search.
 class BatchRename {
  public:
-  explicit BatchRename(const RenameContext& context);
+  explicit BatchRename(const RenameContext& context,
+                       RandomSeriesPool::RandomSource random = RandomSeriesPool::TimeSeededSource());
 
   // Checks the base (before any file is touched), works out every new name,
   // then renames the selected files, asking before replacing a file; stops
@@ -60,6 +61,7 @@ class BatchRename {
   void Finish(Ending ending, const QString& lastNewName);
 
   const RenameContext& context_;
+  RandomSeriesPool::RandomSource random_;
   int shownPercent_ = -1;
   size_t done_ = 0;
   size_t total_ = 0;
