@@ -2,6 +2,7 @@
 
 #include "platform/AppPaths.h"
 #include "platform/FileSystem.h"
+#include "platform/GioNetworkShares.h"
 #include "platform/MountList.h"
 #include "platform/QtSettingsStorage.h"
 #include "platform/widgets/FolderPicker.h"
@@ -38,7 +39,9 @@ int main(int argc, char** argv) {
   shell::MainWindowServices services{platform::RealFileSystem(), messages, settings, tips,
                                      platform::PickFolder, platform::MountList::Current,
                                      platform::CurrentDirectory};
+  platform::GioNetworkShares shares;
   shell::MainWindow window(std::move(services));
+  window.UseNetworkShares(shares);
   messages.SetParent(&window);
   window.Start(StartPath(argc, argv));
   window.show();
