@@ -11,10 +11,10 @@ const QString kMp3 = QStringLiteral(".mp3");
 
 }  // namespace
 
-BatchFileNamer::BatchFileNamer(const RenameContext& context, const QByteArray& folder,
+BatchFileNamer::BatchFileNamer(const RenameContext& context, SeriesBox& box, const QByteArray& folder,
                                const QString& base, std::optional<int> randomCount,
                                RandomSeriesPool::RandomSource random)
-    : context_(context), folder_(folder), base_(base), box_(context.view), counter_(box_, context.settings) {
+    : context_(context), folder_(folder), base_(base), box_(box), counter_(box_, context.settings) {
   if (randomCount) {
     pool_.emplace(ReadSeriesNumber(box_.Text()), *randomCount, std::move(random));
   }
@@ -45,7 +45,6 @@ QString BatchFileNamer::TokenValue(const platform::FileName& file, Token token) 
 }
 
 QString BatchFileNamer::NextSeriesText() {
-  context_.session.SeriesUsed = true;
   seriesTaken_ = true;
   if (pool_) {
     if (const std::optional<qint64> drawn = pool_->Draw()) counter_.PutNextValue(*drawn);

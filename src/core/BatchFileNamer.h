@@ -6,7 +6,7 @@
 #include "core/RandomSeriesPool.h"
 #include "core/RenameContext.h"
 #include "core/SeriesCounter.h"
-#include "core/ViewSeriesBox.h"
+#include "core/SeriesBox.h"
 
 namespace renvale::core {
 
@@ -15,10 +15,12 @@ namespace renvale::core {
 // batch's fixed order, one series number per file that uses one.
 class BatchFileNamer {
  public:
-  // Names the files of `folder`; `base` has no extension. With `randomCount` set, the numbers v .. v +
-  // randomCount - 1 (v read from "Next Series #:") are handed out once each
-  // in a random order instead of counting up.
-  BatchFileNamer(const RenameContext& context, const QByteArray& folder, const QString& base,
+  // Names the files of `folder`; `base` has no extension. Series numbers
+  // come from `box` (the window's box, or a copy of it when the names are
+  // only worked out). With `randomCount` set, the numbers v .. v +
+  // randomCount - 1 (v read from the box) are handed out once each in a
+  // random order instead of counting up.
+  BatchFileNamer(const RenameContext& context, SeriesBox& box, const QByteArray& folder, const QString& base,
                  std::optional<int> randomCount,
                  RandomSeriesPool::RandomSource random = RandomSeriesPool::TimeSeededSource());
 
@@ -29,9 +31,6 @@ class BatchFileNamer {
   // Whether the last Expand took a series number.
   bool SeriesTaken() const { return seriesTaken_; }
 
-  // Gives back the number the last Expand took.
-  void StepBackSeries() { counter_.StepBackSeries(); }
-
  private:
   QString TokenValue(const platform::FileName& file, Token token);
   QString NextSeriesText();
@@ -39,7 +38,7 @@ class BatchFileNamer {
   const RenameContext& context_;
   QByteArray folder_;
   QString base_;
-  ViewSeriesBox box_;
+  SeriesBox& box_;
   SeriesCounter counter_;
   std::optional<RandomSeriesPool> pool_;
   Id3Values id3_;  // of the last ".mp3"; other files keep them, as the menu's values do

@@ -5,7 +5,6 @@
 #include "core/FileNameRules.h"
 #include "core/RenameFailureTexts.h"
 #include "core/SeriesCounter.h"
-#include "core/TokenExpansion.h"
 #include "core/ViewSeriesBox.h"
 
 namespace renvale::core {
@@ -30,19 +29,12 @@ class BusyScope {
   RenameSession& session_;
 };
 
-int NumberedFiles(const std::vector<platform::FileName>& files, const FileRenamer& renamer) {
-  int count = 0;
-  for (const platform::FileName& file : files) {
-    if (!renamer.Sets().TravelsWithSelectedHead(file.raw)) ++count;
-  }
-  return count;
-}
-
 }  // namespace
 
-BatchRename::BatchRename(const RenameContext& context) : context_(context) {}
+BatchRename::BatchRename(const RenameContext& context, RandomSeriesPool::RandomSource random)
+    : context_(context), random_(std::move(random)) {}
 
-void BatchRename::StartBatchRename() {
+void BatchRename::StartBatchRename(const BatchNaming* prepared) {
   // The batch lets window events run; Enter pressed meanwhile must not start
   // a second one inside it.
   if (context_.session.Busy) return;
@@ -53,7 +45,7 @@ void BatchRename::StartBatchRename() {
   Ending ending;
   {
     BusyScope busy(context_.session);
-    ending = RenameAll(FileBase(base), &lastNewName);
+    ending = RenameAll(FileBase(base), prepared, &lastNewName);
     context_.view.ProcessEvents();
   }
   Finish(ending, lastNewName);
@@ -84,7 +76,20 @@ QString BatchRename::FileBase(const QString& base) const {
   return guarded.left(guarded.size() - extension.size());
 }
 
-BatchRename::Ending BatchRename::RenameAll(const QString& base, QString* lastNewName) {
+bool BatchRename::StillValid(const BatchNaming& prepared, const QString& base,
+                             const std::vector<platform::FileName>& files) const {
+  if (prepared.folder != context_.session.CurrentFolder || prepared.base != base ||
+      prepared.seriesAtStart != context_.view.SeriesText() || prepared.files.size() != files.size()) {
+    return false;
+  }
+  for (size_t i = 0; i < files.size(); ++i) {
+    if (prepared.files[i].file.raw != files[i].raw) return false;
+  }
+  return true;
+}
+
+BatchRename::Ending BatchRename::RenameAll(const QString& base, const BatchNaming* prepared,
+                                           QString* lastNewName) {
   RenameView& view = context_.view;
   view.SetSelectionLabel(texts::kProcessingFiles);
   shownPercent_ = -1;
@@ -93,37 +98,151 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, QString* lastNew
   // The folder is held for the whole batch: events that run meanwhile may
   // change the window's current folder, never the files being renamed.
   FileRenamer renamer(context_, context_.session.CurrentFolder, files);
-  std::optional<int> randomCount;
-  if (view.RandomSeries()) randomCount = NumberedFiles(files, renamer);
-  BatchFileNamer namer(context_, renamer.Folder(), base, randomCount);
-  if (MentionsExifToken(base)) context_.tokens.ExpectExifValues(renamer.Folder(), files);
-  for (size_t i = 0; i < files.size(); ++i) {
-    ShowProgress(i, files.size());
-    if (renamer.Sets().TravelsWithSelectedHead(files[i].raw)) continue;
-    if (RenameOne(files[i], namer, renamer, lastNewName) == Step::Stop) return Ending::Stopped;
+  aside_.clear();
+  done_ = 0;
+  total_ = files.size();
+  seriesTaken_ = false;
+  // A preview's names are the names given, random numbers included.
+  const bool usePrepared = prepared != nullptr && StillValid(*prepared, base, files);
+  const Ending ending = usePrepared ? RenamePlanned(*prepared, renamer, lastNewName)
+                                    : RenameAsNamed(files, base, renamer, lastNewName);
+  if (ending == Ending::Stopped) {
+    PutBackAside(renamer);
+    return ending;
   }
   ShowProgress(files.size(), files.size());
+  if (seriesTaken_) view.SetSeriesText(usePrepared ? prepared->seriesAtEnd : finalSeries_);
+  return ending;
+}
+
+// Each file is named just before its turn, so the files are read ahead
+// while earlier ones are renamed. A file whose new name a selected file
+// not renamed yet still holds waits, and so does any file that needs the
+// name of a waiting one; the waiting files go last, in the planner's order.
+BatchRename::Ending BatchRename::RenameAsNamed(const std::vector<platform::FileName>& files, const QString& base,
+                                               FileRenamer& renamer, QString* lastNewName) {
+  BatchNames names(context_, renamer, files, base, context_.view.RandomSeries(), false, random_);
+  FoldedNames held(files.size());
+  for (const platform::FileName& file : files) held.insert(file.raw);
+  BatchNaming waiting{renamer.Folder(), base, {}, {}, {}};
+  for (const platform::FileName& file : files) {
+    NamedFile named = names.Next(file);
+    // A file that goes with its picture holds its name for good: it moves
+    // when its picture does, which may be among the waiting files.
+    if (!named.travels) {
+      if (const auto own = held.find(file.raw); own != held.end()) held.erase(own);
+      if (MustWait(named, held, renamer)) {
+        held.insert(file.raw);
+        waiting.files.push_back(std::move(named));
+        continue;
+      }
+    }
+    if (TakeTurn({}, named, renamer, lastNewName) == Step::Stop) return Ending::Stopped;
+  }
+  finalSeries_ = names.SeriesText();
+  return RenamePlanned(waiting, renamer, lastNewName);
+}
+
+bool BatchRename::MustWait(const NamedFile& named, const FoldedNames& held, const FileRenamer& renamer) const {
+  if (named.newName == named.file.Display()) return false;
+  const QByteArray target = platform::FileName::TextToName(named.newName);
+  if (held.count(target) != 0) return true;
+  for (const NamePair& companion : renamer.Sets().Companions(named.file.raw, target)) {
+    if (held.count(companion.to) != 0) return true;
+  }
+  return false;
+}
+
+BatchRename::Ending BatchRename::RenamePlanned(const BatchNaming& naming, FileRenamer& renamer,
+                                               QString* lastNewName) {
+  for (const PlannedTurn& turn : Turns(naming, renamer)) {
+    if (TakeTurn(turn.asides, naming.files[turn.file], renamer, lastNewName) == Step::Stop) return Ending::Stopped;
+  }
   return Ending::Finished;
 }
 
-BatchRename::Step BatchRename::RenameOne(const platform::FileName& file, BatchFileNamer& namer,
-                                         FileRenamer& renamer, QString* lastNewName) {
-  const QString unexpanded = namer.Unexpanded(file);
-  context_.view.SetNewNameText(unexpanded);
-  context_.view.ProcessEvents();
-  const QString newName = namer.Expand(file, unexpanded);
-  if (newName == file.Display()) return Step::Next;
-  const QByteArray target = platform::FileName::TextToName(newName);
-  // A change of letter case alone is renamed without asking.
-  const bool caseOnly = target.compare(file.raw, Qt::CaseInsensitive) == 0;
-  const bool targetKnown = !caseOnly && renamer.Index().Contains(target);
-  const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(file, newName, targetKnown);
-  return Settle(outcome, file, newName, namer, lastNewName);
+// Files keep list order, except that the files that get new names take
+// their places among themselves in the order of the plan.
+std::vector<PlannedTurn> BatchRename::Turns(const BatchNaming& naming, FileRenamer& renamer) const {
+  std::vector<RenameMove> moves;
+  std::vector<size_t> moveFile;
+  for (size_t i = 0; i < naming.files.size(); ++i) {
+    const NamedFile& named = naming.files[i];
+    if (named.travels || named.newName == named.file.Display()) continue;
+    const QByteArray target = platform::FileName::TextToName(named.newName);
+    moves.push_back({{named.file.raw, target}, renamer.Sets().Companions(named.file.raw, target)});
+    moveFile.push_back(i);
+  }
+  const RenamePlan plan =
+      PlanRenames(moves, [&renamer](const QByteArray& name) { return renamer.Index().Contains(name); });
+  return TurnsInListOrder(naming.files.size(), moveFile, plan);
 }
 
-BatchRename::Step BatchRename::Settle(const OverwriteOutcome& outcome, const platform::FileName& file,
-                                      const QString& newName, BatchFileNamer& namer,
+BatchRename::Step BatchRename::TakeTurn(const std::vector<PlannedRename>& asides, const NamedFile& named,
+                                        FileRenamer& renamer, QString* lastNewName) {
+  ShowProgress(done_++, total_);
+  if (named.travels) return Step::Next;
+  context_.view.SetNewNameText(named.unexpanded);
+  context_.view.ProcessEvents();
+  for (const QString& message : named.messages) context_.messages.Notify(message);
+  if (named.seriesTaken) {
+    seriesTaken_ = true;
+    context_.session.SeriesUsed = true;
+    context_.view.SetSeriesText(named.seriesAfter);
+  }
+  if (named.newName == named.file.Display()) return Step::Next;
+  for (const PlannedRename& aside : asides) {
+    if (StepAside(aside, renamer) == Step::Stop) return Step::Stop;
+  }
+  platform::FileName current = named.file;
+  for (auto it = aside_.begin(); it != aside_.end(); ++it) {
+    if (it->from == named.file.raw) {
+      current = platform::FileName{it->to};
+      aside_.erase(it);
+      break;
+    }
+  }
+  const QByteArray target = platform::FileName::TextToName(named.newName);
+  // A change of letter case alone is renamed without asking.
+  const bool caseOnly = target.compare(current.raw, Qt::CaseInsensitive) == 0;
+  const bool targetKnown = !caseOnly && renamer.Index().Contains(target);
+  const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(current, named.newName, targetKnown);
+  if (outcome.kind != OverwriteOutcome::Kind::Renamed && current.raw != named.file.raw) {
+    PutBack({named.file.raw, current.raw}, renamer);
+  }
+  return Settle(outcome, named, lastNewName);
+}
+
+// A file that steps aside for a cycle is renamed as at its own turn would
+// be, with its set; a failure ends the batch like any failed rename.
+BatchRename::Step BatchRename::StepAside(const PlannedRename& aside, FileRenamer& renamer) {
+  const QByteArray& folder = renamer.Folder();
+  const int error = renamer.RenameFile(folder + aside.head.from, folder + aside.head.to);
+  if (error == 0) {
+    aside_.push_back(aside.head);
+    return Step::Next;
+  }
+  if (!renamer.FailureShown()) {
+    context_.messages.Notify(BatchRenameFailureText(error), platform::MessageIcon::Critical);
+  }
+  return Step::Stop;
+}
+
+// A file that stepped aside but was not renamed after all gets its old name
+// back; where that is taken meanwhile it stays, complete, under the hidden one.
+void BatchRename::PutBackAside(FileRenamer& renamer) {
+  for (const NamePair& pair : aside_) PutBack(pair, renamer);
+  aside_.clear();
+}
+
+void BatchRename::PutBack(const NamePair& aside, FileRenamer& renamer) {
+  const QByteArray& folder = renamer.Folder();
+  renamer.RenameFile(folder + aside.to, folder + aside.from);
+}
+
+BatchRename::Step BatchRename::Settle(const OverwriteOutcome& outcome, const NamedFile& named,
                                       QString* lastNewName) {
+  const QString& newName = named.newName;
   switch (outcome.kind) {
     case OverwriteOutcome::Kind::Renamed:
       *lastNewName = newName;
@@ -131,14 +250,19 @@ BatchRename::Step BatchRename::Settle(const OverwriteOutcome& outcome, const pla
     case OverwriteOutcome::Kind::Declined:
       return Step::Next;
     case OverwriteOutcome::Kind::Cancelled:
-      if (namer.SeriesTaken()) namer.StepBackSeries();
+      if (named.seriesTaken) {
+        ViewSeriesBox box(context_.view);
+        SeriesCounter(box, context_.settings).StepBackSeries();
+      }
       return Step::Stop;
     case OverwriteOutcome::Kind::Failed:
       break;
   }
   if (!outcome.failureShown) {
     QString text = BatchRenameFailureText(outcome.error);
-    if (outcome.targetDeleted) text += texts::kCr + texts::kTargetDeletedRenameFailed.arg(newName, file.Display());
+    if (outcome.targetDeleted) {
+      text += texts::kCr + texts::kTargetDeletedRenameFailed.arg(newName, named.file.Display());
+    }
     context_.messages.Notify(text, platform::MessageIcon::Critical);
   }
   return Step::Stop;

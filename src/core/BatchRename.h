@@ -1,12 +1,15 @@
 #pragma once
 
 #include <QString>
+#include <unordered_set>
 #include <vector>
 
-#include "core/BatchFileNamer.h"
+#include "core/AsciiFoldedName.h"
+#include "core/BatchNaming.h"
 #include "core/FileRenamer.h"
 #include "core/OverwritingRename.h"
 #include "core/RenameContext.h"
+#include "core/RenamePlanner.h"
 
 namespace renvale::core {
 
@@ -16,29 +19,56 @@ namespace renvale::core {
 // refreshed once at the end and re-selection is one search.
 class BatchRename {
  public:
-  explicit BatchRename(const RenameContext& context);
+  explicit BatchRename(const RenameContext& context,
+                       RandomSeriesPool::RandomSource random = RandomSeriesPool::TimeSeededSource());
 
-  // Checks the base (before any file is touched), then renames the selected
-  // files in list order, asking before replacing a file; stops at a Cancel
-  // or the first failure (files renamed before it stay renamed).
-  void StartBatchRename();
+  // Checks the base (before any file is touched), works out every new name,
+  // then renames the selected files, asking before replacing a file; stops
+  // at a Cancel or the first failure (files renamed before it stay
+  // renamed). A file whose new name another file of the batch leaves is
+  // renamed after that one, through a hidden name where names form a cycle,
+  // so files trading names are never asked about. `prepared` (the names a
+  // preview showed) is used when it is still the batch's: same folder,
+  // base, selection and next series number.
+  void StartBatchRename(const BatchNaming* prepared = nullptr);
+
+  // The extension guard's base for the current selection: the batch's base
+  // without the extension each file puts in its place.
+  QString FileBase(const QString& base) const;
 
  private:
   enum class Ending { Finished, Stopped };
   enum class Step { Next, Stop };
 
+  using FoldedNames = std::unordered_multiset<QByteArray, AsciiFoldedName, AsciiFoldedName>;
+
   bool BaseAccepted(const QString& base);
-  QString FileBase(const QString& base) const;
-  Ending RenameAll(const QString& base, QString* lastNewName);
-  Step RenameOne(const platform::FileName& file, BatchFileNamer& namer, FileRenamer& renamer,
-                 QString* lastNewName);
-  Step Settle(const OverwriteOutcome& outcome, const platform::FileName& file, const QString& newName,
-              BatchFileNamer& namer, QString* lastNewName);
+  bool StillValid(const BatchNaming& prepared, const QString& base,
+                  const std::vector<platform::FileName>& files) const;
+  Ending RenameAll(const QString& base, const BatchNaming* prepared, QString* lastNewName);
+  Ending RenameAsNamed(const std::vector<platform::FileName>& files, const QString& base, FileRenamer& renamer,
+                       QString* lastNewName);
+  bool MustWait(const NamedFile& named, const FoldedNames& held, const FileRenamer& renamer) const;
+  Ending RenamePlanned(const BatchNaming& naming, FileRenamer& renamer, QString* lastNewName);
+  std::vector<PlannedTurn> Turns(const BatchNaming& naming, FileRenamer& renamer) const;
+  Step TakeTurn(const std::vector<PlannedRename>& asides, const NamedFile& named, FileRenamer& renamer,
+                QString* lastNewName);
+  Step StepAside(const PlannedRename& aside, FileRenamer& renamer);
+  void PutBackAside(FileRenamer& renamer);
+  void PutBack(const NamePair& aside, FileRenamer& renamer);
+  Step Settle(const OverwriteOutcome& outcome, const NamedFile& named, QString* lastNewName);
   void ShowProgress(size_t done, size_t total);
   void Finish(Ending ending, const QString& lastNewName);
 
   const RenameContext& context_;
+  RandomSeriesPool::RandomSource random_;
   int shownPercent_ = -1;
+  size_t done_ = 0;
+  size_t total_ = 0;
+  bool seriesTaken_ = false;  // a file took a number: the box ends where the names left it
+  QString finalSeries_;
+  // Files standing under a hidden name until their turn: old name -> hidden name.
+  std::vector<NamePair> aside_;
 };
 
 }  // namespace renvale::core

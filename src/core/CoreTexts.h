@@ -173,4 +173,17 @@ inline const QString kFileSetNotRestoredFile = QStringLiteral("'%1' (was '%2')")
 inline const QString kTargetDeletedRenameFailed = QStringLiteral(
     "The existing file '%1' had already been deleted as you agreed, but '%2' keeps its old name.");
 
+// The name preview: one note per problem a file's new name would meet.
+// They name other files and rows, so they are patterns.
+inline const QString kNoteSameNewName = QStringLiteral("Same new name as row %1 ('%2').");
+inline const QString kNoteExistingFile =
+    QStringLiteral("A file of this name is already in the folder and keeps it; the batch will ask before replacing it.");
+inline const QString kNoteLetterCase = QStringLiteral("Differs only in letter case from '%1'.");
+inline const QString kNoteForbiddenCharacter = QStringLiteral("Holds a character that is not allowed: %1");
+inline const QString kNoteTooLong =
+    QStringLiteral("Longer than the file system allows (%1 bytes, at most 255).");
+inline const QString kNoteUnchanged = QStringLiteral("The name does not change.");
+inline const QString kNoteWaitsFor = QStringLiteral("Renamed after '%1' has left this name.");
+inline const QString kNoteTravelsWith = QStringLiteral("Renamed along with '%1'.");
+
 }  // namespace renvale::core::texts

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 #include "core/TokenExpansion.h"
@@ -45,6 +46,18 @@ class TokenSource {
   // A file of the folder is about to be replaced by another, so values read
   // ahead of their turn may no longer be the file's.
   virtual void FileReplaced() {}
+
+  // While `sink` is set, a message that reading values would show ("EXIF
+  // Error: ...") is added to it instead: a batch works out every name before
+  // it renames and shows each message at its file's turn; a preview shows none.
+  virtual void CollectMessages(QStringList* sink) { (void)sink; }
+
+  // Where the date of `file` comes from, in words; empty when not known.
+  virtual QString DateSourceText(const QByteArray& folder, const platform::FileName& file) {
+    (void)folder;
+    (void)file;
+    return {};
+  }
 };
 
 }  // namespace renvale::core

@@ -1,5 +1,6 @@
 #include "fileops/SearchReplace.h"
 
+#include <QSet>
 #include <QStringList>
 #include <algorithm>
 
@@ -110,35 +111,102 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
   // The folder is held for the whole run: events that run meanwhile may
   // change the window's folder, never the files being renamed.
   core::FileRenamer renamer(context_, context_.session.CurrentFolder, files);
-  for (const platform::FileName& file : files) {
-    if (ProcessFile(file, terms, renamer) == Step::Stop) return;
+  std::vector<QByteArray> newNames;
+  newNames.reserve(files.size());
+  for (const platform::FileName& file : files) newNames.push_back(terms.Apply(file.raw));
+  aside_.clear();
+  for (const core::PlannedTurn& turn : Turns(files, newNames, renamer)) {
+    if (TakeTurn(turn, files[turn.file], newNames[turn.file], renamer) == Step::Stop) {
+      PutBackAside(renamer);
+      return;
+    }
     if (progress < maximum) view_.SetProgress(++progress);
     view_.ProcessEvents();
   }
 }
 
-SearchReplace::Step SearchReplace::ProcessFile(const platform::FileName& file, const SearchTerms& terms,
-                                               core::FileRenamer& renamer) {
+// Names that another file of the run leaves are taken after it has left
+// them, through a hidden name where names form a cycle: no question, no loss.
+// A file that moves with a renamed picture keeps its turn and finds itself gone.
+std::vector<core::PlannedTurn> SearchReplace::Turns(const std::vector<platform::FileName>& files,
+                                                    const std::vector<QByteArray>& newNames,
+                                                    core::FileRenamer& renamer) const {
+  std::vector<core::RenameMove> moves;
+  std::vector<size_t> moveFile;
+  QSet<QByteArray> companions;
+  for (size_t i = 0; i < files.size(); ++i) {
+    if (newNames[i] == files[i].raw) continue;
+    moves.push_back({{files[i].raw, newNames[i]}, renamer.Sets().Companions(files[i].raw, newNames[i])});
+    moveFile.push_back(i);
+    for (const core::NamePair& pair : moves.back().companions) companions.insert(pair.from);
+  }
+  std::vector<core::RenameMove> planned;
+  std::vector<size_t> plannedFile;
+  for (size_t m = 0; m < moves.size(); ++m) {
+    if (companions.contains(moves[m].head.from)) continue;
+    planned.push_back(moves[m]);
+    plannedFile.push_back(moveFile[m]);
+  }
+  const core::RenamePlan plan =
+      core::PlanRenames(planned, [&renamer](const QByteArray& name) { return renamer.Index().Contains(name); });
+  return core::TurnsInListOrder(files.size(), plannedFile, plan);
+}
+
+SearchReplace::Step SearchReplace::TakeTurn(const core::PlannedTurn& turn, const platform::FileName& file,
+                                            const QByteArray& newName, core::FileRenamer& renamer) {
+  for (const core::PlannedRename& aside : turn.asides) {
+    const QByteArray& folder = renamer.Folder();
+    const int error = renamer.RenameFile(folder + aside.head.from, folder + aside.head.to);
+    if (error != platform::kNoError) return Failed(error, renamer.FailureShown());
+    aside_.push_back(aside.head);
+  }
+  QByteArray from = file.raw;
+  for (auto it = aside_.begin(); it != aside_.end(); ++it) {
+    if (it->from == file.raw) {
+      from = it->to;
+      aside_.erase(it);
+      break;
+    }
+  }
+  const Step step = ProcessFile(file, from, newName, renamer);
+  if (from != file.raw && renamer.Index().Contains(from)) PutBack({file.raw, from}, renamer);
+  return step;
+}
+
+void SearchReplace::PutBackAside(core::FileRenamer& renamer) {
+  for (const core::NamePair& pair : aside_) PutBack(pair, renamer);
+  aside_.clear();
+}
+
+// A file that stepped aside but was not renamed after all gets its old name
+// back; where that is taken meanwhile it stays, complete, under the hidden one.
+void SearchReplace::PutBack(const core::NamePair& aside, core::FileRenamer& renamer) {
+  renamer.RenameFile(renamer.Folder() + aside.to, renamer.Folder() + aside.from);
+}
+
+// `from` is the file's present name: its own, or the hidden one it stepped
+// aside to.
+SearchReplace::Step SearchReplace::ProcessFile(const platform::FileName& file, const QByteArray& from,
+                                               const QByteArray& newName, core::FileRenamer& renamer) {
   // Gone already: it went along with its picture, or it was the file
   // replaced for another one.
-  if (!renamer.Index().Contains(file.raw)) return Step::Next;
-  const QByteArray newName = terms.Apply(file.raw);
+  if (!renamer.Index().Contains(from)) return Step::Next;
   if (newName == file.raw) return Step::Next;
   // The index answers first: most new names are free, and the case test
   // would decode both names for every file.
-  if (renamer.Index().Contains(newName) && !DiffersInCaseOnly(file.raw, newName)) {
-    return AskAboutClash(file, newName, renamer);
+  if (renamer.Index().Contains(newName) && !DiffersInCaseOnly(from, newName)) {
+    return AskAboutClash(file, from, newName, renamer);
   }
-  return Rename(file, newName, renamer, true);
+  return Rename(file, from, newName, renamer, true);
 }
 
 // `mayAsk`: a target the no-replace rename finds (a distinct file whose name
 // differs only in letter case, or one made meanwhile) is asked about like
 // one found beforehand; after the user's Yes it is not asked again.
-SearchReplace::Step SearchReplace::Rename(const platform::FileName& file, const QByteArray& newName,
-                                          core::FileRenamer& renamer, bool mayAsk) {
+SearchReplace::Step SearchReplace::Rename(const platform::FileName& file, const QByteArray& from,
+                                          const QByteArray& newName, core::FileRenamer& renamer, bool mayAsk) {
   const QByteArray& folder = renamer.Folder();
-  const int error = renamer.RenameFile(folder + file.raw, folder + newName);
+  const int error = renamer.RenameFile(folder + from, folder + newName);
   if (error == platform::kNoError) {
     anyRenamed_ = true;
     folderChanged_ = true;
@@ -153,18 +221,18 @@ SearchReplace::Step SearchReplace::Rename(const platform::FileName& file, const 
     return Step::Next;
   }
   if (error == platform::kFileAlreadyExists && mayAsk && !renamer.FailureShown()) {
-    return AskAboutClash(file, newName, renamer);
+    return AskAboutClash(file, from, newName, renamer);
   }
   return Failed(error, renamer.FailureShown());
 }
 
-SearchReplace::Step SearchReplace::AskAboutClash(const platform::FileName& file, const QByteArray& newName,
-                                                 core::FileRenamer& renamer) {
+SearchReplace::Step SearchReplace::AskAboutClash(const platform::FileName& file, const QByteArray& from,
+                                                 const QByteArray& newName, core::FileRenamer& renamer) {
   const QString question = texts::kClashPrefix + Display(newName) + texts::kClashSuffix + texts::kCr +
                            texts::kClashWarning;
   const MessageAnswer answer =
       context_.messages.AskBeforeLoss(question, MessageButtons::YesNoCancel, MessageIcon::Warning);
-  if (answer == MessageAnswer::Yes) return ReplaceTarget(file, newName, renamer);
+  if (answer == MessageAnswer::Yes) return ReplaceTarget(file, from, newName, renamer);
   if (answer == MessageAnswer::No) {
     AddLine(NotRenamedLine(file, newName, texts::kBecauseExisted));
     return Step::Next;
@@ -176,16 +244,16 @@ SearchReplace::Step SearchReplace::AskAboutClash(const platform::FileName& file,
   return Step::Next;
 }
 
-SearchReplace::Step SearchReplace::ReplaceTarget(const platform::FileName& file, const QByteArray& newName,
-                                                 core::FileRenamer& renamer) {
+SearchReplace::Step SearchReplace::ReplaceTarget(const platform::FileName& file, const QByteArray& from,
+                                                 const QByteArray& newName, core::FileRenamer& renamer) {
   // Where letter case is folded "Photo.jpg" is the very file "photo.jpg":
   // deleting the target would delete the file being renamed.
-  if (DiffersInCaseOnly(file.raw, newName) && !renamer.HasSeparateEntries(file.raw, newName)) {
+  if (DiffersInCaseOnly(from, newName) && !renamer.HasSeparateEntries(from, newName)) {
     return Failed(platform::kFileAlreadyExists, false);
   }
   // A set whose companions could not follow is left whole; the renamer has
   // said why.
-  if (renamer.CheckCompanionTargets(file.raw, newName) != platform::kNoError) {
+  if (renamer.CheckCompanionTargets(from, newName) != platform::kNoError) {
     AddLine(NotRenamedLine(file, newName, texts::kBecauseNotOverwritten));
     return Step::Next;
   }
@@ -193,7 +261,7 @@ SearchReplace::Step SearchReplace::ReplaceTarget(const platform::FileName& file,
   if (error != platform::kNoError) return NotOverwritten(file, newName, error);
   renamer.Forget(newName);
   folderChanged_ = true;
-  return Rename(file, newName, renamer, false);
+  return Rename(file, from, newName, renamer, false);
 }
 
 SearchReplace::Step SearchReplace::NotOverwritten(const platform::FileName& file, const QByteArray& newName,

@@ -5,6 +5,7 @@
 
 #include "core/FileRenamer.h"
 #include "core/RenameContext.h"
+#include "core/RenamePlanner.h"
 #include "fileops/SearchReplaceView.h"
 #include "fileops/SearchTerms.h"
 
@@ -31,11 +32,20 @@ class SearchReplace {
   enum class Step { Next, Stop };
 
   void RunOver(const SearchTerms& terms);
-  Step ProcessFile(const platform::FileName& file, const SearchTerms& terms, core::FileRenamer& renamer);
-  Step Rename(const platform::FileName& file, const QByteArray& newName, core::FileRenamer& renamer,
-              bool mayAsk);
-  Step AskAboutClash(const platform::FileName& file, const QByteArray& newName, core::FileRenamer& renamer);
-  Step ReplaceTarget(const platform::FileName& file, const QByteArray& newName, core::FileRenamer& renamer);
+  std::vector<core::PlannedTurn> Turns(const std::vector<platform::FileName>& files,
+                                       const std::vector<QByteArray>& newNames, core::FileRenamer& renamer) const;
+  Step TakeTurn(const core::PlannedTurn& turn, const platform::FileName& file, const QByteArray& newName,
+                core::FileRenamer& renamer);
+  void PutBackAside(core::FileRenamer& renamer);
+  void PutBack(const core::NamePair& aside, core::FileRenamer& renamer);
+  Step ProcessFile(const platform::FileName& file, const QByteArray& from, const QByteArray& newName,
+                   core::FileRenamer& renamer);
+  Step Rename(const platform::FileName& file, const QByteArray& from, const QByteArray& newName,
+              core::FileRenamer& renamer, bool mayAsk);
+  Step AskAboutClash(const platform::FileName& file, const QByteArray& from, const QByteArray& newName,
+                     core::FileRenamer& renamer);
+  Step ReplaceTarget(const platform::FileName& file, const QByteArray& from, const QByteArray& newName,
+                     core::FileRenamer& renamer);
   Step NotOverwritten(const platform::FileName& file, const QByteArray& newName, int error);
   Step Failed(int error, bool failureShown);
   Step Cancel();
@@ -47,6 +57,7 @@ class SearchReplace {
   QString results_;
   bool anyRenamed_ = false;
   bool folderChanged_ = false;
+  std::vector<core::NamePair> aside_;  // files under a hidden name until their turn: old -> hidden
 };
 
 }  // namespace renvale::fileops

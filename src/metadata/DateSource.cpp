@@ -47,14 +47,41 @@ QString ScanExifDateInHead(platform::FileSystem& fs, const QByteArray& folder,
 
 QString ExposureDateTime(platform::FileSystem& fs, const QByteArray& folder,
                          const QByteArray& rawName, const QString& dateTimeOriginal) {
+  return DatedExposureTime(fs, folder, rawName, dateTimeOriginal).when;
+}
+
+DatedExposure DatedExposureTime(platform::FileSystem& fs, const QByteArray& folder,
+                                const QByteArray& rawName, const QString& dateTimeOriginal) {
+  const QByteArray path = platform::JoinPath(folder, rawName);
   if (VideoDateReader::IsVideoName(rawName)) {
-    const QString recorded = VideoDateReader::ReadFile(fs, platform::JoinPath(folder, rawName));
-    if (IsRealExifDateTime(recorded)) return recorded;
+    const QString recorded = VideoDateReader::ReadFile(fs, path);
+    if (IsRealExifDateTime(recorded)) return {recorded, DateOrigin::VideoContainer};
   }
-  if (IsRealExifDateTime(dateTimeOriginal)) return dateTimeOriginal;
-  const QString scanned = ScanExifDateInHead(fs, folder, rawName);
-  if (IsRealExifDateTime(scanned)) return scanned;
-  return OldestFileDateTime(fs, platform::JoinPath(folder, rawName));
+  if (IsRealExifDateTime(dateTimeOriginal)) return {dateTimeOriginal, DateOrigin::ExifOriginal};
+  const QByteArray scannedName = ThmCompanionName(fs, folder, rawName);
+  const QByteArray head = ReadFileHead(fs, platform::JoinPath(folder, scannedName), kFileHeadLength);
+  const QString scanned = ScanDateInHead(head.constData(), head.size());
+  if (IsRealExifDateTime(scanned)) {
+    return {scanned, scannedName == rawName ? DateOrigin::FileHead : DateOrigin::ThmPartner};
+  }
+  const QString created = FileCreatedText(fs, path);
+  const QString modified = FileModifiedText(fs, path);
+  const QString oldest = OlderDateTimeText(created, modified);
+  if (oldest.isEmpty()) return {};
+  return {oldest, oldest == created ? DateOrigin::Created : DateOrigin::Modified};
+}
+
+QString DateOriginText(DateOrigin origin) {
+  switch (origin) {
+    case DateOrigin::None: break;
+    case DateOrigin::VideoContainer: return texts::kDateFromVideo;
+    case DateOrigin::ExifOriginal: return texts::kDateFromExif;
+    case DateOrigin::FileHead: return texts::kDateFromHead;
+    case DateOrigin::ThmPartner: return texts::kDateFromThm;
+    case DateOrigin::Modified: return texts::kDateFromModified;
+    case DateOrigin::Created: return texts::kDateFromCreated;
+  }
+  return {};
 }
 
 }  // namespace renvale::metadata

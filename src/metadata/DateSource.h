@@ -35,4 +35,18 @@ QString ScanExifDateInHead(platform::FileSystem& fs, const QByteArray& folder,
 QString ExposureDateTime(platform::FileSystem& fs, const QByteArray& folder,
                          const QByteArray& rawName, const QString& dateTimeOriginal);
 
+// Where ExposureDateTime found a file's date. A photographer renaming by
+// date wants to see at once which files fell back to their file times.
+enum class DateOrigin { None, VideoContainer, ExifOriginal, FileHead, ThmPartner, Modified, Created };
+
+struct DatedExposure {
+  QString when;  // as ExposureDateTime gives it
+  DateOrigin origin = DateOrigin::None;
+};
+DatedExposure DatedExposureTime(platform::FileSystem& fs, const QByteArray& folder,
+                                const QByteArray& rawName, const QString& dateTimeOriginal);
+
+// "the EXIF DateTimeOriginal", ...; empty for None.
+QString DateOriginText(DateOrigin origin);
+
 }  // namespace renvale::metadata

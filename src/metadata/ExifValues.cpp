@@ -76,7 +76,9 @@ ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, const QByte
   if (!ReadTagsQuietly(fs, platform::JoinPath(folder, rawName), &tags, errorMessage)) return values;
   values.ok = true;
   values.serial = tags.serial;
-  const QString when = ExposureDateTime(fs, folder, rawName, tags.dateTimeOriginal);
+  const DatedExposure dated = DatedExposureTime(fs, folder, rawName, tags.dateTimeOriginal);
+  const QString& when = dated.when;
+  values.dateOrigin = dated.origin;
   if (ExifDateAndTimeTexts(when, formats.date, formats.time, &values.date, &values.time)) {
     values.dateTime = values.date + u' ' + values.time;
   }

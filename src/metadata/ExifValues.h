@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include "metadata/DateSource.h"
+
 namespace renvale::platform {
 class FileSystem;
 class MessagePort;
@@ -46,6 +48,7 @@ struct ExifTokenValues {
   QString time;
   QString dateTime;
   QString serial;
+  DateOrigin dateOrigin = DateOrigin::None;
 };
 ExifTokenValues ReadExifTokenValues(const ExifFile& file, const ExifDateFormats& formats);
 // The same without showing anything: a reader error's text ("EXIF Error: "

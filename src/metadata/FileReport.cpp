@@ -108,12 +108,18 @@ QString BuildExifReport(platform::FileSystem& fs, platform::MessagePort& message
   const QString name = platform::FileName::NameToText(rawName);
   // A blank line sets the heading apart from the fields.
   const QString heading = kExifHeadingStart + name + kExifHeadingEnd + QStringLiteral("\n\n");
+  // Set apart from the fields, so that a file that fell back to its file
+  // times stands out when going through a card's pictures one by one.
+  const QString dateSource =
+      QStringLiteral("\n") + kDateSourceLabel +
+      DateOriginText(DatedExposureTime(fs, folder, rawName, reader.Tag(kTagDateTimeOriginal)).origin) +
+      QStringLiteral("\n");
   if (!reader.Tag(kTagDateTimeOriginal).isEmpty()) {
-    return heading + Lines(ExifFieldLines(reader), QStringLiteral("\n"));
+    return heading + Lines(ExifFieldLines(reader), QStringLiteral("\n")) + dateSource;
   }
   const MissingExifFacts facts{name, ScanExifDateInHead(fs, folder, rawName),
                                FileCreatedText(fs, path), FileModifiedText(fs, path)};
-  return heading + ExplainMissingExif(facts);
+  return heading + ExplainMissingExif(facts) + dateSource;
 }
 
 FileReportTexts BuildFileReport(platform::FileSystem& fs, platform::MessagePort& messages,

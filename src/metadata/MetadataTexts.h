@@ -187,4 +187,14 @@ inline const QString kReportNote = QStringLiteral(
     "NOTE: EXIF data availability depends on camera's ability to record it.  Therefore, some "
     "fields may be empty.");
 
+// Where a file's date came from: the report window's last line and the
+// name preview's column.
+inline const QString kDateSourceLabel = QStringLiteral("Date source: ");
+inline const QString kDateFromVideo = QStringLiteral("the date the video file recorded");
+inline const QString kDateFromExif = QStringLiteral("the EXIF DateTimeOriginal");
+inline const QString kDateFromHead = QStringLiteral("a date found in the file's head");
+inline const QString kDateFromThm = QStringLiteral("the THM partner's date");
+inline const QString kDateFromModified = QStringLiteral("the file's modification time");
+inline const QString kDateFromCreated = QStringLiteral("the file's creation time");
+
 }  // namespace renvale::metadata::texts

@@ -18,6 +18,7 @@
 #include <QWindow>
 #include <algorithm>
 
+#include "core/BatchPreview.h"
 #include "core/BatchRename.h"
 #include "core/FileSelection.h"
 #include "core/IndividualRename.h"
@@ -44,9 +45,11 @@
 #include "shell/MapDriveL.h"
 #include "shell/DisDrive.h"
 #include "shell/MoveFilesDialog.h"
+#include "shell/NamePreviewDialog.h"
 #include "shell/OptionsDialog.h"
 #include "shell/SandR.h"
 #include "shell/MetadataTokenSource.h"
+#include "shell/NamePreviewDialog.h"
 #include "shell/PreviewPane.h"
 #include "shell/FileListModel.h"
 #include "shell/FolderBrowsing.h"
@@ -236,6 +239,8 @@ void MainWindow::ConnectRenameButtons() {
   });
   connect(ui_.Command11, &QPushButton::clicked, this,
           [this] { RunRename<core::BatchRename>([](auto& batch) { batch.StartBatchRename(); }); });
+  connect(ui_.previewNames, &QPushButton::clicked, this, &MainWindow::PreviewNewNames);
+  connect(ui_.previewNamesAction, &QAction::triggered, this, &MainWindow::PreviewNewNames);
   connect(ui_.Command4, &QPushButton::clicked, this,
           [this] { RunRename<fileops::DeleteToTrash>([](auto& del) { del.DeleteSelected(); }); });
   connect(ui_.FSR, &QAction::triggered, this, [this] {
@@ -410,6 +415,25 @@ void MainWindow::SetBatchMode(bool on) {
   ui_.BatchFrame->setVisible(on);
   // With several files selected it would rename only the one clicked last.
   ui_.Command2->setEnabled(!on);
+  ui_.previewNamesAction->setEnabled(on);
+}
+
+// Works every name out (reading the files as the batch would), shows them,
+// and on "Start Batch Renaming" runs the batch with exactly these names.
+void MainWindow::PreviewNewNames() {
+  if (session_.Busy || !session_.BatchMode) return;
+  core::BatchPreview preview;
+  {
+    MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
+    const core::RenameContext context{session_, settings_, renameView_, services_.messages, services_.fs, tokens};
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    preview = core::PreviewBatch(context);
+    QApplication::restoreOverrideCursor();
+  }
+  NamePreviewDialog dialog(this);
+  dialog.SetPreview(preview);
+  if (dialog.exec() != QDialog::Accepted) return;
+  RunRename<core::BatchRename>([&preview](auto& batch) { batch.StartBatchRename(&preview.naming); });
 }
 
 bool MainWindow::FileIsSelected() const { return ui_.File1->selectionModel()->hasSelection(); }

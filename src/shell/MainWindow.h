@@ -71,6 +71,8 @@ class MainWindow : public QMainWindow {
   // The "View EXIF & Other Info" command for the selected file.
   void ShowFileReport();
   void SetBatchMode(bool on);
+  // "Preview New Names...": the batch's names before anything is renamed.
+  void PreviewNewNames();
   bool FileIsSelected() const;
   void ApplyToolTips(bool on);
   void ApplyFileFilter(int filter);

@@ -192,7 +192,11 @@ QWidget* MainWindowUi::BuildBatchPane(QWidget* parent) {
   Command11 = Button(BatchFrame, "Command11", QStringLiteral("Start Batch Renaming"));
   Check1 = Make<QCheckBox>(BatchFrame, "Check1", QStringLiteral("Randomize Series #s"));
   Command12 = Button(BatchFrame, "Command12", QStringLiteral("Help"));
-  layout->addWidget(Command11, 1, 0);
+  previewNames = Button(BatchFrame, "PreviewNames", texts::kPreviewNamesButton);
+  auto* start = new QHBoxLayout;
+  start->addWidget(Command11);
+  start->addWidget(previewNames);
+  layout->addLayout(start, 1, 0);
   layout->addWidget(Check1, 1, 1);
   layout->addWidget(Command12, 1, 2);
   auto* note = Make<QLabel>(BatchFrame, "RandomNote", texts::kRandomSeriesNote);
@@ -313,6 +317,8 @@ void MainWindowUi::BuildMenus(QMainWindow* window) {
   QMenu* view = bar->addMenu(QStringLiteral("&View"));
   view->setObjectName(QStringLiteral("ViewMenu"));
   vEX = Action(view, "vEX", QStringLiteral("View &EXIF && Other Info (Current File)"));
+  previewNamesAction = Action(view, "mnuPreviewNames", texts::kPreviewNamesAction);
+  previewNamesAction->setEnabled(false);  // names are previewed for a batch only
   RotIP = Action(view, "RotIP", QStringLiteral("&Rotate Preview 90 degrees"));
   QMenu* help = bar->addMenu(QStringLiteral("&Help"));
   help->setObjectName(QStringLiteral("HelpMenu"));

@@ -55,6 +55,7 @@ struct MainWindowUi {
 
   QGroupBox* BatchFrame = nullptr;
   QPushButton* Command11 = nullptr;   // Start Batch Renaming
+  QPushButton* previewNames = nullptr;  // Preview New Names...
   QCheckBox* Check1 = nullptr;        // Randomize Series #s
   QPushButton* Command12 = nullptr;   // Help
   QProgressBar* ProgressBar1 = nullptr;
@@ -80,6 +81,7 @@ struct MainWindowUi {
   QAction* MapNet = nullptr;
   QAction* UnMap = nullptr;
   QAction* vEX = nullptr;
+  QAction* previewNamesAction = nullptr;
   QAction* RotIP = nullptr;
   std::array<QAction*, 5> HelpMen{};
 

@@ -8,12 +8,30 @@
 
 namespace renvale::shell {
 
-QString MetadataTokenSource::ExifValue(const QByteArray& folder, const platform::FileName& file, core::Token token) {
+const metadata::ExifTokenValues& MetadataTokenSource::Values(const QByteArray& folder,
+                                                           const platform::FileName& file) {
   const QByteArray path = platform::JoinPath(folder, file.raw);
   if (path != cachedPath_) {
     cachedPath_ = path;
     cached_ = ReadValues(folder, file);
   }
+  return cached_;
+}
+
+QString MetadataTokenSource::DateSourceText(const QByteArray& folder, const platform::FileName& file) {
+  return metadata::DateOriginText(Values(folder, file).dateOrigin);
+}
+
+void MetadataTokenSource::Show(const QString& message) {
+  if (sink_ != nullptr) {
+    sink_->append(message);
+  } else {
+    messages_.Notify(message);
+  }
+}
+
+QString MetadataTokenSource::ExifValue(const QByteArray& folder, const platform::FileName& file, core::Token token) {
+  Values(folder, file);
   switch (token) {
     case core::Token::Date: return cached_.date;
     case core::Token::Time: return cached_.time;
@@ -26,9 +44,9 @@ QString MetadataTokenSource::ExifValue(const QByteArray& folder, const platform:
 metadata::ExifTokenValues MetadataTokenSource::ReadValues(const QByteArray& folder, const platform::FileName& file) {
   metadata::ExifReadAhead::Result ahead;
   if (readAhead_ == nullptr || !readAhead_->Take(folder, file.raw, Formats(), &ahead)) {
-    return metadata::ReadExifTokenValues({fs_, messages_, folder, file.raw}, Formats());
+    ahead.values = metadata::ReadExifTokenValuesQuietly(fs_, folder, file.raw, Formats(), &ahead.errorMessage);
   }
-  if (!ahead.errorMessage.isEmpty()) messages_.Notify(ahead.errorMessage);
+  if (!ahead.errorMessage.isEmpty()) Show(ahead.errorMessage);
   return ahead.values;
 }
 

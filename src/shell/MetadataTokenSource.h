@@ -30,8 +30,12 @@ class MetadataTokenSource : public core::TokenSource {
   core::Id3Values Id3(const QByteArray& folder, const platform::FileName& file) override;
   void ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files) override;
   void FileReplaced() override;
+  void CollectMessages(QStringList* sink) override { sink_ = sink; }
+  QString DateSourceText(const QByteArray& folder, const platform::FileName& file) override;
 
  private:
+  const metadata::ExifTokenValues& Values(const QByteArray& folder, const platform::FileName& file);
+  void Show(const QString& message);
   metadata::ExifTokenValues ReadValues(const QByteArray& folder, const platform::FileName& file);
   metadata::ExifDateFormats Formats() const { return {settings_.exifDate, settings_.exifTime}; }
 
@@ -41,6 +45,7 @@ class MetadataTokenSource : public core::TokenSource {
   QByteArray cachedPath_;
   metadata::ExifTokenValues cached_;
   std::unique_ptr<metadata::ExifReadAhead> readAhead_;
+  QStringList* sink_ = nullptr;
 };
 
 }  // namespace renvale::shell

@@ -80,6 +80,21 @@ inline const QString kAboutCaption = QStringLiteral("About ");
 inline const QString kAboutDescription = QStringLiteral("The easy way to rename digital photos, and more!");
 inline const QString kAboutOk = QStringLiteral("OK");
 
+// "Preview New Names...": the button beside "Start Batch Renaming", the View
+// menu entry and the window they open.
+inline const QString kPreviewNamesButton = QStringLiteral("Preview New Names...");
+inline const QString kPreviewNamesAction = QStringLiteral("Preview &New Names...");
+inline const QString kPreviewNamesTitle = QStringLiteral("Preview New Names");
+inline const QString kPreviewStart = QStringLiteral("Start Batch Renaming");
+inline const QString kPreviewClose = QStringLiteral("Close");
+inline const QString kPreviewColumnCurrent = QStringLiteral("Current Name");
+inline const QString kPreviewColumnNew = QStringLiteral("New Name");
+inline const QString kPreviewColumnDate = QStringLiteral("Date Source");
+inline const QString kPreviewColumnNotes = QStringLiteral("Notes");
+inline QString PreviewSummary(int files, int noted) {
+  return QStringLiteral("%1 files; %2 with notes. Nothing has been renamed yet.").arg(files).arg(noted);
+}
+
 // Map Network Drive and Disconnect Network Drive. Linux has no drive letters:
 // a mapped share's local folder stands where the letter stood.
 inline const QString kMapDriveCaption = QStringLiteral("Map Network Drive");

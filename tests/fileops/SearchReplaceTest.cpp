@@ -160,5 +160,27 @@ TEST_F(SearchReplaceRun, NamesThatAreNotUtf8KeepTheirBytesAndASetMovesTogether) 
   Remake({});  // QTemporaryDir cannot remove names that are not UTF-8
 }
 
+// Names the run itself frees are taken after they are left: no question,
+// no loss, whether the files form a chain or trade names.
+TEST_F(SearchReplaceRun, FilesTradingNamesAreNeitherAskedAboutNorLost) {
+  const struct {
+    std::initializer_list<const char*> files;
+    std::initializer_list<std::pair<const char*, const char*>> terms;
+    Files after;
+  } rows[] = {
+      {{"1.jpg", "11.jpg"}, {{"1", "11"}}, {{"11.jpg", "1.jpg"}, {"1111.jpg", "11.jpg"}}},
+      {{"ab.jpg", "ba.jpg", "c.jpg"}, {{"ab", "X"}, {"ba", "ab"}, {"X", "ba"}},
+       {{"ba.jpg", "ab.jpg"}, {"ab.jpg", "ba.jpg"}, {"c.jpg", "c.jpg"}}},
+  };
+  for (const auto& row : rows) {
+    Remake(row.files);
+    Select(row.files);
+    port.Clear();
+    Run(row.terms);
+    EXPECT_EQ(Folder(), row.after);
+    EXPECT_EQ(port.Texts(), QStringList{kComplete});
+  }
+}
+
 }  // namespace
 }  // namespace renvale::test

@@ -69,22 +69,47 @@ TEST(DateSource, OnlyTheFirst2000BytesAreScanned) {
   EXPECT_EQ(metadata::ReadFileHead(fs, "/p/nothing.bin", 2000), QByteArray());
 }
 
-TEST(DateSource, FallsBackFromExifToScanToFileDates) {
+// Each row also says where the date came from, which the preview and the
+// report show: a wrong origin would tell a photographer the wrong story.
+TEST(DateSource, FallsBackFromExifToScanToFileDatesAndSaysWhichWasUsed) {
+  using metadata::DateOrigin;
   MemoryFileSystem fs;
   fs.Add("/p/scan.jpg", QByteArray("head ") + kOne + " " + kThree);
   fs.Add("/p/plain.jpg", "no dates");
+  fs.Add("/p/old.jpg", "no dates");
+  fs.Add("/p/zeros.jpg", "0000:00:00 00:00:00");
+  fs.Add("/p/IMG_1.CRW", MakeCrw());
+  fs.Add("/p/IMG_1.thm", MakeThm(kTwo, kOne));
   const QDateTime modified(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC);
   fs.SetTimes("/p/plain.jpg", modified.addDays(1), modified);
-  const QString own = metadata::FileTimeText(modified, metadata::LocalClockOffsetHours());
-  EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", "scan.jpg", kTwo), kTwo);
-  EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", "scan.jpg", ""), kThree);
-  EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", "plain.jpg", ""), own);
-  // A camera whose clock was never set writes zeros: not a date.
-  EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", "plain.jpg", "0000:00:00 00:00:00"), own);
-  fs.Add("/p/zeros.jpg", "0000:00:00 00:00:00");
-  fs.SetTimes("/p/zeros.jpg", modified, modified);
-  EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", "zeros.jpg", ""), own);
-  EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", "gone.jpg", ""), "");
+  fs.SetTimes("/p/old.jpg", modified.addDays(-1), modified);
+  fs.SetTimes("/p/zeros.jpg", modified, modified);  // a tie goes to the creation time
+  const int offset = metadata::LocalClockOffsetHours();
+  const QString own = metadata::FileTimeText(modified, offset);
+  const QString older = metadata::FileTimeText(modified.addDays(-1), offset);
+  const struct {
+    const char* name;
+    const char* original;
+    QString when;
+    DateOrigin origin;
+  } rows[] = {
+      {"scan.jpg", kTwo, kTwo, DateOrigin::ExifOriginal},
+      {"scan.jpg", "", kThree, DateOrigin::FileHead},
+      {"IMG_1.CRW", "", kTwo, DateOrigin::ThmPartner},
+      {"plain.jpg", "", own, DateOrigin::Modified},
+      // A camera whose clock was never set writes zeros: not a date.
+      {"plain.jpg", "0000:00:00 00:00:00", own, DateOrigin::Modified},
+      {"old.jpg", "", older, DateOrigin::Created},
+      {"zeros.jpg", "", own, DateOrigin::Created},
+      {"gone.jpg", "", "", DateOrigin::None},
+  };
+  for (const auto& row : rows) {
+    const metadata::DatedExposure dated = metadata::DatedExposureTime(fs, "/p/", row.name, row.original);
+    EXPECT_EQ(dated.when, row.when) << row.name;
+    EXPECT_EQ(dated.origin, row.origin) << row.name;
+    EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", row.name, row.original), row.when) << row.name;
+  }
+  EXPECT_EQ(metadata::DateOriginText(DateOrigin::ThmPartner), "the THM partner's date");
 }
 
 }  // namespace

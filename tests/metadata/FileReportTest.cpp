@@ -161,7 +161,7 @@ TEST_F(FileReportTest, ExifReportOfAPictureWithExif) {
       tag("ShutterSpeedValue") + "\nFocal Length: " + tag("FocalLength") + "\nISO: 400\n"
       "Exposure Bias: " + tag("ExposureBiasValue") + "\nExposure Program: " +
       tag("ExposureProgram") + "\nF Number: " + tag("Fnumber") + "\nFlash: " + tag("Flash") +
-      "\n";
+      "\n\nDate source: the EXIF DateTimeOriginal\n";
   EXPECT_EQ(metadata::BuildExifReport(fs, messages, "/p/", "IMG_0001.JPG"), expected);
   EXPECT_TRUE(messages.messages.empty());
 }
@@ -173,13 +173,15 @@ TEST_F(FileReportTest, ExifReportExplainsAFileSet) {
   EXPECT_EQ(metadata::BuildExifReport(fs, messages, "/p/", "CRW_1.CRW"),
             "EXIF data for \"CRW_1.CRW\":\n\nCRW_1.CRW" + kCrwLines +
                 "A THM file by the same name as this file WAS found in this folder.\n"
-                "EXIF Exposure Date & Time: 2004:07:15 18:03:09\n" + kFileSetNotes);
+                "EXIF Exposure Date & Time: 2004:07:15 18:03:09\n" + kFileSetNotes +
+                "\nDate source: the THM partner's date\n");
   EXPECT_TRUE(metadata::BuildExifReport(fs, messages, "/p/", "CRW_2.CRW")
                   .contains("was NOT found in this folder."));
   Add("/p/plain.jpg", MakeExifJpeg(nullptr));
   EXPECT_TRUE(metadata::BuildExifReport(fs, messages, "/p/", "plain.jpg")
                   .endsWith("Created Date & Time: " + Local(created) +
-                            "\nModified Date & Time: " + Local(modified) + "\n"));
+                            "\nModified Date & Time: " + Local(modified) +
+                            "\n\nDate source: the file's creation time\n"));
   EXPECT_TRUE(messages.messages.empty());
   // A file the reader cannot open gives no report, only the reader's error.
   fs.FailOpen("/p/plain.jpg", platform::kAccessViolation);
