@@ -173,4 +173,10 @@ inline const QString kFileSetNotRestoredFile = QStringLiteral("'%1' (was '%2')")
 inline const QString kTargetDeletedRenameFailed = QStringLiteral(
     "The existing file '%1' had already been deleted as you agreed, but '%2' keeps its old name.");
 
+// ---- The journal ---------------------------------------------------------
+// Shown when the plan of a rename cannot be written: nothing is renamed,
+// because a rename that could not be undone after a crash is not made.
+inline const QString kPlanNotKept = QStringLiteral(
+    "The rename was not started: its plan could not be saved for Undo (%1).");
+
 }  // namespace renvale::core::texts
