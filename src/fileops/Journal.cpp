@@ -50,11 +50,20 @@ QByteArray Journal::NameFor(const core::OperationPlan& plan, int sequence) const
          QByteArray::number(sequence).rightJustified(4, '0');
 }
 
+// One stem per operation, whatever state its file is in.
+bool Journal::StemTaken(const QByteArray& stem) const {
+  if (fs_.Exists(stem + kTemporarySuffix)) return true;
+  for (const State state : {State::Open, State::Done, State::Undone}) {
+    if (fs_.Exists(stem + Suffix(state))) return true;
+  }
+  return false;
+}
+
 int Journal::Begin(const core::OperationPlan& plan) {
   const QByteArray bytes = JournalFormat::Write(plan);
   for (int sequence = 0; sequence < 10000; ++sequence) {
     const QByteArray stem = NameFor(plan, sequence);
-    if (fs_.Exists(stem + kTemporarySuffix)) continue;
+    if (StemTaken(stem)) continue;
     if (const int error = fs_.WriteWholeFile(stem + kTemporarySuffix, bytes)) return error;
     const int error = fs_.RenameNoReplace(stem + kTemporarySuffix, stem + Suffix(State::Open));
     if (error == platform::kFileAlreadyExists) {

@@ -44,6 +44,7 @@ class Journal : public core::OperationRecorder {
   int Mark(JournalEntry& entry, JournalEntry::State state);
 
  private:
+  bool StemTaken(const QByteArray& stem) const;
   QByteArray NameFor(const core::OperationPlan& plan, int sequence) const;
   void SetAside(const QByteArray& name, int status);
   void Prune();

@@ -134,9 +134,7 @@ JournalRead JournalFormat::Read(const char* data, qint64 size) {
     return result;
   }
   const QByteArray sumText = bytes.mid(sumStart + kSum.size()).chopped(1);
-  bool ok = false;
-  const quint64 sum = sumText.toULongLong(&ok, 16);
-  if (!ok || sum != Checksum(data, sumStart)) return result;
+  if (sumText != QByteArray::number(Checksum(data, sumStart), 16)) return result;
   QList<QByteArray> lines = bytes.left(sumStart - 1).split('\n');
   lines.removeFirst();
   if (!ReadBody(lines, &result.plan)) return result;

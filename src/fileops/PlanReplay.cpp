@@ -11,8 +11,10 @@ PlanReplay::PlanReplay(platform::FileSystem& fs, platform::MessagePort& messages
 
 ReplayResult PlanReplay::Finish(const core::OperationPlan& plan) {
   ReplayResult result;
-  for (const core::PlanStep& step : plan.steps) {
-    const StepState state = PlanOnDisk::StateOf(fs_, step);
+  const std::vector<StepState> states = PlanOnDisk::States(fs_, plan);
+  for (size_t i = 0; i < states.size(); ++i) {
+    const core::PlanStep& step = plan.steps[i];
+    const StepState state = states[i];
     if (state == StepState::Done) continue;
     if (state == StepState::Changed) {
       PassOver(&result, step.from, texts::kReplayChanged);
@@ -49,9 +51,10 @@ ReplayResult PlanReplay::Undo(const core::OperationPlan& plan) {
   const bool copiesGo = copies == 0 || CopiesMayGo(copies);
   for (size_t i = states.size(); i-- > 0;) {
     const core::PlanStep& step = plan.steps[i];
-    const QByteArray& now = step.kind == core::StepKind::Rename || step.kind == core::StepKind::Copy ? step.to : step.from;
-    if (states[i] == StepState::NotDone) continue;
-    if (states[i] == StepState::Changed) {
+    const QByteArray& now = step.kind == core::StepKind::Trash ? step.from : step.to;
+    const StepState state = states[i];
+    if (state == StepState::NotDone) continue;
+    if (state == StepState::Changed) {
       PassOver(&result, now, texts::kReplayChanged);
     } else if (step.kind == core::StepKind::Copy && !copiesGo) {
       PassOver(&result, now, texts::kReplayCopyKept);
