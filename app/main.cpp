@@ -1,5 +1,7 @@
 #include <QApplication>
+#include <QFile>
 
+#include "fileops/Journal.h"
 #include "platform/AppPaths.h"
 #include "platform/FileSystem.h"
 #include "platform/MountList.h"
@@ -35,9 +37,10 @@ int main(int argc, char** argv) {
   platform::QtSettingsStorage settings;
   platform::QtMessagePort messages;
   shell::ShownQuickTips tips(settings, messages);
+  fileops::Journal journal(platform::RealFileSystem(), QFile::encodeName(platform::StateFolder()), messages);
   shell::MainWindowServices services{platform::RealFileSystem(), messages, settings, tips,
                                      platform::PickFolder, platform::MountList::Current,
-                                     platform::CurrentDirectory};
+                                     platform::CurrentDirectory, &journal};
   shell::MainWindow window(std::move(services));
   messages.SetParent(&window);
   window.Start(StartPath(argc, argv));

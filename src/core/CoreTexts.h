@@ -174,9 +174,9 @@ inline const QString kTargetDeletedRenameFailed = QStringLiteral(
     "The existing file '%1' had already been deleted as you agreed, but '%2' keeps its old name.");
 
 // ---- The journal ---------------------------------------------------------
-// Shown when the plan of a rename cannot be written: nothing is renamed,
-// because a rename that could not be undone after a crash is not made.
+// Shown when the plan of an operation cannot be written: nothing changes,
+// because a change that could not be undone after a crash is not made.
 inline const QString kPlanNotKept = QStringLiteral(
-    "The rename was not started: its plan could not be saved for Undo (%1).");
+    "Nothing was changed: the plan of this operation could not be saved for Undo (%1).");
 
 }  // namespace renvale::core::texts

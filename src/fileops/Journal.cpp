@@ -99,18 +99,19 @@ int Journal::Mark(JournalEntry& entry, State state) {
   return error;
 }
 
-std::vector<JournalEntry> Journal::Entries() {
+std::vector<JournalEntry> Journal::Entries(size_t most, bool undone) {
   std::vector<QByteArray> names;
   fs_.ListFiles(folder_, &names);
   std::sort(names.begin(), names.end(), std::greater<>());
   std::vector<JournalEntry> entries;
   for (const QByteArray& name : names) {
+    if (entries.size() >= most) break;
     if (name.endsWith(kTemporarySuffix) && folder_ + name != current_) {
       fs_.RemoveFile(folder_ + name);
       continue;
     }
     JournalEntry entry;
-    if (!StateOfName(name, &entry.state)) continue;
+    if (!StateOfName(name, &entry.state) || (!undone && entry.state == State::Undone)) continue;
     entry.path = folder_ + name;
     QByteArray bytes;
     const int error = fs_.ReadWholeFile(entry.path, kMaxJournalBytes, &bytes);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <cstdint>
 #include <vector>
 
 #include "core/OperationRecorder.h"
@@ -38,7 +39,8 @@ class Journal : public core::OperationRecorder {
   // changed, or of a newer version) is moved to "damaged/" and told about
   // once; a plan that never got its name is dropped, since nothing of it
   // was done.
-  std::vector<JournalEntry> Entries();
+  // `most` limits how many are read; `undone` false leaves undone ones out.
+  std::vector<JournalEntry> Entries(size_t most = SIZE_MAX, bool undone = true);
 
   // Records a new state for `entry` (a finished, undone or recovered plan).
   int Mark(JournalEntry& entry, JournalEntry::State state);

@@ -47,20 +47,16 @@ std::vector<HistoryLine> OperationHistory::Lines() {
   std::vector<HistoryLine> lines;
   for (const JournalEntry& entry : journal_.Entries()) {
     lines.push_back(HistoryLine{entry.plan.started, Describe(entry.plan), static_cast<int>(entry.plan.steps.size()),
-                                platform::FileName::NameToText(entry.plan.folder), entry.state == State::Undone});
+                                platform::FileName::NameToText(entry.plan.folder), entry.state == State::Undone,
+                                entry.state == State::Open});
   }
   return lines;
 }
 
 // An operation left open (the person chose to decide later) is undone like
-// a finished one: only what the disk shows done is taken back.
-std::vector<JournalEntry> OperationHistory::Undoable() {
-  std::vector<JournalEntry> entries = journal_.Entries();
-  entries.erase(std::remove_if(entries.begin(), entries.end(),
-                               [](const JournalEntry& entry) { return entry.state == State::Undone; }),
-                entries.end());
-  return entries;
-}
+// a finished one: only what the disk shows done is taken back. Only the
+// newest is read: the caption asks on every refresh of the list.
+std::vector<JournalEntry> OperationHistory::Undoable() { return journal_.Entries(1, false); }
 
 QString OperationHistory::UndoCaption() {
   const std::vector<JournalEntry> entries = Undoable();

@@ -15,6 +15,7 @@ struct HistoryLine {
   int files = 0;
   QString folder;
   bool undone = false;
+  bool unfinished = false;  // cut short, and the person decided later
 };
 
 // Undo and the history over the journal: what the window's Edit menu and

@@ -30,7 +30,8 @@ QString StateFolder() {
   QString base = qEnvironmentVariable("XDG_STATE_HOME");
   if (base.isEmpty() || !QDir::isAbsolutePath(base)) base = QDir::homePath() + QStringLiteral("/.local/state");
   const QString folder = base + QStringLiteral("/MorventSoftware/Renvale/");
-  QDir().mkpath(folder);
+  // Journals that cannot be read are kept aside here, never deleted.
+  QDir().mkpath(folder + QStringLiteral("damaged"));
   return folder;
 }
 

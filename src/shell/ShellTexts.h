@@ -61,4 +61,17 @@ inline const QString kAboutCaption = QStringLiteral("About ");
 inline const QString kAboutDescription = QStringLiteral("The easy way to rename digital photos, and more!");
 inline const QString kAboutOk = QStringLiteral("OK");
 
+// ---- Edit menu, the operation history -----------------------------------
+inline const QString kEditMenu = QStringLiteral("&Edit");
+inline const QString kUndoNothing = QStringLiteral("&Undo");
+inline const QString kHistoryMenu = QStringLiteral("Operation &History...");
+inline const QString kHistoryTitle = QStringLiteral("Operation History");
+inline const QString kHistoryColumns[] = {QStringLiteral("When"), QStringLiteral("What"), QStringLiteral("Files"),
+                                          QStringLiteral("Folder")};
+inline const QString kHistoryUndone = QStringLiteral("%1 (undone)");
+inline const QString kHistoryUnfinished = QStringLiteral("%1 (unfinished)");
+inline const QString kHistoryUndoButton = QStringLiteral("&Undo Newest");
+inline const QString kHistoryClose = QStringLiteral("Close");
+inline const QString kHistoryEmpty = QStringLiteral("No operations have been recorded yet.");
+
 }  // namespace renvale::shell::texts

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <memory>
+
+#include "fileops/OperationHistory.h"
+#include "shell/MainWindowUi.h"
+
+namespace renvale::shell {
+
+// The Edit menu: "Undo " + what it undoes, and the operation history. The
+// caption is read from the journal each time the menu opens, so that an
+// operation of another program sharing the journal shows too. Without a
+// journal both entries stay disabled.
+class EditMenu : public QObject {
+  Q_OBJECT
+
+ public:
+  EditMenu(MainWindowUi& ui, fileops::Journal* journal, platform::FileSystem& fs, platform::MessagePort& messages,
+           std::function<void()> refreshFiles, QWidget* parent);
+  ~EditMenu() override;
+
+  // Offers to finish or undo what a crash cut short; called once the
+  // window is up.
+  void CheckUnfinished();
+  // Names the newest operation in "Undo ...", or disables it.
+  void UpdateCaption();
+
+ private:
+  void Undo();
+  void ShowHistory();
+
+  MainWindowUi& ui_;
+  std::unique_ptr<fileops::OperationHistory> history_;
+  std::function<void()> refreshFiles_;
+  QWidget* parent_;
+};
+
+}  // namespace renvale::shell
