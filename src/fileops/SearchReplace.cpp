@@ -112,7 +112,8 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
   // The folder is held for the whole run: events that run meanwhile may
   // change the window's folder, never the files being renamed.
   core::FileRenamer renamer(context_, context_.session.CurrentFolder, files);
-  const core::RecordedOperation recorded(context_.recorder, Plan(files, terms, renamer));
+  const core::RecordedOperation recorded(
+      context_.recorder, context_.recorder == nullptr ? core::OperationPlan{} : Plan(files, terms, renamer));
   if (recorded.Error() != platform::kNoError) {
     context_.messages.Notify(core::texts::kPlanNotKept.arg(platform::ErrorDescription(recorded.Error())),
                              MessageIcon::Critical);

@@ -214,8 +214,9 @@ void MainWindow::BuildComposeControllers() {
                         {services_.fs, services_.messages, services_.tips, [this] { ShowFileReport(); }}, this);
   new ButtonEditor(ui_, settings_, services_.messages, this);
   new FilenameAsTemp(ui_, session_, services_.messages, services_.tips, this);
-  connect(ui_.templatesAction, &QAction::triggered, this,
-          [this] { ManTempDialog::Run(ui_, settings_, services_.fs, services_.messages, this); });
+  connect(ui_.templatesAction, &QAction::triggered, this, [this] {
+    ManTempDialog::Run(ui_, settings_, services_.fs, services_.messages, services_.journal, this);
+  });
   ui_.templatesAction->setEnabled(true);
 }
 

@@ -13,27 +13,15 @@ core::OperationPlan SamplePlan() {
   return plan;
 }
 
+// Every field is written, so a plan that writes back to the same bytes has
+// kept every field, raw names with line breaks and stray bytes included.
 TEST(JournalFormat, APlanReadsBackByteForByte) {
-  const core::OperationPlan plan = SamplePlan();
-  const QByteArray bytes = JournalFormat::Write(plan);
+  const QByteArray bytes = JournalFormat::Write(SamplePlan());
   const JournalRead read = JournalFormat::Read(bytes.constData(), bytes.size());
   ASSERT_EQ(read.status, JournalStatus::Ok);
-  EXPECT_EQ(read.plan.kind, plan.kind);
-  EXPECT_EQ(read.plan.folder, plan.folder);
-  EXPECT_EQ(read.plan.started, plan.started);
   ASSERT_EQ(read.plan.steps.size(), 2u);
-  for (size_t i = 0; i < 2; ++i) {
-    const core::PlanStep& a = read.plan.steps[i];
-    const core::PlanStep& b = plan.steps[i];
-    EXPECT_EQ(a.kind, b.kind);
-    EXPECT_EQ(a.from, b.from);
-    EXPECT_EQ(a.to, b.to);
-    EXPECT_EQ(a.identity.size, b.identity.size);
-    EXPECT_EQ(a.identity.modifiedNs, b.identity.modifiedNs);
-    EXPECT_EQ(a.identity.device, b.identity.device);
-    EXPECT_EQ(a.identity.inode, b.identity.inode);
-    EXPECT_EQ(a.identity.inodeStable, b.identity.inodeStable);
-  }
+  EXPECT_EQ(read.plan.steps[0].from, "/card/a b\n.jpg");
+  EXPECT_EQ(JournalFormat::Write(read.plan), bytes);
 }
 
 // A file cut anywhere reads as cut short; any flipped bit is never taken

@@ -7,7 +7,6 @@
 
 #include "core/PlanIdentity.h"
 #include "fileops/OperationHistory.h"
-#include "platform/ErrorNumbers.h"
 #include "support/ScriptedMessagePort.h"
 
 namespace renvale::fileops {
