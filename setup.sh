@@ -13,7 +13,8 @@ top=$(pwd)
 packages=(cmake ninja-build g++ clang libclang-rt-14-dev pkg-config
           qt6-base-dev qt6-multimedia-dev libglib2.0-dev libheif-dev
           libgtest-dev libgmock-dev libbenchmark-dev
-          xvfb xauth rename libglib2.0-bin)
+          xvfb xauth rename libglib2.0-bin
+          samba gvfs-backends gvfs-daemons gvfs-fuse dbus)
 
 install_missing() {
   local missing=()

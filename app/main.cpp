@@ -4,6 +4,7 @@
 #include "fileops/Journal.h"
 #include "platform/AppPaths.h"
 #include "platform/FileSystem.h"
+#include "platform/GioNetworkShares.h"
 #include "platform/MountList.h"
 #include "platform/QtSettingsStorage.h"
 #include "platform/widgets/FolderPicker.h"
@@ -41,7 +42,9 @@ int main(int argc, char** argv) {
   shell::MainWindowServices services{platform::RealFileSystem(), messages, settings, tips,
                                      platform::PickFolder, platform::MountList::Current,
                                      platform::CurrentDirectory, &journal};
+  platform::GioNetworkShares shares;
   shell::MainWindow window(std::move(services));
+  window.UseNetworkShares(shares);
   messages.SetParent(&window);
   window.Start(StartPath(argc, argv));
   window.show();

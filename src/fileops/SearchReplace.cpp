@@ -145,7 +145,9 @@ SearchReplace::Step SearchReplace::ProcessFile(const platform::FileName& file, c
   if (!renamer.Index().Contains(file.raw)) return Step::Next;
   const QByteArray newName = terms.Apply(file.raw);
   if (newName == file.raw) return Step::Next;
-  if (!DiffersInCaseOnly(file.raw, newName) && renamer.Index().Contains(newName)) {
+  // The index answers first: most new names are free, and the case test
+  // would decode both names for every file.
+  if (renamer.Index().Contains(newName) && !DiffersInCaseOnly(file.raw, newName)) {
     return AskAboutClash(file, newName, renamer);
   }
   return Rename(file, newName, renamer, true);
@@ -161,7 +163,14 @@ SearchReplace::Step SearchReplace::Rename(const platform::FileName& file, const 
   if (error == platform::kNoError) {
     anyRenamed_ = true;
     folderChanged_ = true;
-    AddLine(kQuote + file.Display() + kQuote + texts::kWasRenamedTo + kQuote + Display(newName) + kQuote);
+    results_ += texts::kLf;
+    results_ += kQuote;
+    results_ += file.Display();
+    results_ += kQuote;
+    results_ += texts::kWasRenamedTo;
+    results_ += kQuote;
+    results_ += Display(newName);
+    results_ += kQuote;
     return Step::Next;
   }
   if (error == platform::kFileAlreadyExists && mayAsk && !renamer.FailureShown()) {

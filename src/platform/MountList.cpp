@@ -1,99 +1,30 @@
+// GIO's headers use `signals` as a plain name, which Qt's headers turn into a
+// keyword macro; so GIO comes first.
+#include <gio/gio.h>
+#include <gio/gunixmounts.h>
+
 #include "platform/MountList.h"
 
 #include <dirent.h>
 #include <pwd.h>
 #include <unistd.h>
 
-#include <QList>
 #include <cstdlib>
 
-#include "platform/FileSystem.h"
-#include "platform/PathParts.h"
+#include "platform/NetworkKinds.h"
 
 namespace renvale::platform {
 
 namespace {
 
-// How each kind of volume is named in the drive box; %1 is the name.
+// How the two fixed entries are named in the drive box; %1 is the folder.
 struct VolumeLabelTexts {
   QString root = QStringLiteral("/ [File System]");
   QString home = QStringLiteral("%1 [Home]");
-  QString removable = QStringLiteral("%1 [Removable]");
-  QString network = QStringLiteral("%1 [Network]");
 };
 const VolumeLabelTexts kLabels;
 
-const char* const kRemovableRoots[] = {"/media/", "/run/media/"};
-
-const char* const kNetworkTypes[] = {
-    "cifs", "smb3", "smbfs", "nfs", "nfs4", "ncpfs", "afs", "ceph", "9p", "davfs",
-    "fuse.sshfs", "fuse.gvfsd-fuse", "fuse.rclone", "fuse.glusterfs", "fuse.s3fs",
-};
-
-constexpr qint64 kMountInfoMax = 16 * 1024 * 1024;
-
-bool IsOctal(char c) { return c >= '0' && c <= '7'; }
-
-// The kernel writes blank, tab, newline and backslash in paths as \ooo.
-QByteArray DecodeMountField(const QByteArray& field) {
-  QByteArray out;
-  out.reserve(field.size());
-  for (qsizetype i = 0; i < field.size(); ++i) {
-    if (field[i] == '\\' && i + 3 < field.size() && IsOctal(field[i + 1]) &&
-        IsOctal(field[i + 2]) && IsOctal(field[i + 3])) {
-      out += static_cast<char>(((field[i + 1] - '0') << 6) | ((field[i + 2] - '0') << 3) |
-                               (field[i + 3] - '0'));
-      i += 3;
-    } else {
-      out += field[i];
-    }
-  }
-  return out;
-}
-
-// Fields: id parent dev root mountpoint options [optional...] - type source super.
-bool ParseMountLine(const QByteArray& line, MountEntry* entry) {
-  const QList<QByteArray> fields = line.split(' ');
-  const qsizetype separator = fields.indexOf(QByteArray("-"), 6);
-  if (fields.size() < 5 || separator < 0 || separator + 2 >= fields.size()) return false;
-  entry->mountPoint = DecodeMountField(fields[4]);
-  entry->fsType = fields[separator + 1];
-  entry->source = DecodeMountField(fields[separator + 2]);
-  return true;
-}
-
 QByteArray WithSlash(const QByteArray& path) { return path.endsWith('/') ? path : path + '/'; }
-
-bool IsRemovablePlace(const QByteArray& mountPoint) {
-  const QByteArray path = WithSlash(mountPoint);
-  for (const char* root : kRemovableRoots) {
-    if (path.startsWith(root) && path.size() > qsizetype(qstrlen(root))) return true;
-  }
-  return false;
-}
-
-bool IsNetworkType(const QByteArray& type) {
-  for (const char* known : kNetworkTypes) {
-    if (type == known) return true;
-  }
-  return false;
-}
-
-// A share's source ("//server/share", "host:/export") says more than its
-// mount point; a bare daemon name ("gvfsd-fuse") does not.
-QString NetworkName(const MountEntry& mount) {
-  const bool speaking = mount.source.contains('/') || mount.source.contains(':');
-  return QString::fromUtf8(speaking ? mount.source : mount.mountPoint);
-}
-
-Volume VolumeFor(const MountEntry& mount, VolumeKind kind) {
-  Volume volume{WithSlash(mount.mountPoint), QString(), kind};
-  if (kind == VolumeKind::Removable)
-    volume.label = kLabels.removable.arg(QString::fromUtf8(BaseName(mount.mountPoint)));
-  else
-    volume.label = kLabels.network.arg(NetworkName(mount));
-  return volume;
-}
 
 void AddUnlessListed(std::vector<Volume>* volumes, Volume volume) {
   for (const Volume& listed : *volumes) {
@@ -108,36 +39,61 @@ QByteArray HomeFolder() {
   return entry != nullptr ? QByteArray(entry->pw_dir) : QByteArray("/");
 }
 
+// The desktop's own list: what its volume monitors (udisks, GVfs, MTP) know,
+// with the names its file manager shows. A mount without a local folder (GVfs
+// without its FUSE bridge) cannot be browsed by path and is left out.
+void AddDesktopMounts(std::vector<Volume>* volumes) {
+  GVolumeMonitor* monitor = g_volume_monitor_get();
+  GList* mounts = g_volume_monitor_get_mounts(monitor);
+  for (GList* item = mounts; item != nullptr; item = item->next) {
+    GMount* mount = G_MOUNT(item->data);
+    GFile* root = g_mount_get_root(mount);
+    char* path = g_file_get_path(root);
+    char* scheme = g_file_get_uri_scheme(root);
+    char* name = g_mount_get_name(mount);
+    if (path != nullptr && !g_mount_is_shadowed(mount)) {
+      const VolumeKind kind = NetworkKinds::IsNetworkScheme(scheme) ? VolumeKind::Network : VolumeKind::Removable;
+      AddUnlessListed(volumes, {WithSlash(path), QString::fromUtf8(name), kind});
+    }
+    g_free(name);
+    g_free(scheme);
+    g_free(path);
+    g_object_unref(root);
+  }
+  g_list_free_full(mounts, g_object_unref);
+  g_object_unref(monitor);
+}
+
+// The system's mounts the desktop would show, and every network mount: a
+// share mounted by the administrator under /mnt is still a place to rename in.
+void AddSystemMounts(std::vector<Volume>* volumes) {
+  GList* entries = g_unix_mounts_get(nullptr);
+  for (GList* item = entries; item != nullptr; item = item->next) {
+    auto* entry = static_cast<GUnixMountEntry*>(item->data);
+    const bool network = NetworkKinds::IsNetworkFileSystem(g_unix_mount_get_fs_type(entry));
+    if (!network && !g_unix_mount_guess_should_display(entry)) continue;
+    const QByteArray path = WithSlash(g_unix_mount_get_mount_path(entry));
+    if (network) {
+      AddUnlessListed(volumes, {path, QString::fromUtf8(g_unix_mount_get_device_path(entry)), VolumeKind::Network});
+    } else {
+      char* name = g_unix_mount_guess_name(entry);
+      AddUnlessListed(volumes, {path, QString::fromUtf8(name), VolumeKind::Removable});
+      g_free(name);
+    }
+  }
+  g_list_free_full(entries, reinterpret_cast<GDestroyNotify>(g_unix_mount_free));
+}
+
 }  // namespace
 
-std::vector<MountEntry> MountList::ParseMountInfo(const QByteArray& text) {
-  std::vector<MountEntry> mounts;
-  for (const QByteArray& line : text.split('\n')) {
-    MountEntry entry;
-    if (ParseMountLine(line, &entry)) mounts.push_back(std::move(entry));
-  }
-  return mounts;
-}
-
-std::vector<Volume> MountList::Browsable(const std::vector<MountEntry>& mounts, const QByteArray& home) {
+std::vector<Volume> MountList::Current() {
   std::vector<Volume> volumes{{"/", kLabels.root, VolumeKind::Root}};
+  const QByteArray home = HomeFolder();
   if (WithSlash(home) != "/")
     AddUnlessListed(&volumes, {WithSlash(home), kLabels.home.arg(QString::fromUtf8(home)), VolumeKind::Home});
-  for (const MountEntry& mount : mounts) {
-    if (IsRemovablePlace(mount.mountPoint)) AddUnlessListed(&volumes, VolumeFor(mount, VolumeKind::Removable));
-  }
-  for (const MountEntry& mount : mounts) {
-    if (IsNetworkType(mount.fsType) && !IsRemovablePlace(mount.mountPoint))
-      AddUnlessListed(&volumes, VolumeFor(mount, VolumeKind::Network));
-  }
+  AddDesktopMounts(&volumes);
+  AddSystemMounts(&volumes);
   return volumes;
-}
-
-std::vector<Volume> MountList::Current() {
-  QByteArray text;
-  // Without mountinfo (an unusual sandbox) the fixed entries still show.
-  RealFileSystem().ReadWholeFile("/proc/self/mountinfo", kMountInfoMax, &text);
-  return Browsable(ParseMountInfo(text), HomeFolder());
 }
 
 bool MountList::IsReadable(const QByteArray& path) {

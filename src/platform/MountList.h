@@ -16,24 +16,13 @@ struct Volume {
   bool operator==(const Volume& other) const = default;
 };
 
-// One line of /proc/self/mountinfo, with the escapes in the mount point
-// (\040 for a blank and the like) decoded.
-struct MountEntry {
-  QByteArray mountPoint;
-  QByteArray fsType;
-  QByteArray source;
-  bool operator==(const MountEntry& other) const = default;
-};
-
-// The volumes a person browses: "/", the home folder, removable media under
-// /media and /run/media, and network mounts, in that order.
+// The volumes a person browses: "/", the home folder, then what the desktop
+// shows in its file manager (cards, phones, connected shares, under the
+// names the desktop gives them) and the system's network mounts.
 class MountList {
  public:
   // What the drive box lists on this machine now.
   static std::vector<Volume> Current();
-
-  static std::vector<MountEntry> ParseMountInfo(const QByteArray& text);
-  static std::vector<Volume> Browsable(const std::vector<MountEntry>& mounts, const QByteArray& home);
 
   // False when the volume's folder cannot be listed: a card reader without
   // a card, a network share that is gone or forbids access.

@@ -4,39 +4,10 @@
 
 #include "platform/Trash.h"
 
-#include <cerrno>
-
 #include "platform/ErrorNumbers.h"
+#include "platform/GioErrors.h"
 
 namespace renvale::platform {
-
-namespace {
-
-struct GioErrorToErrno {
-  int gioCode;
-  int errnum;
-};
-
-// GIO reports its own codes, not errno; these are their errno equivalents.
-constexpr GioErrorToErrno kGioErrors[] = {
-    {G_IO_ERROR_NOT_FOUND, ENOENT},         {G_IO_ERROR_EXISTS, EEXIST},
-    {G_IO_ERROR_PERMISSION_DENIED, EACCES}, {G_IO_ERROR_READ_ONLY, EROFS},
-    {G_IO_ERROR_BUSY, EBUSY},               {G_IO_ERROR_NO_SPACE, ENOSPC},
-    {G_IO_ERROR_IS_DIRECTORY, EISDIR},      {G_IO_ERROR_NOT_DIRECTORY, ENOTDIR},
-    {G_IO_ERROR_FILENAME_TOO_LONG, ENAMETOOLONG}, {G_IO_ERROR_INVALID_FILENAME, EINVAL},
-    {G_IO_ERROR_NOT_SUPPORTED, EOPNOTSUPP}, {G_IO_ERROR_TOO_MANY_LINKS, ELOOP},
-    {G_IO_ERROR_CANCELLED, ECANCELED},
-};
-
-int ErrnoFromGError(const GError* error) {
-  if (error == nullptr || error->domain != G_IO_ERROR) return EIO;
-  for (const GioErrorToErrno& entry : kGioErrors) {
-    if (entry.gioCode == error->code) return entry.errnum;
-  }
-  return EIO;
-}
-
-}  // namespace
 
 int MoveFileToTrash(const QByteArray& path) {
   // On Linux GIO's file names are bytes, so the raw name goes straight in.
@@ -45,9 +16,9 @@ int MoveFileToTrash(const QByteArray& path) {
   const gboolean moved = g_file_trash(file, nullptr, &error);
   g_object_unref(file);
   if (moved) return kNoError;
-  const int errnum = ErrnoFromGError(error);
+  const int number = ErrorNumberFromGError(error);
   g_clear_error(&error);
-  return ErrorNumberFromErrno(errnum);
+  return number;
 }
 
 }  // namespace renvale::platform

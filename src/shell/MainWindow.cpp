@@ -43,6 +43,8 @@
 #include "shell/ComposeController.h"
 #include "shell/FilenameAsTemp.h"
 #include "shell/ManTempDialog.h"
+#include "shell/MapDriveL.h"
+#include "shell/DisDrive.h"
 #include "shell/MoveFilesDialog.h"
 #include "shell/OptionsDialog.h"
 #include "shell/SandR.h"
@@ -259,11 +261,34 @@ void MainWindow::ConnectRenameButtons() {
   connect(ui_.Check1, &QCheckBox::toggled, note, &QLabel::setVisible);
 }
 
-// Controls whose features are not built yet stay visible but unusable.
+// Controls whose services were not given stay visible but unusable.
 void MainWindow::DisableLaterFeatures() {
   for (QAction* action : {ui_.MapNet, ui_.UnMap}) {
     action->setEnabled(false);
   }
+}
+
+void MainWindow::UseNetworkShares(platform::NetworkShares& shares) {
+  connect(ui_.MapNet, &QAction::triggered, this, [this, &shares] {
+    MapDriveL::Run({shares, services_.messages, services_.tips, services_.pickFolder}, this);
+    FillDriveList();
+  });
+  connect(ui_.UnMap, &QAction::triggered, this, [this, &shares] {
+    if (DisDrive::Run(shares, services_.messages, this)) LeaveFolderIfGone();
+  });
+  for (QAction* action : {ui_.MapNet, ui_.UnMap}) action->setEnabled(true);
+}
+
+// A disconnected share takes its folders with it; the panes move to the
+// nearest folder still there.
+void MainWindow::LeaveFolderIfGone() {
+  std::vector<QByteArray> probe;
+  if (services_.fs.ListFolders(session_.CurrentFolder, &probe) == platform::kNoError) {
+    FillDriveList();
+    return;
+  }
+  preview_->ReleasePreview();
+  ChangeFolder(NearestExistingFolder(services_.fs, session_.CurrentFolder));
 }
 
 // The Help menu's entries in their order: two topics, two addresses of the

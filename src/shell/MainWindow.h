@@ -17,6 +17,7 @@
 namespace renvale::platform {
 class FileSystem;
 class MessagePort;
+class NetworkShares;
 class SettingsStorage;
 }  // namespace renvale::platform
 
@@ -59,6 +60,9 @@ class MainWindow : public QMainWindow {
   // `startPath` is the one argument the program takes: an absolute path of
   // a folder to open instead of the last one, or of a file to select there.
   void Start(const QByteArray& startPath = {});
+  // Tools > Map and Disconnect Network Drive work through `shares`; without
+  // it they stay disabled.
+  void UseNetworkShares(platform::NetworkShares& shares);
 
   core::RenameSession& Session() { return session_; }
   core::SettingsRecord& Settings() { return settings_; }
@@ -104,6 +108,7 @@ class MainWindow : public QMainWindow {
   void OnFolderOpened(const QByteArray& folder);
   void ShowFolderInPanes();
   void FillDriveList();
+  void LeaveFolderIfGone();
   bool HandleEnter();
   void OfferBoxTips(QObject* watched);
   void DisableLaterFeatures();

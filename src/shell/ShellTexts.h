@@ -61,6 +61,44 @@ inline const QString kAboutCaption = QStringLiteral("About ");
 inline const QString kAboutDescription = QStringLiteral("The easy way to rename digital photos, and more!");
 inline const QString kAboutOk = QStringLiteral("OK");
 
+// Map Network Drive and Disconnect Network Drive. Linux has no drive letters:
+// a mapped share's local folder stands where the letter stood.
+inline const QString kMapDriveCaption = QStringLiteral("Map Network Drive");
+inline const QString kNetFolderLabel = QStringLiteral("Network Drive or Folder:");
+inline const QString kNoNetFolder = QStringLiteral("(Please choose a network drive or folder)");
+inline const QString kChooseNetFolder = QStringLiteral("Choose network drive or folder to map...");
+inline const QString kChooseNetFolderPrompt = QStringLiteral("Choose a network drive or folder to map...");
+inline const QString kMapButton = QStringLiteral("Map Drive or Folder");
+inline const QString kCancelButton = QStringLiteral("Cancel");
+inline const QString kHelpButton = QStringLiteral("Help");
+inline const QString kNotNetworkFolder = QStringLiteral("The folder chosen does not appear to be a network folder.");
+inline const QString kPleaseChooseNetFolder = QStringLiteral("Please choose a network drive or folder");
+inline const QString kCouldNotMapChosen = QStringLiteral("Could not map the drive or folder chosen.");
+inline QString MappedText(const QString& localFolder, const QString& address) {
+  return QStringLiteral("Network drive or folder mapped successfully.\nLocal Drive Letter is: ") + localFolder +
+         QStringLiteral("\nMapped to: ") + address;
+}
+inline QString CouldNotMapText(int errorNumber) {
+  return QStringLiteral("Could not map network drive or folder.  Error #") + QString::number(errorNumber);
+}
+inline const QString kDisDriveCaption = QStringLiteral("Disconnect Network Drive");
+inline const QString kChooseDriveToDisconnect = QStringLiteral("Please choose which network drive to disconnect...");
+inline const QString kDisconnectButton = QStringLiteral("Disconnect");
+inline const QString kNoMappedDrives =
+    QStringLiteral("Renvale did not find any drive letters mapped to a network drive or folder.");
+inline QString DisconnectedText(const QString& drive) {
+  return QStringLiteral("Network Drive '") + drive + QStringLiteral("' has been disconnected.");
+}
+inline const QString kCouldNotDisconnect =
+    QStringLiteral("Could not disconnect selected drive.\nPlease be sure it is a network drive.");
+// The login the server asks for while a share is being mapped.
+inline const QString kLoginCaption = QStringLiteral("Network Login");
+inline const QString kLoginUser = QStringLiteral("&User name:");
+inline const QString kLoginDomain = QStringLiteral("&Domain:");
+inline const QString kLoginPassword = QStringLiteral("&Password:");
+inline const QString kLoginAnonymous = QStringLiteral("Connect &anonymously");
+inline const QString kLoginConnect = QStringLiteral("Connect");
+
 // ---- Edit menu, the operation history -----------------------------------
 inline const QString kEditMenu = QStringLiteral("&Edit");
 inline const QString kUndoNothing = QStringLiteral("&Undo");
