@@ -106,10 +106,6 @@ std::vector<JournalEntry> Journal::Entries(size_t most, bool undone) {
   std::vector<JournalEntry> entries;
   for (const QByteArray& name : names) {
     if (entries.size() >= most) break;
-    if (name.endsWith(kTemporarySuffix) && folder_ + name != current_) {
-      fs_.RemoveFile(folder_ + name);
-      continue;
-    }
     JournalEntry entry;
     if (!StateOfName(name, &entry.state) || (!undone && entry.state == State::Undone)) continue;
     entry.path = folder_ + name;
@@ -124,6 +120,20 @@ std::vector<JournalEntry> Journal::Entries(size_t most, bool undone) {
     entries.push_back(entry);
   }
   return entries;
+}
+
+// Another program sharing the folder may be writing its plan right now;
+// only a temporary an hour old is one that a kill left behind.
+void Journal::RemoveStaleTemporaries() {
+  std::vector<QByteArray> names;
+  fs_.ListFiles(folder_, &names);
+  const QDateTime stale = QDateTime::currentDateTimeUtc().addSecs(-3600);
+  for (const QByteArray& name : names) {
+    platform::FileInfo info;
+    if (name.endsWith(kTemporarySuffix) && fs_.Stat(folder_ + name, &info) == 0 && info.modified < stale) {
+      fs_.RemoveFile(folder_ + name);
+    }
+  }
 }
 
 void Journal::SetAside(const QByteArray& name, int status) {

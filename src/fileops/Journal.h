@@ -37,10 +37,13 @@ class Journal : public core::OperationRecorder {
 
   // Every journal, newest first. One that cannot be read (cut short,
   // changed, or of a newer version) is moved to "damaged/" and told about
-  // once; a plan that never got its name is dropped, since nothing of it
-  // was done.
+  // once.
   // `most` limits how many are read; `undone` false leaves undone ones out.
   std::vector<JournalEntry> Entries(size_t most = SIZE_MAX, bool undone = true);
+
+  // Removes plans that a kill stopped before they got their name: nothing
+  // of them was done.
+  void RemoveStaleTemporaries();
 
   // Records a new state for `entry` (a finished, undone or recovered plan).
   int Mark(JournalEntry& entry, JournalEntry::State state);

@@ -74,6 +74,7 @@ bool OperationHistory::UndoNewest() {
 }
 
 void OperationHistory::RecoverUnfinished() {
+  journal_.RemoveStaleTemporaries();
   for (JournalEntry& entry : journal_.Entries()) {
     if (entry.state == State::Open) Recover(entry);
   }

@@ -9,8 +9,9 @@
 namespace renvale::shell {
 
 EditMenu::EditMenu(MainWindowUi& ui, fileops::Journal* journal, platform::FileSystem& fs,
-                   platform::MessagePort& messages, std::function<void()> refreshFiles, QWidget* parent)
-    : QObject(parent), ui_(ui), refreshFiles_(std::move(refreshFiles)), parent_(parent) {
+                   platform::MessagePort& messages, std::function<void()> refreshFiles, std::function<bool()> busy,
+                   QWidget* parent)
+    : QObject(parent), ui_(ui), refreshFiles_(std::move(refreshFiles)), busy_(std::move(busy)), parent_(parent) {
   if (journal == nullptr) {
     ui_.mnuUndo->setEnabled(false);
     ui_.mnuHistory->setEnabled(false);
@@ -28,7 +29,7 @@ EditMenu::EditMenu(MainWindowUi& ui, fileops::Journal* journal, platform::FileSy
 EditMenu::~EditMenu() = default;
 
 void EditMenu::CheckUnfinished() {
-  if (history_ == nullptr) return;
+  if (history_ == nullptr || busy_()) return;
   history_->RecoverUnfinished();
   refreshFiles_();
   UpdateCaption();
@@ -40,7 +41,8 @@ void EditMenu::UpdateCaption() {
   // "Search & Replace" must not lend its "&" to the keyboard.
   ui_.mnuUndo->setText(caption.isEmpty() ? texts::kUndoNothing
                                          : QLatin1Char('&') + QString(caption).replace(u'&', QStringLiteral("&&")));
-  ui_.mnuUndo->setEnabled(!caption.isEmpty());
+  ui_.mnuUndo->setEnabled(!caption.isEmpty() && !busy_());
+  ui_.mnuHistory->setEnabled(!busy_());
 }
 
 void EditMenu::Undo() {
@@ -53,6 +55,7 @@ void EditMenu::Undo() {
 }
 
 void EditMenu::ShowHistory() {
+  if (busy_()) return;
   HistoryDialog dialog(*history_, parent_);
   dialog.exec();
   if (dialog.UndidAny()) refreshFiles_();

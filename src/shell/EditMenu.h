@@ -17,8 +17,10 @@ class EditMenu : public QObject {
   Q_OBJECT
 
  public:
+  // `busy` is true while an operation runs and lets window events through:
+  // nothing may be undone under it.
   EditMenu(MainWindowUi& ui, fileops::Journal* journal, platform::FileSystem& fs, platform::MessagePort& messages,
-           std::function<void()> refreshFiles, QWidget* parent);
+           std::function<void()> refreshFiles, std::function<bool()> busy, QWidget* parent);
   ~EditMenu() override;
 
   // Offers to finish or undo what a crash cut short; called once the
@@ -34,6 +36,7 @@ class EditMenu : public QObject {
   MainWindowUi& ui_;
   std::unique_ptr<fileops::OperationHistory> history_;
   std::function<void()> refreshFiles_;
+  std::function<bool()> busy_;
   QWidget* parent_;
 };
 

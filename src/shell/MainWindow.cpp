@@ -105,8 +105,9 @@ MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
   ConnectHelp();
   BuildComposeControllers();
   ConnectRenameButtons();
-  editMenu_ = new EditMenu(ui_, services_.journal, services_.fs, services_.messages, [this] { RefreshFileList(); },
-                           this);
+  editMenu_ = new EditMenu(
+      ui_, services_.journal, services_.fs, services_.messages, [this] { RefreshFileList(); },
+      [this] { return session_.Busy; }, this);
   qApp->installEventFilter(this);
 }
 

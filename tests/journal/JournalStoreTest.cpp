@@ -37,7 +37,7 @@ TEST_F(JournalStore, PlansAreListedNewestFirstWithTheirStates) {
   ASSERT_EQ(journal.Begin(Plan(2000)), 0);
   journal.End();
   ASSERT_EQ(journal.Begin(Plan(3000)), 0);  // a run that never ended
-  Put("000000000001000-0000.tmp", "half");  // killed before its plan counted
+  Put("000000000001000-0000.tmp", "half");  // being written, or killed before its plan counted
   std::vector<JournalEntry> entries = journal.Entries();
   ASSERT_EQ(entries.size(), 2u);
   EXPECT_EQ(entries[0].state, State::Open);
@@ -45,7 +45,13 @@ TEST_F(JournalStore, PlansAreListedNewestFirstWithTheirStates) {
   EXPECT_EQ(entries[1].state, State::Done);
   EXPECT_EQ(journal.Mark(entries[1], State::Undone), 0);
   EXPECT_EQ(journal.Entries()[1].state, State::Undone);
-  EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 2);
+  Put("000000000000500-0000.tmp", "left by a kill a day ago");
+  QFile stale(dir.path() + "/000000000000500-0000.tmp");
+  ASSERT_TRUE(stale.open(QIODevice::ReadWrite));
+  stale.setFileTime(QDateTime::currentDateTimeUtc().addDays(-1), QFileDevice::FileModificationTime);
+  journal.RemoveStaleTemporaries();  // the young one may still be being written
+  EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 3);
+  EXPECT_FALSE(stale.exists());
   EXPECT_TRUE(port.messages.empty());
 }
 
