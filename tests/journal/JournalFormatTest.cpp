@@ -19,8 +19,6 @@ TEST(JournalFormat, APlanReadsBackByteForByte) {
   const QByteArray bytes = JournalFormat::Write(SamplePlan());
   const JournalRead read = JournalFormat::Read(bytes.constData(), bytes.size());
   ASSERT_EQ(read.status, JournalStatus::Ok);
-  ASSERT_EQ(read.plan.steps.size(), 2u);
-  EXPECT_EQ(read.plan.steps[0].from, "/card/a b\n.jpg");
   EXPECT_EQ(JournalFormat::Write(read.plan), bytes);
 }
 

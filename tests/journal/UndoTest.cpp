@@ -19,8 +19,6 @@ using Files = std::map<QByteArray, QByteArray>;
 // test can tell which file ended where.
 class Undo : public ::testing::Test {
  protected:
-  Undo() { QDir().mkpath(QFile::decodeName(state) + "damaged"); }
-
   QByteArray Path(const QByteArray& name) const { return card + name; }
   void Make(const QByteArray& name, const QByteArray& contents = {}) {
     fs.WriteWholeFile(Path(name), contents.isEmpty() ? name : contents);
@@ -68,8 +66,6 @@ TEST_F(Undo, RenamesGoBackAndAFileRenamedAgainIsPassedOverAndListed) {
   EXPECT_EQ(port.Last().text, "Undo of Search & Replace of 2 files: 1 file(s) were put back.\r\r"
                               "These files were left as they are:\r'" + dir.path() +
                               "/d.jpg' was passed over: it has been renamed, moved, replaced or deleted since.");
-  EXPECT_EQ(history.UndoCaption(), "");
-  EXPECT_FALSE(history.UndoNewest());
 }
 
 TEST_F(Undo, TrashedFilesComeBackUnlessTheirNameIsTakenAgain) {

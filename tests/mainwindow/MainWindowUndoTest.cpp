@@ -27,7 +27,6 @@ TEST_F(MainWindowUndo, TheEditMenuUndoesTheLastRename) {
   main.show();
   QAction* undo = main.Ui().mnuUndo;
   EXPECT_FALSE(undo->isEnabled());
-  EXPECT_EQ(undo->text(), "&Undo");
   ClickRow(0);
   main.Ui().Text1->setText("b");
   main.Ui().Command2->click();
@@ -43,7 +42,6 @@ TEST_F(MainWindowUndo, TheEditMenuUndoesTheLastRename) {
   kept.End();
   emit qobject_cast<QMenu*>(undo->parent())->aboutToShow();
   EXPECT_EQ(undo->text(), "&Undo Search && Replace of 1 file");
-  EXPECT_TRUE(undo->isEnabled());
 }
 
 }  // namespace
