@@ -1,5 +1,7 @@
 #include <QApplication>
+#include <QFile>
 
+#include "fileops/Journal.h"
 #include "platform/AppPaths.h"
 #include "platform/FileSystem.h"
 #include "platform/GioNetworkShares.h"
@@ -36,9 +38,10 @@ int main(int argc, char** argv) {
   platform::QtSettingsStorage settings;
   platform::QtMessagePort messages;
   shell::ShownQuickTips tips(settings, messages);
+  fileops::Journal journal(platform::RealFileSystem(), QFile::encodeName(platform::StateFolder()), messages);
   shell::MainWindowServices services{platform::RealFileSystem(), messages, settings, tips,
                                      platform::PickFolder, platform::MountList::Current,
-                                     platform::CurrentDirectory};
+                                     platform::CurrentDirectory, &journal};
   platform::GioNetworkShares shares;
   shell::MainWindow window(std::move(services));
   window.UseNetworkShares(shares);

@@ -186,4 +186,10 @@ inline const QString kNoteUnchanged = QStringLiteral("The name does not change."
 inline const QString kNoteWaitsFor = QStringLiteral("Renamed after '%1' has left this name.");
 inline const QString kNoteTravelsWith = QStringLiteral("Renamed along with '%1'.");
 
+// ---- The journal ---------------------------------------------------------
+// Shown when the plan of an operation cannot be written: nothing changes,
+// because a change that could not be undone after a crash is not made.
+inline const QString kPlanNotKept = QStringLiteral(
+    "Nothing was changed: the plan of this operation could not be saved for Undo (%1).");
+
 }  // namespace renvale::core::texts

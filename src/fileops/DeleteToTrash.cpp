@@ -1,6 +1,12 @@
 #include "fileops/DeleteToTrash.h"
 
+#include <optional>
+
+#include "core/CoreTexts.h"
+#include "core/PlanIdentity.h"
+#include "core/RecordedOperation.h"
 #include "fileops/FileopsTexts.h"
+#include "platform/FileNumbers.h"
 #include "platform/ErrorNumbers.h"
 
 namespace renvale::fileops {
@@ -36,6 +42,8 @@ bool DeleteToTrash::DeleteSeveral() {
                                       texts::kConfirmDeleteTitle) != MessageAnswer::Yes) {
     return false;
   }
+  std::optional<core::RecordedOperation> recorded;
+  if (!Record(files, &recorded)) return false;
   context_.session.Busy = true;
   for (const platform::FileName& file : files) {
     if (Trash(file.raw) != platform::kNoError) {
@@ -58,8 +66,29 @@ bool DeleteToTrash::DeleteCurrent() {
                                       texts::kConfirmDeleteTitle) != MessageAnswer::Yes) {
     return false;
   }
+  std::optional<core::RecordedOperation> recorded;
+  if (!Record({file}, &recorded)) return false;
   if (Trash(file.raw) != platform::kNoError) context_.messages.Notify(texts::kCouldNotTrashOne);
   return true;
+}
+
+// Keeps the plan so that Undo can bring the files back from the trash;
+// false, after saying so, when it could not be kept.
+bool DeleteToTrash::Record(const std::vector<platform::FileName>& files,
+                           std::optional<core::RecordedOperation>* recorded) {
+  core::OperationPlan plan{core::OperationKind::Trash, folder_, QDateTime::currentDateTimeUtc(), {}};
+  if (context_.recorder != nullptr) {
+    const bool stable = platform::FileNumbersStable(folder_);
+    for (const platform::FileName& file : files) {
+      const QByteArray path = folder_ + file.raw;
+      plan.steps.push_back({core::StepKind::Trash, path, {}, core::IdentityOf(context_.fs, path, stable)});
+    }
+  }
+  recorded->emplace(context_.recorder, plan);
+  if ((*recorded)->Error() == platform::kNoError) return true;
+  context_.messages.Notify(core::texts::kPlanNotKept.arg(platform::ErrorDescription((*recorded)->Error())),
+                           MessageIcon::Critical);
+  return false;
 }
 
 // Only the trash: where it is not supported the file stays, and the caller

@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <optional>
+#include <vector>
 
+#include "core/RecordedOperation.h"
 #include "core/RenameContext.h"
 
 namespace renvale::fileops {
@@ -21,6 +24,7 @@ class DeleteToTrash {
  private:
   bool DeleteSeveral();
   bool DeleteCurrent();
+  bool Record(const std::vector<platform::FileName>& files, std::optional<core::RecordedOperation>* recorded);
   int Trash(const QByteArray& name);
   void ReleasePreviewIfHeld(const QByteArray& path);
   void ShowFolderAfterwards();

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "core/CoreTexts.h"
+#include "core/RecordedOperation.h"
 #include "fileops/FileopsTexts.h"
 #include "platform/ErrorNumbers.h"
 
@@ -115,7 +117,16 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
   newNames.reserve(files.size());
   for (const platform::FileName& file : files) newNames.push_back(terms.Apply(file.raw));
   aside_.clear();
-  for (const core::PlannedTurn& turn : Turns(files, newNames, renamer)) {
+  const std::vector<core::PlannedTurn> turns = Turns(files, newNames, renamer);
+  const core::RecordedOperation recorded(
+      context_.recorder,
+      context_.recorder == nullptr ? core::OperationPlan{} : Plan(turns, files, newNames, renamer));
+  if (recorded.Error() != platform::kNoError) {
+    context_.messages.Notify(core::texts::kPlanNotKept.arg(platform::ErrorDescription(recorded.Error())),
+                             MessageIcon::Critical);
+    return;
+  }
+  for (const core::PlannedTurn& turn : turns) {
     if (TakeTurn(turn, files[turn.file], newNames[turn.file], renamer) == Step::Stop) {
       PutBackAside(renamer);
       return;
@@ -123,6 +134,36 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
     if (progress < maximum) view_.SetProgress(++progress);
     view_.ProcessEvents();
   }
+}
+
+// The renames in the order the turns take them, hidden names included, so
+// that Undo and the recovery after a crash find each file where the run
+// left it. Identities are taken now, before any file has moved.
+core::OperationPlan SearchReplace::Plan(const std::vector<core::PlannedTurn>& turns,
+                                        const std::vector<platform::FileName>& files,
+                                        const std::vector<QByteArray>& newNames, core::FileRenamer& renamer) const {
+  core::OperationPlan plan{core::OperationKind::SearchReplace, renamer.Folder(), QDateTime::currentDateTimeUtc(),
+                           {}};
+  std::vector<core::PlanStep> hidden;
+  for (const core::PlannedTurn& turn : turns) {
+    const platform::FileName& file = files[turn.file];
+    if (newNames[turn.file] == file.raw || renamer.Sets().TravelsWithSelectedHead(file.raw)) continue;
+    for (const core::PlannedRename& aside : turn.asides) {
+      const size_t first = plan.steps.size();
+      renamer.DescribeRename(aside.head.from, aside.head.to, &plan);
+      hidden.insert(hidden.end(), plan.steps.begin() + static_cast<std::ptrdiff_t>(first), plan.steps.end());
+    }
+    core::OperationPlan own;
+    renamer.DescribeRename(file.raw, newNames[turn.file], &own);
+    for (core::PlanStep& step : own.steps) {
+      // A file that stepped aside leaves from its hidden name.
+      for (const core::PlanStep& aside : hidden) {
+        if (aside.from == step.from) step.from = aside.to;
+      }
+      plan.steps.push_back(std::move(step));
+    }
+  }
+  return plan;
 }
 
 // Names that another file of the run leaves are taken after it has left

@@ -36,6 +36,8 @@ class SearchReplace {
                                        const std::vector<QByteArray>& newNames, core::FileRenamer& renamer) const;
   Step TakeTurn(const core::PlannedTurn& turn, const platform::FileName& file, const QByteArray& newName,
                 core::FileRenamer& renamer);
+  core::OperationPlan Plan(const std::vector<core::PlannedTurn>& turns, const std::vector<platform::FileName>& files,
+                           const std::vector<QByteArray>& newNames, core::FileRenamer& renamer) const;
   void PutBackAside(core::FileRenamer& renamer);
   void PutBack(const core::NamePair& aside, core::FileRenamer& renamer);
   Step ProcessFile(const platform::FileName& file, const QByteArray& from, const QByteArray& newName,

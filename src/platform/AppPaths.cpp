@@ -26,6 +26,15 @@ QString DataFolder() {
   return folder;
 }
 
+QString StateFolder() {
+  QString base = qEnvironmentVariable("XDG_STATE_HOME");
+  if (base.isEmpty() || !QDir::isAbsolutePath(base)) base = QDir::homePath() + QStringLiteral("/.local/state");
+  const QString folder = base + QStringLiteral("/MorventSoftware/Renvale/");
+  // Journals that cannot be read are kept aside here, never deleted.
+  QDir().mkpath(folder + QStringLiteral("damaged"));
+  return folder;
+}
+
 QString HelpFilePath() { return QStringLiteral("qrc:/help/"); }
 
 }  // namespace renvale::platform

@@ -1,5 +1,7 @@
 #include "shell/MainWindow.h"
 
+#include "shell/EditMenu.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QCloseEvent>
@@ -106,6 +108,9 @@ MainWindow::MainWindow(MainWindowServices services, QWidget* parent)
   ConnectHelp();
   BuildComposeControllers();
   ConnectRenameButtons();
+  editMenu_ = new EditMenu(
+      ui_, services_.journal, services_.fs, services_.messages, [this] { RefreshFileList(); },
+      [this] { return session_.Busy; }, this);
   qApp->installEventFilter(this);
 }
 
@@ -131,6 +136,8 @@ void MainWindow::Start(const QByteArray& startPath) {
   options_ = new OptionsDialog(settings_, services_.settings, services_.messages, optionsHost_, this);
   FinishStartPath();
   Timer1.start();
+  // Asked once the window shows, over it.
+  QTimer::singleShot(0, editMenu_, &EditMenu::CheckUnfinished);
 }
 
 void MainWindow::ApplyLoadedSettings() {
@@ -213,8 +220,9 @@ void MainWindow::BuildComposeControllers() {
                         {services_.fs, services_.messages, services_.tips, [this] { ShowFileReport(); }}, this);
   new ButtonEditor(ui_, settings_, services_.messages, this);
   new FilenameAsTemp(ui_, session_, services_.messages, services_.tips, this);
-  connect(ui_.templatesAction, &QAction::triggered, this,
-          [this] { ManTempDialog::Run(ui_, settings_, services_.fs, services_.messages, this); });
+  connect(ui_.templatesAction, &QAction::triggered, this, [this] {
+    ManTempDialog::Run(ui_, settings_, services_.fs, services_.messages, services_.journal, this);
+  });
   ui_.templatesAction->setEnabled(true);
 }
 
@@ -223,7 +231,8 @@ void MainWindow::BuildComposeControllers() {
 template <typename Operation, typename Action>
 void MainWindow::RunRename(Action action) {
   MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
-  const core::RenameContext context{session_, settings_, renameView_, services_.messages, services_.fs, tokens};
+  const core::RenameContext context{
+      session_, settings_, renameView_, services_.messages, services_.fs, tokens, services_.journal};
   Operation operation(context);
   action(operation);
 }
@@ -245,7 +254,8 @@ void MainWindow::ConnectRenameButtons() {
           [this] { RunRename<fileops::DeleteToTrash>([](auto& del) { del.DeleteSelected(); }); });
   connect(ui_.FSR, &QAction::triggered, this, [this] {
     MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
-    SandR::Open({session_, settings_, renameView_, services_.messages, services_.fs, tokens}, this);
+    SandR::Open({session_, settings_, renameView_, services_.messages, services_.fs, tokens, services_.journal},
+                this);
   });
   connect(ui_.Command13, &QPushButton::clicked, this, [this] {
     MoveFilesDialog::Run({settings_, services_.fs, services_.messages, services_.pickFolder, renameView_,
@@ -356,6 +366,8 @@ void MainWindow::RefreshFileList() {
   session_.SelectedCount = 0;
   ui_.selectionLabel->setText(texts::kNoFileSelected);
   ui_.fileCountLabel->setText(texts::FilesInFolderLabel(files_->Count()));
+  // Every operation that changes names reads the list again at its end.
+  if (editMenu_ != nullptr) editMenu_->UpdateCaption();
 }
 
 void MainWindow::OnSelectionChanged() {

@@ -21,8 +21,13 @@ class NetworkShares;
 class SettingsStorage;
 }  // namespace renvale::platform
 
+namespace renvale::fileops {
+class Journal;
+}
+
 namespace renvale::shell {
 
+class EditMenu;
 class FileListModel;
 class OptionsDialog;
 class PreviewPane;
@@ -38,6 +43,8 @@ struct MainWindowServices {
   std::function<QString(QWidget*, const QString&, const QString&)> pickFolder;
   std::function<std::vector<platform::Volume>()> drives;
   std::function<QByteArray()> startFolder;  // used when no folder is remembered
+  // Where operations keep their plans for Undo; none leaves Undo disabled.
+  fileops::Journal* journal = nullptr;
 };
 
 // The main window `main`: owns the session record and the settings record,
@@ -114,6 +121,7 @@ class MainWindow : public QMainWindow {
   void RunRename(Action action);
 
   MainWindowServices services_;
+  EditMenu* editMenu_ = nullptr;
   QByteArray startPath_;
   StartPlace startPlace_;
   core::RenameSession session_;

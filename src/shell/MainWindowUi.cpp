@@ -306,6 +306,11 @@ void MainWindowUi::BuildMenus(QMainWindow* window) {
   refreshAction->setShortcut(QKeySequence::Refresh);
   file->addSeparator();
   exitAction = Action(file, "mnuExit", QStringLiteral("E&xit"));
+  QMenu* edit = bar->addMenu(texts::kEditMenu);
+  edit->setObjectName(QStringLiteral("mnuEdit"));
+  mnuUndo = Action(edit, "mnuUndo", texts::kUndoNothing);
+  mnuUndo->setShortcut(QKeySequence::Undo);
+  mnuHistory = Action(edit, "mnuHistory", texts::kHistoryMenu);
   QMenu* tools = bar->addMenu(QStringLiteral("&Tools"));
   tools->setObjectName(QStringLiteral("ToolsMenu"));
   optionsAction = Action(tools, "mnuOptions", QStringLiteral("&Program Options"));

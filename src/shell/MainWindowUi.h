@@ -75,6 +75,8 @@ struct MainWindowUi {
 
   QAction* refreshAction = nullptr;
   QAction* exitAction = nullptr;
+  QAction* mnuUndo = nullptr;
+  QAction* mnuHistory = nullptr;
   QAction* optionsAction = nullptr;
   QAction* templatesAction = nullptr;
   QAction* FSR = nullptr;

@@ -43,8 +43,9 @@ ManTempDialog::ManTempDialog(MainWindowUi& ui, core::SettingsRecord& settings, p
 }
 
 void ManTempDialog::Run(MainWindowUi& ui, core::SettingsRecord& settings, platform::FileSystem& fs,
-                        platform::MessagePort& messages, QWidget* parent) {
+                        platform::MessagePort& messages, core::OperationRecorder* recorder, QWidget* parent) {
   ManTempDialog dialog(ui, settings, fs, messages, platform::DataFolder(), parent);
+  dialog.manager_.SetRecorder(recorder);
   dialog.exec();
 }
 

@@ -34,7 +34,7 @@ class ManTempDialog : public QDialog {
   // Tools > "&Manage Templates": the dialog over the per-user data folder,
   // modal, until "Done".
   static void Run(MainWindowUi& ui, core::SettingsRecord& settings, platform::FileSystem& fs,
-                  platform::MessagePort& messages, QWidget* parent);
+                  platform::MessagePort& messages, core::OperationRecorder* recorder, QWidget* parent);
 
   void RefreshList();
 

@@ -133,4 +133,17 @@ inline const QString kLoginPassword = QStringLiteral("&Password:");
 inline const QString kLoginAnonymous = QStringLiteral("Connect &anonymously");
 inline const QString kLoginConnect = QStringLiteral("Connect");
 
+// ---- Edit menu, the operation history -----------------------------------
+inline const QString kEditMenu = QStringLiteral("&Edit");
+inline const QString kUndoNothing = QStringLiteral("&Undo");
+inline const QString kHistoryMenu = QStringLiteral("Operation &History...");
+inline const QString kHistoryTitle = QStringLiteral("Operation History");
+inline const QString kHistoryColumns[] = {QStringLiteral("When"), QStringLiteral("What"), QStringLiteral("Files"),
+                                          QStringLiteral("Folder")};
+inline const QString kHistoryUndone = QStringLiteral("%1 (undone)");
+inline const QString kHistoryUnfinished = QStringLiteral("%1 (unfinished)");
+inline const QString kHistoryUndoButton = QStringLiteral("&Undo Newest");
+inline const QString kHistoryClose = QStringLiteral("Close");
+inline const QString kHistoryEmpty = QStringLiteral("No operations have been recorded yet.");
+
 }  // namespace renvale::shell::texts

@@ -6,6 +6,8 @@
 #include "core/CoreTexts.h"
 #include "core/FileNameRules.h"
 #include "core/NaturalOrder.h"
+#include "core/PlanIdentity.h"
+#include "core/RecordedOperation.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/FileSystem.h"
 #include "platform/MessagePort.h"
@@ -83,7 +85,16 @@ bool TemplateManager::Delete(const std::optional<platform::FileName>& selected) 
                     texts::kConfirmDeleteTitle) != platform::MessageAnswer::Yes) {
     return false;
   }
-  const bool trashed = fs_.MoveToTrash(PathOf(selected->raw)) == platform::kNoError;
+  const QByteArray path = PathOf(selected->raw);
+  const core::OperationPlan plan{core::OperationKind::TemplateDelete, folder_, QDateTime::currentDateTimeUtc(),
+                                 {{core::StepKind::Trash, path, {}, core::IdentityOf(fs_, path, true)}}};
+  const core::RecordedOperation recorded(recorder_, plan);
+  if (recorded.Error() != platform::kNoError) {
+    messages_.Notify(core::texts::kPlanNotKept.arg(platform::ErrorDescription(recorded.Error())),
+                     platform::MessageIcon::Critical);
+    return false;
+  }
+  const bool trashed = fs_.MoveToTrash(path) == platform::kNoError;
   messages_.Notify(trashed ? texts::kTemplateTrashed : texts::kTemplateNotTrashed);
   return true;
 }

@@ -6,6 +6,7 @@
 #include <optional>
 #include <vector>
 
+#include "core/OperationRecorder.h"
 #include "core/TemplateFile.h"
 #include "platform/FileName.h"
 
@@ -40,12 +41,16 @@ class TemplateManager {
   // dialog starts afresh.
   bool Delete(const std::optional<platform::FileName>& selected);
 
+  // Where a deletion keeps its plan, so that Undo can bring the file back.
+  void SetRecorder(core::OperationRecorder* recorder) { recorder_ = recorder; }
+
  private:
   QByteArray PathOf(const QByteArray& name) const;
 
   platform::FileSystem& fs_;
   platform::MessagePort& messages_;
   QByteArray folder_;
+  core::OperationRecorder* recorder_ = nullptr;
 };
 
 }  // namespace renvale::shell

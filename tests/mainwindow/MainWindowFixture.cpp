@@ -33,7 +33,8 @@ shell::MainWindow& MainWindowFixture::Open(platform::FileSystem& fs) {
         return pickerAnswer;
       },
       [this] { return drives; },
-      [this] { return Folder(); }};
+      [this] { return Folder(); },
+      journal};
   window = std::make_unique<shell::MainWindow>(std::move(services));
   window->Start();
   return *window;

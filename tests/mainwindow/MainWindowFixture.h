@@ -44,6 +44,7 @@ class MainWindowFixture : public ::testing::Test {
   QString pickerAnswer;
   QString pickerTitle;
   std::vector<platform::Volume> drives;
+  fileops::Journal* journal = nullptr;  // passed to the windows Open makes
   std::unique_ptr<shell::MainWindow> window;
 };
 
