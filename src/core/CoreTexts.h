@@ -186,4 +186,10 @@ inline const QString kNoteUnchanged = QStringLiteral("The name does not change."
 inline const QString kNoteWaitsFor = QStringLiteral("Renamed after '%1' has left this name.");
 inline const QString kNoteTravelsWith = QStringLiteral("Renamed along with '%1'.");
 
+// ---- The journal ---------------------------------------------------------
+// Shown when the plan of a rename cannot be written: nothing is renamed,
+// because a rename that could not be undone after a crash is not made.
+inline const QString kPlanNotKept = QStringLiteral(
+    "The rename was not started: its plan could not be saved for Undo (%1).");
+
 }  // namespace renvale::core::texts

@@ -2,7 +2,9 @@
 
 #include <cerrno>
 
+#include "core/PlanIdentity.h"
 #include "platform/ErrorNumbers.h"
+#include "platform/FileNumbers.h"
 #include "platform/PathParts.h"
 
 namespace renvale::core {
@@ -52,6 +54,16 @@ int FileRenamer::CheckCompanionTargets(const QByteArray& oldName, const QByteArr
   const int error = setRenamer_.CheckCompanionTargets(folder_, head, finder_.Companions(oldName, newName));
   failureShown_ = error != 0;
   return error;
+}
+
+void FileRenamer::DescribeRename(const QByteArray& oldName, const QByteArray& newName, OperationPlan* plan) {
+  if (stableNumbers_ < 0) stableNumbers_ = platform::FileNumbersStable(folder_) ? 1 : 0;
+  std::vector<NamePair> pairs{NamePair{oldName, newName}};
+  for (const NamePair& companion : finder_.Companions(oldName, newName)) pairs.push_back(companion);
+  for (const NamePair& pair : pairs) {
+    plan->steps.push_back(PlanStep{StepKind::Rename, folder_ + pair.from, folder_ + pair.to,
+                                   IdentityOf(context_.fs, folder_ + pair.from, stableNumbers_ == 1)});
+  }
 }
 
 bool FileRenamer::HasSeparateEntries(const QByteArray& a, const QByteArray& b) {

@@ -6,6 +6,7 @@
 #include "core/FileSetFinder.h"
 #include "core/FileSetRenamer.h"
 #include "core/FolderIndex.h"
+#include "core/OperationPlan.h"
 #include "core/RenameContext.h"
 
 namespace renvale::core {
@@ -33,6 +34,10 @@ class FileRenamer {
   // its companions could follow, else the error, shown to the user.
   int CheckCompanionTargets(const QByteArray& oldName, const QByteArray& newName);
 
+  // Adds to `plan` the steps RenameFile(oldName, newName) would take, the
+  // companions of a set included, each with its file's identity now.
+  void DescribeRename(const QByteArray& oldName, const QByteArray& newName, OperationPlan* plan);
+
   // Removes a file of the folder that the caller has deleted.
   void Forget(const QByteArray& name) { index_.Remove(name); }
 
@@ -57,6 +62,7 @@ class FileRenamer {
   FileSetFinder finder_;
   FileSetRenamer setRenamer_;
   bool failureShown_ = false;
+  int stableNumbers_ = -1;  // FileNumbersStable of the folder, once asked
 };
 
 }  // namespace renvale::core

@@ -3,6 +3,7 @@
 #include "core/CoreTexts.h"
 #include "core/FileNameRules.h"
 #include "core/FileRenamer.h"
+#include "core/RecordedOperation.h"
 #include "core/RenameFailureTexts.h"
 #include "core/SeriesCounter.h"
 #include "core/ViewSeriesBox.h"
@@ -82,6 +83,14 @@ bool IndividualRename::CarryOut(const QString& newName) {
   // A change of letter case alone is renamed without asking.
   const bool caseOnly = newName.compare(file_.Display(), Qt::CaseInsensitive) == 0;
   const bool targetKnown = !caseOnly && context_.fs.Exists(folder_ + platform::FileName::TextToName(newName));
+  OperationPlan plan{OperationKind::Rename, folder_, QDateTime::currentDateTimeUtc(), {}};
+  renamer.DescribeRename(file_.raw, platform::FileName::TextToName(newName), &plan);
+  const RecordedOperation recorded(context_.recorder, plan);
+  if (recorded.Error() != 0) {
+    context_.messages.Notify(texts::kPlanNotKept.arg(platform::ErrorDescription(recorded.Error())),
+                             platform::MessageIcon::Critical);
+    return false;
+  }
   const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(file_, newName, targetKnown);
   switch (outcome.kind) {
     case OverwriteOutcome::Kind::Renamed:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/OperationRecorder.h"
 #include "core/RenameSession.h"
 #include "core/RenameView.h"
 #include "core/SettingsRecord.h"
@@ -18,6 +19,9 @@ struct RenameContext {
   platform::MessagePort& messages;
   platform::FileSystem& fs;
   TokenSource& tokens;
+  // Null where nothing is journaled (tests and benchmarks of the renames
+  // themselves).
+  OperationRecorder* recorder = nullptr;
 };
 
 }  // namespace renvale::core

@@ -213,3 +213,49 @@ inline QString ReportLine(const QString& from, const QString& to) {
 }
 
 }  // namespace renvale::fileops::transfer_text
+
+namespace renvale::fileops::texts {
+
+// ---- The journal of operations ------------------------------------------
+inline const QString kJournalTruncated = QStringLiteral(
+    "The record of an operation in '%1' is incomplete: it was cut short while being written.  It cannot be used "
+    "to undo or finish that operation.");
+inline const QString kJournalGarbled = QStringLiteral(
+    "The record of an operation in '%1' is damaged.  It cannot be used to undo or finish that operation.");
+inline const QString kJournalNewer = QStringLiteral(
+    "The record of an operation in '%1' was written by a newer version of Renvale.  This version cannot use it "
+    "to undo or finish that operation.");
+inline const QString kJournalSetAside = QStringLiteral("It has been kept aside as '%1'.");
+inline const QString kJournalNotSetAside = QStringLiteral("It could not be moved aside: %1");
+
+inline const QString kReplayPassedOver = QStringLiteral("'%1' was passed over: %2");
+inline const QString kReplayChanged =
+    QStringLiteral("it has been renamed, moved, replaced or deleted since.");
+inline const QString kReplayNotInTrash = QStringLiteral("the trash no longer holds it.");
+inline const QString kReplayCopyKept = QStringLiteral("the copy was kept.");
+inline const QString kUndoCopiesQuestion = QStringLiteral(
+    "Undoing this copy moves the %1 copied file(s) to the trash.  The originals stay where they are." "\r"
+    "Move the copies to the trash?");
+
+// ---- Undo, the history and recovery ---------------------------------------
+inline const QString kKindRename = QStringLiteral("Rename");
+inline const QString kKindBatchRename = QStringLiteral("Batch Rename");
+inline const QString kKindSearchReplace = QStringLiteral("Search & Replace");
+inline const QString kKindMove = QStringLiteral("Move");
+inline const QString kKindCopy = QStringLiteral("Copy");
+inline const QString kKindTrash = QStringLiteral("Delete to Trash");
+inline const QString kKindTemplateDelete = QStringLiteral("Template Delete");
+inline const QString kDescribeOne = QStringLiteral("%1 of %2 file");
+inline const QString kDescribeMany = QStringLiteral("%1 of %2 files");
+inline const QString kUndoCaption = QStringLiteral("Undo %1");
+inline const QString kUndoDone = QStringLiteral("Undo of %1: %2 file(s) were put back.");
+inline const QString kPassedOverHeading = QStringLiteral("These files were left as they are:");
+inline const QString kRecoveryTitle = QStringLiteral("Unfinished Operation");
+inline const QString kRecoveryQuestion = QStringLiteral(
+    "Renvale was stopped in the middle of %1 in '%2'." "\r"
+    "%3 file(s) were done, %4 were not yet done, %5 have changed since and will be left alone." "\r\r"
+    "Yes finishes the operation, No undoes what was done, Cancel decides later (Edit > Operation History...).");
+inline const QString kRecoveryFinished = QStringLiteral("The operation was finished: %1 more file(s) were done.");
+inline const QString kRecoveryUndone = QStringLiteral("The operation was undone: %1 file(s) were put back.");
+
+}  // namespace renvale::fileops::texts

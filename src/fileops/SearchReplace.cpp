@@ -3,6 +3,8 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "core/CoreTexts.h"
+#include "core/RecordedOperation.h"
 #include "fileops/FileopsTexts.h"
 #include "platform/ErrorNumbers.h"
 
@@ -110,11 +112,29 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
   // The folder is held for the whole run: events that run meanwhile may
   // change the window's folder, never the files being renamed.
   core::FileRenamer renamer(context_, context_.session.CurrentFolder, files);
+  const core::RecordedOperation recorded(context_.recorder, Plan(files, terms, renamer));
+  if (recorded.Error() != platform::kNoError) {
+    context_.messages.Notify(core::texts::kPlanNotKept.arg(platform::ErrorDescription(recorded.Error())),
+                             MessageIcon::Critical);
+    return;
+  }
   for (const platform::FileName& file : files) {
     if (ProcessFile(file, terms, renamer) == Step::Stop) return;
     if (progress < maximum) view_.SetProgress(++progress);
     view_.ProcessEvents();
   }
+}
+
+core::OperationPlan SearchReplace::Plan(const std::vector<platform::FileName>& files, const SearchTerms& terms,
+                                        core::FileRenamer& renamer) const {
+  core::OperationPlan plan{core::OperationKind::SearchReplace, renamer.Folder(), QDateTime::currentDateTimeUtc(),
+                           {}};
+  for (const platform::FileName& file : files) {
+    if (renamer.Sets().TravelsWithSelectedHead(file.raw)) continue;
+    const QByteArray newName = terms.Apply(file.raw);
+    if (newName != file.raw) renamer.DescribeRename(file.raw, newName, &plan);
+  }
+  return plan;
 }
 
 SearchReplace::Step SearchReplace::ProcessFile(const platform::FileName& file, const SearchTerms& terms,

@@ -31,6 +31,8 @@ class SearchReplace {
   enum class Step { Next, Stop };
 
   void RunOver(const SearchTerms& terms);
+  core::OperationPlan Plan(const std::vector<platform::FileName>& files, const SearchTerms& terms,
+                           core::FileRenamer& renamer) const;
   Step ProcessFile(const platform::FileName& file, const SearchTerms& terms, core::FileRenamer& renamer);
   Step Rename(const platform::FileName& file, const QByteArray& newName, core::FileRenamer& renamer,
               bool mayAsk);

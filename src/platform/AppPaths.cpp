@@ -26,6 +26,14 @@ QString DataFolder() {
   return folder;
 }
 
+QString StateFolder() {
+  QString base = qEnvironmentVariable("XDG_STATE_HOME");
+  if (base.isEmpty() || !QDir::isAbsolutePath(base)) base = QDir::homePath() + QStringLiteral("/.local/state");
+  const QString folder = base + QStringLiteral("/MorventSoftware/Renvale/");
+  QDir().mkpath(folder);
+  return folder;
+}
+
 QString HelpFilePath() { return QStringLiteral("qrc:/help/"); }
 
 }  // namespace renvale::platform

@@ -12,6 +12,11 @@ QByteArray CurrentDirectory();
 // $XDG_DATA_HOME/MorventSoftware/Renvale/ (created on first use).
 QString DataFolder();
 
+// The per-user folder for the operations' journals:
+// $XDG_STATE_HOME/MorventSoftware/Renvale/ (created on first use). Always on
+// this computer, never on the card being renamed.
+QString StateFolder();
+
 // Where the help pages live; the help window resolves topics against it.
 QString HelpFilePath();
 

@@ -16,6 +16,7 @@ struct FileInfo {
   bool isWritable = true;   // writable by this user (access(W_OK))
   qint64 size = 0;
   QDateTime modified;       // UTC
+  qint64 modifiedNs = 0;    // the same to the nanosecond, since the epoch
   QDateTime created;        // UTC; statx birth time, else the modification time
   // Which file this is: two paths reach the same file (or folder) exactly
   // when both numbers agree.

@@ -72,6 +72,7 @@ void FillFromStatx(const struct statx& sx, FileInfo* info) {
   info->inode = sx.stx_ino;
   info->size = static_cast<qint64>(sx.stx_size);
   info->modified = UtcFromTimestamp(sx.stx_mtime.tv_sec, sx.stx_mtime.tv_nsec);
+  info->modifiedNs = static_cast<qint64>(sx.stx_mtime.tv_sec) * 1000000000 + sx.stx_mtime.tv_nsec;
   // Many file systems (and older kernels) keep no birth time.
   info->created = (sx.stx_mask & STATX_BTIME) != 0
                       ? UtcFromTimestamp(sx.stx_btime.tv_sec, sx.stx_btime.tv_nsec)
@@ -84,6 +85,7 @@ void FillFromStat(const struct stat& st, FileInfo* info) {
   info->inode = st.st_ino;
   info->size = static_cast<qint64>(st.st_size);
   info->modified = UtcFromTimestamp(st.st_mtim.tv_sec, static_cast<quint32>(st.st_mtim.tv_nsec));
+  info->modifiedNs = static_cast<qint64>(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
   info->created = info->modified;
 }
 

@@ -35,6 +35,7 @@ void IsolateUserFolders() {
   setenv("XDG_CONFIG_HOME", (base + "/config").c_str(), 1);
   setenv("XDG_DATA_HOME", (base + "/data").c_str(), 1);
   setenv("XDG_CACHE_HOME", (base + "/cache").c_str(), 1);
+  setenv("XDG_STATE_HOME", (base + "/state").c_str(), 1);
   setenv("XDG_RUNTIME_DIR", base.c_str(), 1);
   // System-wide settings files must not leak into a test's defaults.
   setenv("XDG_CONFIG_DIRS", (base + "/no-system-config").c_str(), 1);

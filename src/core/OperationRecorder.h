@@ -1,0 +1,20 @@
+#pragma once
+
+#include "core/OperationPlan.h"
+
+namespace renvale::core {
+
+// Keeps each operation's plan where a later start finds it, so that an
+// operation cut short by a crash can be finished or taken back, and a
+// finished one undone. An operation calls Begin before its first change
+// and End however it ends.
+class OperationRecorder {
+ public:
+  virtual ~OperationRecorder() = default;
+  // Makes the plan durable; 0 or an error number. On an error the operation
+  // does not start: a change that could not be taken back is not made.
+  virtual int Begin(const OperationPlan& plan) = 0;
+  virtual void End() = 0;
+};
+
+}  // namespace renvale::core

@@ -1,0 +1,154 @@
+#include "fileops/Journal.h"
+
+#include <algorithm>
+
+#include "fileops/FileopsTexts.h"
+#include "fileops/JournalFormat.h"
+#include "platform/ErrorNumbers.h"
+
+namespace renvale::fileops {
+
+namespace {
+
+using State = JournalEntry::State;
+
+constexpr qint64 kMaxJournalBytes = 256 << 20;
+const QByteArray kTemporarySuffix = QByteArrayLiteral(".tmp");
+const QByteArray kDamaged = QByteArrayLiteral("damaged/");
+
+QByteArray Suffix(State state) {
+  switch (state) {
+    case State::Open:
+      return QByteArrayLiteral(".open");
+    case State::Done:
+      return QByteArrayLiteral(".done");
+    case State::Undone:
+      return QByteArrayLiteral(".undone");
+  }
+  return {};
+}
+
+bool StateOfName(const QByteArray& name, State* state) {
+  for (const State candidate : {State::Open, State::Done, State::Undone}) {
+    if (name.endsWith(Suffix(candidate))) {
+      *state = candidate;
+      return true;
+    }
+  }
+  return false;
+}
+
+QByteArray Stem(const QByteArray& path) { return path.left(path.lastIndexOf('.')); }
+
+}  // namespace
+
+Journal::Journal(platform::FileSystem& fs, const QByteArray& folder, platform::MessagePort& messages)
+    : fs_(fs), folder_(folder), messages_(messages) {}
+
+QByteArray Journal::NameFor(const core::OperationPlan& plan, int sequence) const {
+  return folder_ + QByteArray::number(plan.started.toMSecsSinceEpoch()).rightJustified(15, '0') + '-' +
+         QByteArray::number(sequence).rightJustified(4, '0');
+}
+
+// One stem per operation, whatever state its file is in.
+bool Journal::StemTaken(const QByteArray& stem) const {
+  if (fs_.Exists(stem + kTemporarySuffix)) return true;
+  for (const State state : {State::Open, State::Done, State::Undone}) {
+    if (fs_.Exists(stem + Suffix(state))) return true;
+  }
+  return false;
+}
+
+int Journal::Begin(const core::OperationPlan& plan) {
+  const QByteArray bytes = JournalFormat::Write(plan);
+  for (int sequence = 0; sequence < 10000; ++sequence) {
+    const QByteArray stem = NameFor(plan, sequence);
+    if (StemTaken(stem)) continue;
+    if (const int error = fs_.WriteWholeFile(stem + kTemporarySuffix, bytes)) return error;
+    const int error = fs_.RenameNoReplace(stem + kTemporarySuffix, stem + Suffix(State::Open));
+    if (error == platform::kFileAlreadyExists) {
+      fs_.RemoveFile(stem + kTemporarySuffix);
+      continue;
+    }
+    if (error != 0) {
+      fs_.RemoveFile(stem + kTemporarySuffix);
+      return error;
+    }
+    current_ = stem + Suffix(State::Open);
+    // The new name must outlive a power cut, not only the file's contents.
+    return fs_.FlushFileSystem(folder_);
+  }
+  return platform::kFileAlreadyExists;
+}
+
+void Journal::End() {
+  if (current_.isEmpty()) return;
+  fs_.RenameNoReplace(current_, Stem(current_) + Suffix(State::Done));
+  current_.clear();
+  Prune();
+}
+
+int Journal::Mark(JournalEntry& entry, State state) {
+  const QByteArray to = Stem(entry.path) + Suffix(state);
+  if (to == entry.path) return 0;
+  const int error = fs_.RenameNoReplace(entry.path, to);
+  if (error == 0) {
+    entry.path = to;
+    entry.state = state;
+  }
+  return error;
+}
+
+std::vector<JournalEntry> Journal::Entries() {
+  std::vector<QByteArray> names;
+  fs_.ListFiles(folder_, &names);
+  std::sort(names.begin(), names.end(), std::greater<>());
+  std::vector<JournalEntry> entries;
+  for (const QByteArray& name : names) {
+    if (name.endsWith(kTemporarySuffix) && folder_ + name != current_) {
+      fs_.RemoveFile(folder_ + name);
+      continue;
+    }
+    JournalEntry entry;
+    if (!StateOfName(name, &entry.state)) continue;
+    entry.path = folder_ + name;
+    QByteArray bytes;
+    const int error = fs_.ReadWholeFile(entry.path, kMaxJournalBytes, &bytes);
+    const JournalRead read = JournalFormat::Read(bytes.constData(), bytes.size());
+    if (error != 0 || read.status != JournalStatus::Ok) {
+      SetAside(name, static_cast<int>(read.status));
+      continue;
+    }
+    entry.plan = read.plan;
+    entries.push_back(entry);
+  }
+  return entries;
+}
+
+void Journal::SetAside(const QByteArray& name, int status) {
+  const QString shown = platform::FileName::NameToText(folder_ + name);
+  const QString aside = platform::FileName::NameToText(folder_ + kDamaged + name);
+  QString text = status == static_cast<int>(JournalStatus::Newer)     ? texts::kJournalNewer
+                 : status == static_cast<int>(JournalStatus::Truncated) ? texts::kJournalTruncated
+                                                                        : texts::kJournalGarbled;
+  const int error = fs_.RenameNoReplace(folder_ + name, folder_ + kDamaged + name);
+  text = text.arg(shown) + texts::kCr +
+         (error == 0 ? texts::kJournalSetAside.arg(aside) : texts::kJournalNotSetAside.arg(platform::ErrorDescription(error)));
+  messages_.Notify(text, platform::MessageIcon::Warning);
+}
+
+// Only finished plans go, by their names alone; an open one waits for the
+// person's decision.
+void Journal::Prune() {
+  std::vector<QByteArray> names;
+  fs_.ListFiles(folder_, &names);
+  std::sort(names.begin(), names.end(), std::greater<>());
+  size_t kept = 0;
+  for (const QByteArray& name : names) {
+    State state = State::Open;
+    if (!StateOfName(name, &state) || state == State::Open) continue;
+    if (++kept > kKept) fs_.RemoveFile(folder_ + name);
+  }
+}
+
+}  // namespace renvale::fileops

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QByteArray>
+#include <vector>
+
+#include "core/OperationRecorder.h"
+#include "platform/FileSystem.h"
+#include "platform/MessagePort.h"
+
+namespace renvale::fileops {
+
+// One operation as its journal file holds it.
+struct JournalEntry {
+  enum class State { Open, Done, Undone };
+  QByteArray path;  // the journal file
+  State state = State::Open;
+  core::OperationPlan plan;
+};
+
+// The journals of the operations, one file each in a folder of this
+// computer, shared by every program that changes names for the person.
+// A plan is written under a temporary name, flushed, and named "*.open":
+// that rename is the moment it counts. At the end it is renamed "*.done"
+// with no flush, because the disk itself tells a finished plan. The files
+// carry the start time in their names, so their order is their age.
+class Journal : public core::OperationRecorder {
+ public:
+  static constexpr size_t kKept = 200;
+
+  // `folder` ends in '/' and holds a "damaged/" folder for journals that
+  // cannot be read.
+  Journal(platform::FileSystem& fs, const QByteArray& folder, platform::MessagePort& messages);
+
+  int Begin(const core::OperationPlan& plan) override;
+  void End() override;
+
+  // Every journal, newest first. One that cannot be read (cut short,
+  // changed, or of a newer version) is moved to "damaged/" and told about
+  // once; a plan that never got its name is dropped, since nothing of it
+  // was done.
+  std::vector<JournalEntry> Entries();
+
+  // Records a new state for `entry` (a finished, undone or recovered plan).
+  int Mark(JournalEntry& entry, JournalEntry::State state);
+
+ private:
+  bool StemTaken(const QByteArray& stem) const;
+  QByteArray NameFor(const core::OperationPlan& plan, int sequence) const;
+  void SetAside(const QByteArray& name, int status);
+  void Prune();
+
+  platform::FileSystem& fs_;
+  QByteArray folder_;
+  platform::MessagePort& messages_;
+  QByteArray current_;  // the open journal of the running operation
+};
+
+}  // namespace renvale::fileops

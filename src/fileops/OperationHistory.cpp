@@ -1,0 +1,126 @@
+#include "fileops/OperationHistory.h"
+
+#include <QLocale>
+#include <algorithm>
+
+#include "fileops/FileopsTexts.h"
+#include "fileops/PlanOnDisk.h"
+
+namespace renvale::fileops {
+
+namespace {
+
+using State = JournalEntry::State;
+
+QString KindName(core::OperationKind kind) {
+  switch (kind) {
+    case core::OperationKind::Rename:
+      return texts::kKindRename;
+    case core::OperationKind::BatchRename:
+      return texts::kKindBatchRename;
+    case core::OperationKind::SearchReplace:
+      return texts::kKindSearchReplace;
+    case core::OperationKind::Move:
+      return texts::kKindMove;
+    case core::OperationKind::Copy:
+      return texts::kKindCopy;
+    case core::OperationKind::Trash:
+      return texts::kKindTrash;
+    case core::OperationKind::TemplateDelete:
+      return texts::kKindTemplateDelete;
+  }
+  return texts::kKindRename;
+}
+
+}  // namespace
+
+OperationHistory::OperationHistory(Journal& journal, platform::FileSystem& fs, platform::MessagePort& messages)
+    : journal_(journal), fs_(fs), messages_(messages) {}
+
+QString OperationHistory::Describe(const core::OperationPlan& plan) {
+  const int files = static_cast<int>(plan.steps.size());
+  const QString count = QLocale(QLocale::English, QLocale::UnitedStates).toString(files);
+  return (files == 1 ? texts::kDescribeOne : texts::kDescribeMany).arg(KindName(plan.kind), count);
+}
+
+std::vector<HistoryLine> OperationHistory::Lines() {
+  std::vector<HistoryLine> lines;
+  for (const JournalEntry& entry : journal_.Entries()) {
+    lines.push_back(HistoryLine{entry.plan.started, Describe(entry.plan), static_cast<int>(entry.plan.steps.size()),
+                                platform::FileName::NameToText(entry.plan.folder), entry.state == State::Undone});
+  }
+  return lines;
+}
+
+// An operation left open (the person chose to decide later) is undone like
+// a finished one: only what the disk shows done is taken back.
+std::vector<JournalEntry> OperationHistory::Undoable() {
+  std::vector<JournalEntry> entries = journal_.Entries();
+  entries.erase(std::remove_if(entries.begin(), entries.end(),
+                               [](const JournalEntry& entry) { return entry.state == State::Undone; }),
+                entries.end());
+  return entries;
+}
+
+QString OperationHistory::UndoCaption() {
+  const std::vector<JournalEntry> entries = Undoable();
+  return entries.empty() ? QString() : texts::kUndoCaption.arg(Describe(entries.front().plan));
+}
+
+bool OperationHistory::UndoNewest() {
+  std::vector<JournalEntry> entries = Undoable();
+  if (entries.empty()) return false;
+  JournalEntry& entry = entries.front();
+  const ReplayResult result = PlanReplay(fs_, messages_).Undo(entry.plan);
+  journal_.Mark(entry, State::Undone);
+  Report(texts::kUndoDone.arg(Describe(entry.plan)).arg(result.carriedOut), result);
+  return true;
+}
+
+void OperationHistory::RecoverUnfinished() {
+  for (JournalEntry& entry : journal_.Entries()) {
+    if (entry.state == State::Open) Recover(entry);
+  }
+}
+
+void OperationHistory::Recover(JournalEntry& entry) {
+  const std::vector<StepState> states = PlanOnDisk::States(fs_, entry.plan);
+  const auto count = [&states](StepState state) {
+    return static_cast<int>(std::count(states.begin(), states.end(), state));
+  };
+  const int done = count(StepState::Done);
+  const int notDone = count(StepState::NotDone);
+  if (notDone == 0 && count(StepState::Changed) == 0) {
+    journal_.Mark(entry, State::Done);
+    return;
+  }
+  if (done == 0 && count(StepState::Changed) == 0) {
+    journal_.Mark(entry, State::Undone);
+    return;
+  }
+  const QString text = texts::kRecoveryQuestion.arg(Describe(entry.plan),
+                                                    platform::FileName::NameToText(entry.plan.folder),
+                                                    QString::number(done), QString::number(notDone),
+                                                    QString::number(count(StepState::Changed)));
+  platform::Message question{text, texts::kRecoveryTitle, platform::MessageIcon::Question,
+                             platform::MessageButtons::YesNoCancel, platform::MessageAnswer::Cancel};
+  const platform::MessageAnswer answer = messages_.Show(question);
+  if (answer == platform::MessageAnswer::Yes) {
+    const ReplayResult result = PlanReplay(fs_, messages_).Finish(entry.plan);
+    journal_.Mark(entry, State::Done);
+    Report(texts::kRecoveryFinished.arg(result.carriedOut), result);
+  } else if (answer == platform::MessageAnswer::No) {
+    const ReplayResult result = PlanReplay(fs_, messages_).Undo(entry.plan);
+    journal_.Mark(entry, State::Undone);
+    Report(texts::kRecoveryUndone.arg(result.carriedOut), result);
+  }
+}
+
+void OperationHistory::Report(const QString& heading, const ReplayResult& result) {
+  QStringList lines{heading};
+  if (!result.passedOver.isEmpty()) lines << QString() << texts::kPassedOverHeading << result.passedOver;
+  messages_.Notify(lines.join(texts::kCr),
+                   result.passedOver.isEmpty() ? platform::MessageIcon::Information : platform::MessageIcon::Warning);
+}
+
+}  // namespace renvale::fileops

@@ -1,0 +1,76 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "fileops/Journal.h"
+#include "fileops/JournalFormat.h"
+#include "support/ScriptedMessagePort.h"
+
+namespace renvale::fileops {
+namespace {
+
+using State = JournalEntry::State;
+
+class JournalStore : public ::testing::Test {
+ protected:
+  JournalStore() { QDir().mkpath(dir.path() + "/damaged"); }
+
+  core::OperationPlan Plan(qint64 ms) {
+    return core::OperationPlan{core::OperationKind::Rename, "/card/", QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC),
+                               {{core::StepKind::Rename, "/card/a", "/card/b", {}}}};
+  }
+  void Put(const QString& name, const QByteArray& bytes) {
+    QFile file(dir.path() + '/' + name);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+  }
+
+  QTemporaryDir dir;
+  QByteArray folder = QFile::encodeName(dir.path()) + '/';
+  test::ScriptedMessagePort port;
+  Journal journal{platform::RealFileSystem(), folder, port};
+};
+
+TEST_F(JournalStore, PlansAreListedNewestFirstWithTheirStates) {
+  ASSERT_EQ(journal.Begin(Plan(2000)), 0);
+  journal.End();
+  ASSERT_EQ(journal.Begin(Plan(3000)), 0);  // a run that never ended
+  Put("000000000001000-0000.tmp", "half");  // killed before its plan counted
+  std::vector<JournalEntry> entries = journal.Entries();
+  ASSERT_EQ(entries.size(), 2u);
+  EXPECT_EQ(entries[0].state, State::Open);
+  EXPECT_EQ(entries[0].plan.started.toMSecsSinceEpoch(), 3000);
+  EXPECT_EQ(entries[1].state, State::Done);
+  EXPECT_EQ(journal.Mark(entries[1], State::Undone), 0);
+  EXPECT_EQ(journal.Entries()[1].state, State::Undone);
+  EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).size(), 2);
+  EXPECT_TRUE(port.messages.empty());
+}
+
+TEST_F(JournalStore, AnUnreadableJournalIsToldAboutAndKeptAside) {
+  const QByteArray good = JournalFormat::Write(Plan(1000));
+  const struct {
+    QByteArray bytes;
+    QString says;
+  } cases[] = {
+      {good.left(good.size() - 3), "is incomplete: it was cut short while being written."},
+      {QByteArray(good).replace("kind r", "kind b"), "is damaged."},
+      {QByteArray(good).replace("JOURNAL 1", "JOURNAL 7"), "was written by a newer version of Renvale."},
+  };
+  for (const auto& c : cases) {
+    Put("000000000001000-0000.done", c.bytes);
+    port.Clear();
+    EXPECT_TRUE(journal.Entries().empty());
+    const QString aside = dir.path() + "/damaged/000000000001000-0000.done";
+    ASSERT_EQ(port.messages.size(), 1u) << c.says.toStdString();
+    EXPECT_TRUE(port.Last().text.contains(c.says)) << port.Last().text.toStdString();
+    EXPECT_TRUE(port.Last().text.endsWith("It has been kept aside as '" + aside + "'."));
+    EXPECT_EQ(port.Last().icon, platform::MessageIcon::Warning);
+    EXPECT_TRUE(QFile::remove(aside));
+  }
+}
+
+}  // namespace
+}  // namespace renvale::fileops

@@ -1,0 +1,166 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <map>
+
+#include "core/PlanIdentity.h"
+#include "fileops/OperationHistory.h"
+#include "platform/ErrorNumbers.h"
+#include "support/ScriptedMessagePort.h"
+
+namespace renvale::fileops {
+namespace {
+
+using platform::MessageAnswer;
+using Files = std::map<QByteArray, QByteArray>;
+
+// Real files in a temporary folder; each holds its own first name, so a
+// test can tell which file ended where.
+class Undo : public ::testing::Test {
+ protected:
+  Undo() { QDir().mkpath(QFile::decodeName(state) + "damaged"); }
+
+  QByteArray Path(const QByteArray& name) const { return card + name; }
+  void Make(const QByteArray& name, const QByteArray& contents = {}) {
+    fs.WriteWholeFile(Path(name), contents.isEmpty() ? name : contents);
+  }
+  Files Folder() {
+    std::vector<QByteArray> names;
+    fs.ListFiles(card, &names);
+    Files files;
+    for (const QByteArray& name : names) fs.ReadWholeFile(Path(name), 1 << 20, &files[name]);
+    return files;
+  }
+  // Records a plan step for `from` as it is now, as an operation would.
+  void Step(core::StepKind kind, const QByteArray& from, const QByteArray& to) {
+    plan.steps.push_back({kind, Path(from), to.isEmpty() ? QByteArray() : Path(to),
+                          core::IdentityOf(fs, Path(from), true)});
+  }
+  void Record() {
+    ASSERT_EQ(journal.Begin(plan), 0);
+    journal.End();
+  }
+
+  QTemporaryDir dir;
+  QByteArray card = QFile::encodeName(dir.path()) + '/';
+  QByteArray state = QFile::encodeName(dir.path()) + "/.state/";
+  platform::FileSystem& fs = platform::RealFileSystem();
+  test::ScriptedMessagePort port;
+  Journal journal{fs, (QDir().mkpath(QFile::decodeName(state)), state), port};
+  OperationHistory history{journal, fs, port};
+  core::OperationPlan plan{core::OperationKind::SearchReplace, card, QDateTime::currentDateTimeUtc(), {}};
+};
+
+TEST_F(Undo, RenamesGoBackAndAFileRenamedAgainIsPassedOverAndListed) {
+  Make("a.jpg");
+  Make("c.jpg");
+  Step(core::StepKind::Rename, "a.jpg", "b.jpg");
+  Step(core::StepKind::Rename, "c.jpg", "d.jpg");
+  Record();
+  fs.RenameNoReplace(Path("a.jpg"), Path("b.jpg"));
+  fs.RenameNoReplace(Path("c.jpg"), Path("d.jpg"));
+  fs.RenameNoReplace(Path("d.jpg"), Path("e.jpg"));  // the person renamed it again
+  Make("c.jpg", "new");                                // and made a new c.jpg
+  EXPECT_EQ(history.UndoCaption(), "Undo Search & Replace of 2 files");
+  EXPECT_TRUE(history.UndoNewest());
+  EXPECT_EQ(Folder(), (Files{{"a.jpg", "a.jpg"}, {"c.jpg", "new"}, {"e.jpg", "c.jpg"}}));
+  EXPECT_EQ(port.Last().text, "Undo of Search & Replace of 2 files: 1 file(s) were put back.\r\r"
+                              "These files were left as they are:\r'" + dir.path() +
+                              "/d.jpg' was passed over: it has been renamed, moved, replaced or deleted since.");
+  EXPECT_EQ(history.UndoCaption(), "");
+  EXPECT_FALSE(history.UndoNewest());
+}
+
+TEST_F(Undo, TrashedFilesComeBackUnlessTheirNameIsTakenAgain) {
+  plan.kind = core::OperationKind::Trash;
+  Make("x.jpg");
+  Make("y.jpg");
+  Step(core::StepKind::Trash, "x.jpg", {});
+  Step(core::StepKind::Trash, "y.jpg", {});
+  Record();
+  ASSERT_EQ(fs.MoveToTrash(Path("x.jpg")), 0);
+  ASSERT_EQ(fs.MoveToTrash(Path("y.jpg")), 0);
+  Make("y.jpg", "other");
+  EXPECT_TRUE(history.UndoNewest());
+  EXPECT_EQ(Folder(), (Files{{"x.jpg", "x.jpg"}, {"y.jpg", "other"}}));
+  EXPECT_TRUE(port.Last().text.endsWith("/y.jpg' was passed over: it has been renamed, moved, replaced or deleted since."))
+      << port.Last().text.toStdString();
+}
+
+// The copies go to the trash only after a Yes whose default is No; a copy
+// changed since is kept either way.
+TEST_F(Undo, CopiesGoToTheTrashAfterAQuestion) {
+  plan.kind = core::OperationKind::Copy;
+  QDir().mkpath(dir.path() + "/to");
+  Make("p.jpg");
+  Make("q.jpg");
+  Step(core::StepKind::Copy, "p.jpg", "to/p.jpg");
+  Step(core::StepKind::Copy, "q.jpg", "to/q.jpg");
+  Record();
+  fs.CopyFile(Path("p.jpg"), Path("to/p.jpg"), false);
+  fs.CopyFile(Path("q.jpg"), Path("to/q.jpg"), false);
+  fs.WriteWholeFile(Path("to/q.jpg"), "edited");
+  port.Script(MessageAnswer::Yes);
+  EXPECT_TRUE(history.UndoNewest());
+  EXPECT_EQ(port.messages[0].text, "Undoing this copy moves the 1 copied file(s) to the trash.  The originals stay "
+                                   "where they are.\rMove the copies to the trash?");
+  EXPECT_EQ(port.messages[0].defaultButton, MessageAnswer::No);
+  EXPECT_FALSE(fs.Exists(Path("to/p.jpg")));
+  EXPECT_TRUE(fs.Exists(Path("to/q.jpg")));
+  EXPECT_EQ(Folder(), (Files{{"p.jpg", "p.jpg"}, {"q.jpg", "q.jpg"}}));
+}
+
+// A swap through a temporary name, cut after each step: the disk tells
+// "b as it was" from "a, renamed to b", so finishing swaps and undoing
+// restores wherever the cut fell.
+TEST_F(Undo, ASwapCutShortIsFinishedOrUndoneWhereverItStopped) {
+  for (size_t cut = 0; cut <= 3; ++cut) {
+    for (const bool finish : {true, false}) {
+      for (const auto& [name, contents] : Folder()) fs.RemoveFile(Path(name));
+      plan.steps.clear();
+      Make("a.jpg", "AAA");
+      Make("b.jpg", "BBBB");
+      Step(core::StepKind::Rename, "a.jpg", ".t");
+      Step(core::StepKind::Rename, "b.jpg", "a.jpg");
+      plan.steps.push_back({core::StepKind::Rename, Path(".t"), Path("b.jpg"), plan.steps[0].identity});
+      for (size_t i = 0; i < cut; ++i) fs.RenameNoReplace(plan.steps[i].from, plan.steps[i].to);
+      PlanReplay replay(fs, port);
+      const ReplayResult result = finish ? replay.Finish(plan) : replay.Undo(plan);
+      EXPECT_TRUE(result.passedOver.isEmpty()) << cut;
+      EXPECT_EQ(Folder(), finish ? (Files{{"a.jpg", "BBBB"}, {"b.jpg", "AAA"}})
+                                 : (Files{{"a.jpg", "AAA"}, {"b.jpg", "BBBB"}}))
+          << "cut after " << cut << (finish ? ", finished" : ", undone");
+    }
+  }
+}
+
+TEST_F(Undo, AtStartARunCutShortIsOfferedAndARunDoneOrNotBegunIsSettledQuietly) {
+  Make("a.jpg");
+  Make("c.jpg");
+  Step(core::StepKind::Rename, "a.jpg", "b.jpg");
+  Step(core::StepKind::Rename, "c.jpg", "d.jpg");
+  ASSERT_EQ(journal.Begin(plan), 0);  // never ended: killed
+  fs.RenameNoReplace(Path("a.jpg"), Path("b.jpg"));
+  port.Script(MessageAnswer::Cancel);
+  history.RecoverUnfinished();
+  ASSERT_EQ(port.messages.size(), 1u);
+  EXPECT_EQ(port.Last().text, "Renvale was stopped in the middle of Search & Replace of 2 files in '" + dir.path() +
+                                  "/'.\r1 file(s) were done, 1 were not yet done, 0 have changed since and will be "
+                                  "left alone.\r\rYes finishes the operation, No undoes what was done, Cancel "
+                                  "decides later (Edit > Operation History...).");
+  EXPECT_EQ(port.Last().defaultButton, MessageAnswer::Cancel);
+  port.Script(MessageAnswer::Yes);
+  history.RecoverUnfinished();
+  EXPECT_EQ(Folder(), (Files{{"b.jpg", "a.jpg"}, {"d.jpg", "c.jpg"}}));
+  EXPECT_EQ(port.Last().text, "The operation was finished: 1 more file(s) were done.");
+  port.Clear();
+  ASSERT_EQ(journal.Begin(plan), 0);  // done entirely before the kill
+  history.RecoverUnfinished();
+  EXPECT_TRUE(port.messages.empty());
+  EXPECT_EQ(journal.Entries().front().state, JournalEntry::State::Done);
+}
+
+}  // namespace
+}  // namespace renvale::fileops
