@@ -3,9 +3,11 @@
 #include "core/BatchBaseCheck.h"
 #include "core/CoreTexts.h"
 #include "core/FileNameRules.h"
+#include "core/RecordedOperation.h"
 #include "core/RenameFailureTexts.h"
 #include "core/SeriesCounter.h"
 #include "core/ViewSeriesBox.h"
+#include "platform/ErrorNumbers.h"
 
 namespace renvale::core {
 
@@ -105,6 +107,12 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, const BatchNamin
                                  : NameBatch(context_, renamer, files, base, view.RandomSeries(), false);
   aside_.clear();
   const std::vector<Turn> turns = Turns(naming, renamer);
+  const RecordedOperation recorded(context_.recorder, Plan(turns, naming, renamer));
+  if (recorded.Error() != 0) {
+    context_.messages.Notify(texts::kPlanNotKept.arg(platform::ErrorDescription(recorded.Error())),
+                             platform::MessageIcon::Critical);
+    return Ending::Stopped;
+  }
   for (size_t i = 0; i < turns.size(); ++i) {
     ShowProgress(i, turns.size());
     if (TakeTurn(turns[i], naming, renamer, lastNewName) == Step::Stop) {
@@ -156,6 +164,35 @@ std::vector<BatchRename::Turn> BatchRename::Turns(const BatchNaming& naming, Fil
     }
   }
   return turns;
+}
+
+// The renames in the order the turns take them, hidden names included, so
+// that Undo and the recovery after a crash find each file where the batch
+// left it. Identities are taken now, before any file has moved.
+OperationPlan BatchRename::Plan(const std::vector<Turn>& turns, const BatchNaming& naming,
+                                FileRenamer& renamer) const {
+  const QByteArray& folder = renamer.Folder();
+  OperationPlan plan{OperationKind::BatchRename, folder, QDateTime::currentDateTimeUtc(), {}};
+  std::vector<PlanStep> hidden;  // the steps to hidden names so far
+  for (const Turn& turn : turns) {
+    const NamedFile& named = naming.files[turn.file];
+    if (named.travels || named.newName == named.file.Display()) continue;
+    for (const PlannedRename& aside : turn.asides) {
+      const size_t first = plan.steps.size();
+      renamer.DescribeRename(aside.head.from, aside.head.to, &plan);
+      hidden.insert(hidden.end(), plan.steps.begin() + static_cast<std::ptrdiff_t>(first), plan.steps.end());
+    }
+    OperationPlan own;
+    renamer.DescribeRename(named.file.raw, platform::FileName::TextToName(named.newName), &own);
+    for (PlanStep& step : own.steps) {
+      // A file that stepped aside leaves from its hidden name.
+      for (const PlanStep& aside : hidden) {
+        if (aside.from == step.from) step.from = aside.to;
+      }
+      plan.steps.push_back(std::move(step));
+    }
+  }
+  return plan;
 }
 
 BatchRename::Step BatchRename::TakeTurn(const Turn& turn, const BatchNaming& naming, FileRenamer& renamer,

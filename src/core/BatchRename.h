@@ -49,6 +49,7 @@ class BatchRename {
                   const std::vector<platform::FileName>& files) const;
   Ending RenameAll(const QString& base, const BatchNaming* prepared, QString* lastNewName);
   std::vector<Turn> Turns(const BatchNaming& naming, FileRenamer& renamer) const;
+  OperationPlan Plan(const std::vector<Turn>& turns, const BatchNaming& naming, FileRenamer& renamer) const;
   Step TakeTurn(const Turn& turn, const BatchNaming& naming, FileRenamer& renamer, QString* lastNewName);
   Step StepAside(const PlannedRename& aside, FileRenamer& renamer);
   void PutBackAside(FileRenamer& renamer);
