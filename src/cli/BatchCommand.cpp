@@ -96,9 +96,10 @@ bool BatchCommand::Resolve(const std::vector<QByteArray>& files) {
     const qsizetype slash = path.lastIndexOf('/');
     const QByteArray folder = path.left(slash + 1);
     auto group = std::find_if(groups_.begin(), groups_.end(), [&](const Group& g) { return g.folder == folder; });
-    if (group == groups_.end()) group = groups_.insert(groups_.end(), Group{folder, {}, {}});
+    if (group == groups_.end()) group = groups_.insert(groups_.end(), Group{folder, {}, {}, {}});
     group->files.push_back(platform::FileName{path.mid(slash + 1)});
     group->given.push_back(given);
+    group->before.push_back(info);
   }
   return true;
 }
@@ -175,10 +176,9 @@ int BatchCommand::RunName(const BatchArguments& args) {
   if (args.failOnClash && ClashFound(rows)) return kSomeSkipped;
   rows.clear();
   for (const auto& run : runs) {
-    run->before = Identities(run->group);
     core::BatchRename(Context(run->session, run->view)).StartBatchRename(&run->preview.naming);
     std::vector<OutputRow> groupRows = Rows(*run);
-    Settle(run->group, run->before, &groupRows);
+    Settle(run->group, &groupRows);
     for (OutputRow& row : groupRows) rows.push_back(std::move(row));
     if (port_.failed) break;  // the batch stopped at a failure; so does the run
   }
@@ -228,7 +228,6 @@ int BatchCommand::RunReplace(const BatchArguments& args) {
     core::RenameSession session;
     HeadlessRenameView view({}, group.files, {});
     Select(session, group);
-    const std::vector<platform::FileInfo> before = Identities(group);
     QuietSearchView quiet;
     fileops::SearchReplace(Context(session, view), quiet).Execute(terms);
     // The dialog's closing notice; here each file's line says it.
@@ -236,7 +235,7 @@ int BatchCommand::RunReplace(const BatchArguments& args) {
                                   fileops::texts::kNothingMatched + fileops::texts::kLf + fileops::texts::kCheckTerms}) {
       port_.lines.removeAll(texts::kErrorPrefix + HeadlessMessagePort::OneLine(notice));
     }
-    Settle(group, before, &planned[g]);
+    Settle(group, &planned[g]);
     rows.insert(rows.end(), planned[g].begin(), planned[g].end());
     if (port_.failed) break;
   }
@@ -245,18 +244,9 @@ int BatchCommand::RunReplace(const BatchArguments& args) {
 
 // ---- outcome ---------------------------------------------------------------
 
-std::vector<platform::FileInfo> BatchCommand::Identities(const Group& group) {
-  std::vector<platform::FileInfo> infos(group.files.size());
-  for (size_t i = 0; i < group.files.size(); ++i) {
-    services_.fs.Stat(group.folder + group.files[i].raw, &infos[i]);
-  }
-  return infos;
-}
-
 // Whether a file got its name is read from the disk: the file that was
 // there before is the one now under the new name.
-void BatchCommand::Settle(const Group& group, const std::vector<platform::FileInfo>& before,
-                          std::vector<OutputRow>* rows) {
+void BatchCommand::Settle(const Group& group, std::vector<OutputRow>* rows) {
   for (size_t i = 0; i < rows->size(); ++i) {
     OutputRow& row = (*rows)[i];
     if (row.newName == row.oldName) {
@@ -265,7 +255,7 @@ void BatchCommand::Settle(const Group& group, const std::vector<platform::FileIn
     }
     platform::FileInfo now;
     const bool there = services_.fs.Stat(group.folder + platform::FileName::TextToName(row.newName), &now) == 0;
-    row.status = there && SameFile(now, before[i]) ? OutputRow::Status::Renamed : OutputRow::Status::Skipped;
+    row.status = there && SameFile(now, group.before[i]) ? OutputRow::Status::Renamed : OutputRow::Status::Skipped;
   }
 }
 

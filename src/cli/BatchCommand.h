@@ -43,6 +43,7 @@ class BatchCommand {
     QByteArray folder;
     std::vector<platform::FileName> files;
     std::vector<QByteArray> given;
+    std::vector<platform::FileInfo> before;  // each file as found, to know it again after the run
   };
   // A group's batch from names to outcome.
   struct GroupRun {
@@ -52,7 +53,6 @@ class BatchCommand {
     core::RenameSession session;
     HeadlessRenameView view;
     core::BatchPreview preview;
-    std::vector<platform::FileInfo> before;
   };
 
   bool Resolve(const std::vector<QByteArray>& files);
@@ -68,8 +68,7 @@ class BatchCommand {
   int RunHistory(const BatchArguments& args);
   int RunUndo(const BatchArguments& args);
 
-  std::vector<platform::FileInfo> Identities(const Group& group);
-  void Settle(const Group& group, const std::vector<platform::FileInfo>& before, std::vector<OutputRow>* rows);
+  void Settle(const Group& group, std::vector<OutputRow>* rows);
   int Report(const std::vector<OutputRow>& rows, bool dryRun, bool json);
   bool ClashFound(const std::vector<OutputRow>& rows);
   void FlushMessages();
