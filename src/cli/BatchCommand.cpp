@@ -1,8 +1,8 @@
 #include "cli/BatchCommand.h"
 
-#include <QTimeZone>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <algorithm>
 #include <memory>
 
 #include "cli/CliTexts.h"
@@ -16,7 +16,6 @@
 #include "fileops/PlanReplay.h"
 #include "fileops/SearchReplace.h"
 #include "fileops/SearchTerms.h"
-#include "platform/PathParts.h"
 
 namespace renvale::cli {
 

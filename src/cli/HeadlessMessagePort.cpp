@@ -29,15 +29,11 @@ MessageAnswer HeadlessMessagePort::Show(const platform::Message& message) {
     case MessageButtons::YesNo:
       // Yes loses a file only where No is the default; the base-name
       // warnings have no default and are accepted.
-      if (message.defaultButton == MessageAnswer::No) {
-        ++declined;
-        return MessageAnswer::No;
-      }
+      if (message.defaultButton == MessageAnswer::No) return MessageAnswer::No;
       lines << texts::kWarningPrefix + OneLine(message.text);
       return MessageAnswer::Yes;
     case MessageButtons::YesNoCancel:
       // Replace a file outside the batch? Never: that one file is skipped.
-      ++declined;
       return MessageAnswer::No;
   }
   return MessageAnswer::Cancel;

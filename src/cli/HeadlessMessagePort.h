@@ -20,8 +20,6 @@ class HeadlessMessagePort : public platform::MessagePort {
   // warnings for standard error, and plain information (an undo's result).
   QStringList lines;
   QStringList notices;
-  // How many replacements were declined.
-  int declined = 0;
   // Set by a critical message: an error, not a mere skip.
   bool failed = false;
 
