@@ -1,5 +1,7 @@
 #include "core/BatchRename.h"
 
+#include <optional>
+
 #include "core/BatchBaseCheck.h"
 #include "core/CoreTexts.h"
 #include "core/FileNameRules.h"
@@ -107,9 +109,11 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, const BatchNamin
                                  : NameBatch(context_, renamer, files, base, view.RandomSeries(), false);
   aside_.clear();
   const std::vector<Turn> turns = Turns(naming, renamer);
-  const RecordedOperation recorded(context_.recorder, Plan(turns, naming, renamer));
-  if (recorded.Error() != 0) {
-    context_.messages.Notify(texts::kPlanNotKept.arg(platform::ErrorDescription(recorded.Error())),
+  // The plan costs a look at every file, so it is made only where it is kept.
+  std::optional<RecordedOperation> recorded;
+  if (context_.recorder != nullptr) recorded.emplace(context_.recorder, Plan(turns, naming, renamer));
+  if (recorded && recorded->Error() != 0) {
+    context_.messages.Notify(texts::kPlanNotKept.arg(platform::ErrorDescription(recorded->Error())),
                              platform::MessageIcon::Critical);
     return Ending::Stopped;
   }
