@@ -1,11 +1,15 @@
 #include "core/BatchRename.h"
 
+#include <optional>
+
 #include "core/BatchBaseCheck.h"
 #include "core/CoreTexts.h"
 #include "core/FileNameRules.h"
+#include "core/RecordedOperation.h"
 #include "core/RenameFailureTexts.h"
 #include "core/SeriesCounter.h"
 #include "core/ViewSeriesBox.h"
+#include "platform/ErrorNumbers.h"
 
 namespace renvale::core {
 
@@ -104,14 +108,22 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, const BatchNamin
   seriesTaken_ = false;
   // A preview's names are the names given, random numbers included.
   const bool usePrepared = prepared != nullptr && StillValid(*prepared, base, files);
-  const Ending ending = usePrepared ? RenamePlanned(*prepared, renamer, lastNewName)
-                                    : RenameAsNamed(files, base, renamer, lastNewName);
+  // The journal keeps a batch's whole plan before its first rename, so
+  // there every name is worked out first; without one, each file is named
+  // at its turn and reading stays ahead of renaming.
+  std::optional<BatchNaming> named;
+  if (!usePrepared && context_.recorder != nullptr) {
+    named.emplace(NameBatch(context_, renamer, files, base, view.RandomSeries(), false, random_));
+  }
+  const BatchNaming* naming = usePrepared ? prepared : named ? &*named : nullptr;
+  const Ending ending = naming != nullptr ? RenamePlanned(*naming, renamer, lastNewName)
+                                          : RenameAsNamed(files, base, renamer, lastNewName);
   if (ending == Ending::Stopped) {
     PutBackAside(renamer);
     return ending;
   }
   ShowProgress(files.size(), files.size());
-  if (seriesTaken_) view.SetSeriesText(usePrepared ? prepared->seriesAtEnd : finalSeries_);
+  if (seriesTaken_) view.SetSeriesText(naming != nullptr ? naming->seriesAtEnd : finalSeries_);
   return ending;
 }
 
@@ -153,13 +165,6 @@ bool BatchRename::MustWait(const NamedFile& named, const FoldedNames& held, cons
   return false;
 }
 
-BatchRename::Ending BatchRename::RenamePlanned(const BatchNaming& naming, FileRenamer& renamer,
-                                               QString* lastNewName) {
-  for (const PlannedTurn& turn : Turns(naming, renamer)) {
-    if (TakeTurn(turn.asides, naming.files[turn.file], renamer, lastNewName) == Step::Stop) return Ending::Stopped;
-  }
-  return Ending::Finished;
-}
 
 // Files keep list order, except that the files that get new names take
 // their places among themselves in the order of the plan.
@@ -176,6 +181,53 @@ std::vector<PlannedTurn> BatchRename::Turns(const BatchNaming& naming, FileRenam
   const RenamePlan plan =
       PlanRenames(moves, [&renamer](const QByteArray& name) { return renamer.Index().Contains(name); });
   return TurnsInListOrder(naming.files.size(), moveFile, plan);
+}
+
+// Where a journal keeps the plan, it is handed over before the first
+// rename; a plan that cannot be kept stops the batch before anything changes.
+BatchRename::Ending BatchRename::RenamePlanned(const BatchNaming& naming, FileRenamer& renamer,
+                                                QString* lastNewName) {
+  const std::vector<PlannedTurn> turns = Turns(naming, renamer);
+  std::optional<RecordedOperation> recorded;
+  if (context_.recorder != nullptr) recorded.emplace(context_.recorder, Plan(turns, naming, renamer));
+  if (recorded && recorded->Error() != 0) {
+    context_.messages.Notify(texts::kPlanNotKept.arg(platform::ErrorDescription(recorded->Error())),
+                             platform::MessageIcon::Critical);
+    return Ending::Stopped;
+  }
+  for (const PlannedTurn& turn : turns) {
+    if (TakeTurn(turn.asides, naming.files[turn.file], renamer, lastNewName) == Step::Stop) return Ending::Stopped;
+  }
+  return Ending::Finished;
+}
+
+// The renames in the order the turns take them, hidden names included, so
+// that Undo and the recovery after a crash find each file where the batch
+// left it. Identities are taken now, before any file has moved.
+OperationPlan BatchRename::Plan(const std::vector<PlannedTurn>& turns, const BatchNaming& naming,
+                                FileRenamer& renamer) const {
+  const QByteArray& folder = renamer.Folder();
+  OperationPlan plan{OperationKind::BatchRename, folder, QDateTime::currentDateTimeUtc(), {}};
+  std::vector<PlanStep> hidden;  // the steps to hidden names so far
+  for (const PlannedTurn& turn : turns) {
+    const NamedFile& named = naming.files[turn.file];
+    if (named.travels || named.newName == named.file.Display()) continue;
+    for (const PlannedRename& aside : turn.asides) {
+      const size_t first = plan.steps.size();
+      renamer.DescribeRename(aside.head.from, aside.head.to, &plan);
+      hidden.insert(hidden.end(), plan.steps.begin() + static_cast<std::ptrdiff_t>(first), plan.steps.end());
+    }
+    OperationPlan own;
+    renamer.DescribeRename(named.file.raw, platform::FileName::TextToName(named.newName), &own);
+    for (PlanStep& step : own.steps) {
+      // A file that stepped aside leaves from its hidden name.
+      for (const PlanStep& aside : hidden) {
+        if (aside.from == step.from) step.from = aside.to;
+      }
+      plan.steps.push_back(std::move(step));
+    }
+  }
+  return plan;
 }
 
 BatchRename::Step BatchRename::TakeTurn(const std::vector<PlannedRename>& asides, const NamedFile& named,

@@ -53,6 +53,7 @@ class BatchRename {
   std::vector<PlannedTurn> Turns(const BatchNaming& naming, FileRenamer& renamer) const;
   Step TakeTurn(const std::vector<PlannedRename>& asides, const NamedFile& named, FileRenamer& renamer,
                 QString* lastNewName);
+  OperationPlan Plan(const std::vector<PlannedTurn>& turns, const BatchNaming& naming, FileRenamer& renamer) const;
   Step StepAside(const PlannedRename& aside, FileRenamer& renamer);
   void PutBackAside(FileRenamer& renamer);
   void PutBack(const NamePair& aside, FileRenamer& renamer);

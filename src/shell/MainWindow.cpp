@@ -50,7 +50,7 @@
 #include "shell/NamePreviewDialog.h"
 #include "shell/OptionsDialog.h"
 #include "shell/SandR.h"
-#include "shell/MetadataTokenSource.h"
+#include "fileops/MetadataTokenSource.h"
 #include "shell/NamePreviewDialog.h"
 #include "shell/PreviewPane.h"
 #include "shell/FileListModel.h"
@@ -230,7 +230,7 @@ void MainWindow::BuildComposeControllers() {
 // never outlive the operation that read them.
 template <typename Operation, typename Action>
 void MainWindow::RunRename(Action action) {
-  MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
+  fileops::MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
   const core::RenameContext context{
       session_, settings_, renameView_, services_.messages, services_.fs, tokens, services_.journal};
   Operation operation(context);
@@ -253,7 +253,7 @@ void MainWindow::ConnectRenameButtons() {
   connect(ui_.Command4, &QPushButton::clicked, this,
           [this] { RunRename<fileops::DeleteToTrash>([](auto& del) { del.DeleteSelected(); }); });
   connect(ui_.FSR, &QAction::triggered, this, [this] {
-    MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
+    fileops::MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
     SandR::Open({session_, settings_, renameView_, services_.messages, services_.fs, tokens, services_.journal},
                 this);
   });
@@ -436,7 +436,7 @@ void MainWindow::PreviewNewNames() {
   if (session_.Busy || !session_.BatchMode) return;
   core::BatchPreview preview;
   {
-    MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
+    fileops::MetadataTokenSource tokens(services_.fs, services_.messages, settings_);
     const core::RenameContext context{session_, settings_, renameView_, services_.messages, services_.fs, tokens};
     QApplication::setOverrideCursor(Qt::WaitCursor);
     preview = core::PreviewBatch(context);

@@ -14,7 +14,7 @@ class FileSystem;
 class MessagePort;
 }  // namespace renvale::platform
 
-namespace renvale::shell {
+namespace renvale::fileops {
 
 // The renames' file values, read with the EXIF and ID3 readers. A batch asks
 // for several tokens of one file in a row, so each file's EXIF block is read
@@ -48,4 +48,4 @@ class MetadataTokenSource : public core::TokenSource {
   QStringList* sink_ = nullptr;
 };
 
-}  // namespace renvale::shell
+}  // namespace renvale::fileops

@@ -1,4 +1,4 @@
-#include "shell/MetadataTokenSource.h"
+#include "fileops/MetadataTokenSource.h"
 
 #include "core/TokenExpansion.h"
 #include "metadata/mdlID3.h"
@@ -6,7 +6,7 @@
 #include "platform/FileSystem.h"
 #include "platform/MessagePort.h"
 
-namespace renvale::shell {
+namespace renvale::fileops {
 
 const metadata::ExifTokenValues& MetadataTokenSource::Values(const QByteArray& folder,
                                                            const platform::FileName& file) {
@@ -67,4 +67,4 @@ core::Id3Values MetadataTokenSource::Id3(const QByteArray& folder, const platfor
   return {values.title, values.artist, values.album, values.track};
 }
 
-}  // namespace renvale::shell
+}  // namespace renvale::fileops

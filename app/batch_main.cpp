@@ -1,0 +1,44 @@
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTextStream>
+#include <cstdio>
+
+#include "cli/BatchArguments.h"
+#include "cli/BatchCommand.h"
+#include "core/SettingsStore.h"
+#include "fileops/Journal.h"
+#include "platform/AppPaths.h"
+#include "platform/FileSystem.h"
+#include "platform/QtSettingsStorage.h"
+
+int main(int argc, char** argv) {
+  using namespace renvale;
+  // Qt Core only: the tool runs where there is no display at all.
+  QCoreApplication app(argc, argv);
+  QCoreApplication::setOrganizationName(QStringLiteral("MorventSoftware"));
+  QCoreApplication::setApplicationName(QStringLiteral("Renvale"));
+
+  // The arguments as bytes: a file name on a card need not be valid UTF-8.
+  std::vector<QByteArray> args;
+  for (int i = 1; i < argc; ++i) args.emplace_back(argv[i]);
+  const cli::BatchArguments parsed = cli::ParseBatchArguments(args);
+
+  // The window's settings, only read: the window keeps no series number
+  // between batches, so a batch here has nothing to write back either.
+  platform::QtSettingsStorage storage;
+  core::SettingsRecord settings;
+  core::SettingsStore(storage).LoadSettings(settings);
+
+  QTextStream out(stdout);
+  QTextStream err(stderr);
+  cli::HeadlessMessagePort journalMessages;
+  platform::FileSystem& fs = platform::RealFileSystem();
+  QDir().mkpath(platform::StateFolder() + QStringLiteral("damaged"));
+  fileops::Journal journal(fs, QFile::encodeName(platform::StateFolder()), journalMessages);
+  cli::BatchServices services{fs, settings, &journal, platform::CurrentDirectory()};
+  const int status = cli::BatchCommand(services, out, err).Run(parsed);
+  // A journal the window could not read either is set aside and told about.
+  for (const QString& line : std::as_const(journalMessages.lines)) err << line << '\n';
+  return status;
+}

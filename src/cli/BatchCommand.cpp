@@ -1,0 +1,360 @@
+#include "cli/BatchCommand.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <algorithm>
+#include <memory>
+
+#include "cli/CliTexts.h"
+#include "core/BatchRename.h"
+#include "core/CoreTexts.h"
+#include "core/FileSelection.h"
+#include "core/SeriesCounter.h"
+#include "core/ViewSeriesBox.h"
+#include "fileops/FileopsTexts.h"
+#include "fileops/OperationHistory.h"
+#include "fileops/PlanReplay.h"
+#include "fileops/SearchReplace.h"
+#include "fileops/SearchTerms.h"
+
+namespace renvale::cli {
+
+namespace {
+
+// Search and replace reports in a results window; here the outcome is read
+// from the disk instead, so nothing of it is kept.
+class QuietSearchView : public fileops::SearchReplaceView {
+ public:
+  void SetRunning(bool) override {}
+  void SetProgressMaximum(int) override {}
+  void SetProgress(int) override {}
+  void ProcessEvents() override {}
+  void ShowResults(const QString&) override {}
+};
+
+bool SameFile(const platform::FileInfo& a, const platform::FileInfo& b) {
+  return a.device == b.device && a.inode == b.inode;
+}
+
+// A note saying the file would not get its name because the name is taken.
+bool IsClashNote(const QString& note) {
+  static const QString sameName = core::texts::kNoteSameNewName.section(QLatin1Char('%'), 0, 0);
+  return note == core::texts::kNoteExistingFile || note.startsWith(sameName);
+}
+
+QByteArray Stem(const QByteArray& journalPath) {
+  QByteArray name = journalPath.mid(journalPath.lastIndexOf('/') + 1);
+  return name.left(name.indexOf('.'));
+}
+
+}  // namespace
+
+BatchCommand::BatchCommand(const BatchServices& services, QTextStream& out, QTextStream& err)
+    : services_(services), out_(out), err_(err), tokens_(services.fs, port_, services.settings) {}
+
+int BatchCommand::Run(const BatchArguments& args) {
+  if (!args.error.isEmpty()) return Fail(args.error);
+  switch (args.action) {
+    case Action::Help:
+      out_ << texts::kHelp;
+      return kEveryFileNamed;
+    case Action::Name:
+      return Resolve(args.files) ? RunName(args) : kFailed;
+    case Action::Replace:
+      return Resolve(args.files) ? RunReplace(args) : kFailed;
+    case Action::History:
+      return RunHistory(args);
+    case Action::Undo:
+      return RunUndo(args);
+    case Action::None:
+      break;
+  }
+  return Fail(texts::kNoAction);
+}
+
+int BatchCommand::Fail(const QString& line) {
+  FlushMessages();
+  err_ << texts::kErrorPrefix << line << '\n';
+  return kFailed;
+}
+
+// Every file must be there before anything is renamed: a typing mistake in
+// the tenth name must not leave nine files renamed.
+bool BatchCommand::Resolve(const std::vector<QByteArray>& files) {
+  for (const QByteArray& given : files) {
+    const QByteArray path = given.startsWith('/') ? given : services_.currentDirectory + given;
+    platform::FileInfo info;
+    if (services_.fs.Stat(path, &info) != 0) {
+      Fail(texts::kMissingFile.arg(platform::FileName::NameToText(given)));
+      return false;
+    }
+    if (info.isDir) {
+      Fail(texts::kNotAFile.arg(platform::FileName::NameToText(given)));
+      return false;
+    }
+    const qsizetype slash = path.lastIndexOf('/');
+    const QByteArray folder = path.left(slash + 1);
+    auto group = std::find_if(groups_.begin(), groups_.end(), [&](const Group& g) { return g.folder == folder; });
+    if (group == groups_.end()) group = groups_.insert(groups_.end(), Group{folder, {}, {}, {}});
+    group->files.push_back(platform::FileName{path.mid(slash + 1)});
+    group->given.push_back(given);
+    group->before.push_back(info);
+  }
+  return true;
+}
+
+core::RenameContext BatchCommand::Context(core::RenameSession& session, core::RenameView& view) {
+  return core::RenameContext{session, services_.settings, view, port_, services_.fs, tokens_, services_.journal};
+}
+
+// As the window's selection of the group's files, the first one current.
+void BatchCommand::Select(core::RenameSession& session, const Group& group) {
+  session.CurrentFolder = group.folder;
+  core::ApplySelection(session, static_cast<int>(group.files.size()), &group.files.front(), services_.settings);
+  session.BatchMode = true;
+}
+
+// ---- --name ----------------------------------------------------------------
+
+// The series box as the window shows it: the number in the digits of the
+// "Placeholders" setting.
+QString BatchCommand::FirstSeries(const BatchArguments& args) {
+  HeadlessRenameView view({}, {}, QString::number(args.series.value_or(1)));
+  core::ViewSeriesBox box(view);
+  core::SeriesCounter(box, services_.settings).ReformatSeriesBox();
+  return view.SeriesText();
+}
+
+// Works out every group's names before any file is touched; the series runs
+// on from one folder to the next.
+bool BatchCommand::PreviewAll(const QString& base, const QString& firstSeries,
+                              std::vector<std::unique_ptr<GroupRun>>* runs) {
+  QString series = firstSeries;
+  for (const Group& group : groups_) {
+    auto run = std::make_unique<GroupRun>(group, base, series);
+    Select(run->session, group);
+    run->preview = core::PreviewBatch(Context(run->session, run->view));
+    if (!run->preview.stopText.isEmpty()) {
+      // The window's words point at its Help button; the one way to meet
+      // them here is a name that is the first file's own.
+      const bool ownName = base.compare(group.files.front().Display(), Qt::CaseInsensitive) == 0;
+      Fail(ownName ? texts::kNameIsFirstFile.arg(base) : HeadlessMessagePort::OneLine(run->preview.stopText));
+      return false;
+    }
+    series = run->preview.naming.seriesAtEnd;
+    runs->push_back(std::move(run));
+  }
+  return true;
+}
+
+std::vector<OutputRow> BatchCommand::Rows(const GroupRun& run) const {
+  std::vector<OutputRow> rows;
+  for (size_t i = 0; i < run.preview.rows.size(); ++i) {
+    const core::PreviewRow& shown = run.preview.rows[i];
+    rows.push_back(OutputRow{run.group.given[i], shown.current, shown.newName, shown.dateSource, shown.notes,
+                             OutputRow::Status::Planned});
+  }
+  return rows;
+}
+
+int BatchCommand::RunName(const BatchArguments& args) {
+  std::vector<std::unique_ptr<GroupRun>> runs;
+  if (!PreviewAll(args.name, FirstSeries(args), &runs)) return kFailed;
+  std::vector<OutputRow> rows;
+  for (const auto& run : runs) {
+    for (OutputRow& row : Rows(*run)) rows.push_back(std::move(row));
+  }
+  if (args.dryRun) {
+    for (const auto& run : runs) {
+      for (const QString& warning : run->preview.warnings) {
+        port_.lines << texts::kWarningPrefix + HeadlessMessagePort::OneLine(warning);
+      }
+    }
+    return Report(rows, true, args.json);
+  }
+  if (args.failOnClash && ClashFound(rows)) return kSomeSkipped;
+  rows.clear();
+  for (const auto& run : runs) {
+    core::BatchRename(Context(run->session, run->view)).StartBatchRename(&run->preview.naming);
+    std::vector<OutputRow> groupRows = Rows(*run);
+    Settle(run->group, &groupRows);
+    for (OutputRow& row : groupRows) rows.push_back(std::move(row));
+    if (port_.failed) break;  // the batch stopped at a failure; so does the run
+  }
+  return Report(rows, false, args.json);
+}
+
+// ---- --replace -------------------------------------------------------------
+
+std::vector<OutputRow> BatchCommand::ReplaceRows(const Group& group, const std::vector<QByteArray>& newNames) {
+  std::vector<OutputRow> rows;
+  for (size_t i = 0; i < group.files.size(); ++i) {
+    const platform::FileName& file = group.files[i];
+    OutputRow row{group.given[i], file.Display(), platform::FileName::NameToText(newNames[i]), {}, {},
+                  OutputRow::Status::Planned};
+    if (newNames[i] == file.raw) {
+      row.notes << core::texts::kNoteUnchanged;
+    } else if (newNames[i].compare(file.raw, Qt::CaseInsensitive) != 0 &&
+               services_.fs.Exists(group.folder + newNames[i]) &&
+               std::find_if(group.files.begin(), group.files.end(), [&](const platform::FileName& other) {
+                 return other.raw == newNames[i];
+               }) == group.files.end()) {
+      row.notes << core::texts::kNoteExistingFile;
+    }
+    rows.push_back(std::move(row));
+  }
+  return rows;
+}
+
+int BatchCommand::RunReplace(const BatchArguments& args) {
+  fileops::SearchTerms terms;
+  for (size_t i = 0; i < args.replacements.size(); ++i) {
+    terms.Set(static_cast<int>(i), args.replacements[i].first, args.replacements[i].second);
+  }
+  std::vector<OutputRow> rows;
+  std::vector<std::vector<OutputRow>> planned;
+  for (const Group& group : groups_) {
+    std::vector<QByteArray> newNames;
+    for (const platform::FileName& file : group.files) newNames.push_back(terms.Apply(file.raw));
+    planned.push_back(ReplaceRows(group, newNames));
+    rows.insert(rows.end(), planned.back().begin(), planned.back().end());
+  }
+  if (args.dryRun) return Report(rows, true, args.json);
+  if (args.failOnClash && ClashFound(rows)) return kSomeSkipped;
+  rows.clear();
+  for (size_t g = 0; g < groups_.size(); ++g) {
+    const Group& group = groups_[g];
+    core::RenameSession session;
+    HeadlessRenameView view({}, group.files, {});
+    Select(session, group);
+    QuietSearchView quiet;
+    fileops::SearchReplace(Context(session, view), quiet).Execute(terms);
+    // The dialog's closing notice; here each file's line says it.
+    for (const QString& notice : {fileops::texts::kRenamingComplete,
+                                  fileops::texts::kNothingMatched + fileops::texts::kLf + fileops::texts::kCheckTerms}) {
+      port_.lines.removeAll(texts::kErrorPrefix + HeadlessMessagePort::OneLine(notice));
+    }
+    Settle(group, &planned[g]);
+    rows.insert(rows.end(), planned[g].begin(), planned[g].end());
+    if (port_.failed) break;
+  }
+  return Report(rows, false, args.json);
+}
+
+// ---- outcome ---------------------------------------------------------------
+
+// Whether a file got its name is read from the disk: the file that was
+// there before is the one now under the new name.
+void BatchCommand::Settle(const Group& group, std::vector<OutputRow>* rows) {
+  for (size_t i = 0; i < rows->size(); ++i) {
+    OutputRow& row = (*rows)[i];
+    if (row.newName == row.oldName) {
+      row.status = OutputRow::Status::Unchanged;
+      continue;
+    }
+    platform::FileInfo now;
+    const bool there = services_.fs.Stat(group.folder + platform::FileName::TextToName(row.newName), &now) == 0;
+    row.status = there && SameFile(now, group.before[i]) ? OutputRow::Status::Renamed : OutputRow::Status::Skipped;
+  }
+}
+
+bool BatchCommand::ClashFound(const std::vector<OutputRow>& rows) {
+  for (const OutputRow& row : rows) {
+    for (const QString& note : row.notes) {
+      if (IsClashNote(note)) {
+        FlushMessages();
+        err_ << texts::kErrorPrefix
+             << texts::kClashNothingRenamed.arg(platform::FileName::NameToText(row.given), row.newName) << '\n';
+        return true;
+      }
+    }
+  }
+  return false;
+}
+
+int BatchCommand::Report(const std::vector<OutputRow>& rows, bool dryRun, bool json) {
+  bool skipped = false;
+  for (const OutputRow& row : rows) {
+    const bool clash = std::any_of(row.notes.begin(), row.notes.end(), IsClashNote);
+    skipped = skipped || row.status == OutputRow::Status::Skipped || (dryRun && clash);
+    if (json) {
+      out_ << JsonLine(row) << '\n';
+    } else if (dryRun) {
+      out_ << PlainLine(row) << '\n';
+    } else if (row.status == OutputRow::Status::Renamed) {
+      out_ << platform::FileName::NameToText(row.given) << texts::kArrow << row.newName << '\n';
+    }
+    if (row.status == OutputRow::Status::Skipped) {
+      port_.lines << texts::kErrorPrefix + texts::kSkipped.arg(platform::FileName::NameToText(row.given), row.newName);
+    }
+  }
+  FlushMessages();
+  if (port_.failed) return kFailed;
+  return skipped ? kSomeSkipped : kEveryFileNamed;
+}
+
+// Each line once: every folder's batch asks the same base-name questions.
+void BatchCommand::FlushMessages() {
+  for (const QString& line : std::as_const(port_.lines)) {
+    if (shownLines_.contains(line)) continue;
+    shownLines_ << line;
+    err_ << line << '\n';
+  }
+  port_.lines.clear();
+  for (const QString& notice : std::as_const(port_.notices)) out_ << notice << '\n';
+  port_.notices.clear();
+  out_.flush();
+  err_.flush();
+}
+
+// ---- --history and --undo --------------------------------------------------
+
+int BatchCommand::RunHistory(const BatchArguments& args) {
+  if (services_.journal == nullptr) return kEveryFileNamed;
+  for (const fileops::JournalEntry& entry : services_.journal->Entries()) {
+    const QString id = QString::fromLatin1(Stem(entry.path));
+    const QString what = fileops::OperationHistory::Describe(entry.plan);
+    const QString folder = platform::FileName::NameToText(entry.plan.folder);
+    const bool undone = entry.state == fileops::JournalEntry::State::Undone;
+    if (args.json) {
+      const QJsonObject object{{QStringLiteral("id"), id},
+                               {QStringLiteral("when"), entry.plan.started.toString(Qt::ISODate)},
+                               {QStringLiteral("what"), what},
+                               {QStringLiteral("folder"), folder},
+                               {QStringLiteral("undone"), undone}};
+      out_ << QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact)) << '\n';
+    } else {
+      const QString when = entry.plan.started.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss"));
+      out_ << id << "  " << when << "  " << what << "  " << folder << (undone ? texts::kUndoneMark : QString())
+           << '\n';
+    }
+  }
+  FlushMessages();
+  return kEveryFileNamed;
+}
+
+int BatchCommand::RunUndo(const BatchArguments& args) {
+  if (services_.journal == nullptr) return Fail(texts::kNoHistory);
+  if (args.undoId.isEmpty()) {
+    fileops::OperationHistory history(*services_.journal, services_.fs, port_);
+    if (!history.UndoNewest()) return Fail(texts::kNoHistory);
+  } else {
+    std::vector<fileops::JournalEntry> entries = services_.journal->Entries();
+    auto entry = std::find_if(entries.begin(), entries.end(), [&](const fileops::JournalEntry& e) {
+      return QString::fromLatin1(Stem(e.path)) == args.undoId;
+    });
+    if (entry == entries.end()) return Fail(texts::kUnknownId.arg(args.undoId));
+    if (entry->state == fileops::JournalEntry::State::Undone) return Fail(texts::kAlreadyUndone.arg(args.undoId));
+    const fileops::ReplayResult result = fileops::PlanReplay(services_.fs, port_).Undo(entry->plan);
+    services_.journal->Mark(*entry, fileops::JournalEntry::State::Undone);
+    port_.notices << fileops::texts::kUndoDone.arg(fileops::OperationHistory::Describe(entry->plan))
+                         .arg(result.carriedOut);
+    for (const QString& line : result.passedOver) port_.lines << texts::kErrorPrefix + line;
+  }
+  const bool passedOver = !port_.lines.isEmpty();
+  FlushMessages();
+  if (port_.failed) return kFailed;
+  return passedOver ? kSomeSkipped : kEveryFileNamed;
+}
+
+}  // namespace renvale::cli

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QTextStream>
+#include <vector>
+
+#include "cli/BatchArguments.h"
+#include "cli/BatchOutput.h"
+#include "cli/HeadlessMessagePort.h"
+#include "core/BatchPreview.h"
+#include "core/RenameSession.h"
+#include "core/SettingsRecord.h"
+#include "fileops/Journal.h"
+#include "fileops/MetadataTokenSource.h"
+#include "cli/HeadlessRenameView.h"
+#include "platform/FileSystem.h"
+
+namespace renvale::cli {
+
+// Exit statuses, which scripts test.
+inline constexpr int kEveryFileNamed = 0;
+inline constexpr int kSomeSkipped = 1;
+inline constexpr int kFailed = 2;
+
+struct BatchServices {
+  platform::FileSystem& fs;
+  const core::SettingsRecord& settings;
+  fileops::Journal* journal;     // null: nothing is recorded, no history
+  QByteArray currentDirectory;   // ends in '/'; relative FILE arguments start here
+};
+
+// renvale-batch: runs the window's batch rename or search and replace over
+// the files of the command line, never asking, and reports on two streams.
+class BatchCommand {
+ public:
+  BatchCommand(const BatchServices& services, QTextStream& out, QTextStream& err);
+  // The exit status.
+  int Run(const BatchArguments& args);
+
+ private:
+  // The files of one folder, in the order given: one batch each, as if they
+  // were selected together in the window.
+  struct Group {
+    QByteArray folder;
+    std::vector<platform::FileName> files;
+    std::vector<QByteArray> given;
+    std::vector<platform::FileInfo> before;  // each file as found, to know it again after the run
+  };
+  // A group's batch from names to outcome.
+  struct GroupRun {
+    GroupRun(const Group& group, const QString& base, const QString& series)
+        : group(group), view(base, group.files, series) {}
+    const Group& group;
+    core::RenameSession session;
+    HeadlessRenameView view;
+    core::BatchPreview preview;
+  };
+
+  bool Resolve(const std::vector<QByteArray>& files);
+  core::RenameContext Context(core::RenameSession& session, core::RenameView& view);
+  void Select(core::RenameSession& session, const Group& group);
+
+  int RunName(const BatchArguments& args);
+  QString FirstSeries(const BatchArguments& args);
+  bool PreviewAll(const QString& base, const QString& firstSeries, std::vector<std::unique_ptr<GroupRun>>* runs);
+  std::vector<OutputRow> Rows(const GroupRun& run) const;
+  int RunReplace(const BatchArguments& args);
+  std::vector<OutputRow> ReplaceRows(const Group& group, const std::vector<QByteArray>& newNames);
+  int RunHistory(const BatchArguments& args);
+  int RunUndo(const BatchArguments& args);
+
+  void Settle(const Group& group, std::vector<OutputRow>* rows);
+  int Report(const std::vector<OutputRow>& rows, bool dryRun, bool json);
+  bool ClashFound(const std::vector<OutputRow>& rows);
+  void FlushMessages();
+  int Fail(const QString& line);
+
+  BatchServices services_;
+  QTextStream& out_;
+  QTextStream& err_;
+  HeadlessMessagePort port_;
+  fileops::MetadataTokenSource tokens_;
+  std::vector<Group> groups_;
+  QStringList shownLines_;
+};
+
+}  // namespace renvale::cli

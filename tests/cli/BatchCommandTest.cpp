@@ -1,0 +1,107 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "cli/BatchCommand.h"
+#include "core/CoreTexts.h"
+
+namespace renvale::cli {
+namespace {
+
+// Real files in a temporary folder, each holding its own first name, and a
+// journal beside them; the command runs in-process.
+class BatchRun : public ::testing::Test {
+ protected:
+  BatchRun() { QDir().mkpath(QFile::decodeName(state) + "damaged"); }
+
+  void Make(const QByteArray& name) { fs.WriteWholeFile(card + name, name); }
+  QByteArray Holds(const QByteArray& name) {
+    QByteArray bytes;
+    return fs.ReadWholeFile(card + name, 1 << 10, &bytes) == 0 ? bytes : QByteArray("(none)");
+  }
+  int Run(std::initializer_list<const char*> words) {
+    out.clear();
+    err.clear();
+    QTextStream outStream(&out);
+    QTextStream errStream(&err);
+    const BatchArguments args = ParseBatchArguments(std::vector<QByteArray>(words.begin(), words.end()));
+    return BatchCommand(BatchServices{fs, settings, &journal, card}, outStream, errStream).Run(args);
+  }
+
+  QTemporaryDir dir;
+  QByteArray card = QFile::encodeName(dir.path()) + '/';
+  QByteArray state = QFile::encodeName(dir.path()) + "/.state/";
+  platform::FileSystem& fs = platform::RealFileSystem();
+  core::SettingsRecord settings;
+  HeadlessMessagePort journalPort;
+  fileops::Journal journal{fs, (QDir().mkpath(QFile::decodeName(state)), state), journalPort};
+  QString out, err;
+};
+
+TEST_F(BatchRun, DryRunShowsNamesAndNotesAndTouchesNothing) {
+  Make("b.JPG");
+  Make("a.jpg");
+  Make("Trip 08.JPG");  // outside the batch, in the way of b's name
+  EXPECT_EQ(Run({"--name", "Trip %SERIES%", "--series", "7", "--dry-run", "a.jpg", "b.JPG"}), kSomeSkipped);
+  EXPECT_EQ(out, QStringLiteral("a.jpg \u2192 Trip 07.jpg\nb.JPG \u2192 Trip 08.JPG\n    ") +
+                     core::texts::kNoteExistingFile + '\n');
+  EXPECT_EQ(Holds("a.jpg"), "a.jpg");
+  EXPECT_EQ(Holds("Trip 07.jpg"), "(none)");
+}
+
+TEST_F(BatchRun, ARenameSkipsOnlyTheClashUnlessToldToFailAndUndoPutsEverythingBack) {
+  Make("a.jpg");
+  Make("b.jpg");
+  Make("Trip 02.jpg");
+  EXPECT_EQ(Run({"--name", "Trip %SERIES%", "--on-clash=fail", "a.jpg", "b.jpg"}), kSomeSkipped);
+  EXPECT_EQ(err, QStringLiteral("renvale-batch: nothing renamed: 'b.jpg' would take 'Trip 02.jpg', which is "
+                                "already taken (--on-clash=fail)\n"));
+  EXPECT_EQ(Holds("Trip 01.jpg"), "(none)");
+
+  EXPECT_EQ(Run({"--name", "Trip %SERIES%", "--json", "a.jpg", "b.jpg"}), kSomeSkipped);
+  EXPECT_EQ(Holds("Trip 01.jpg"), "a.jpg");
+  EXPECT_EQ(Holds("Trip 02.jpg"), "Trip 02.jpg");
+  EXPECT_EQ(Holds("b.jpg"), "b.jpg");
+  const QStringList json = out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+  ASSERT_EQ(json.size(), 2);
+  EXPECT_TRUE(json[0].endsWith(
+      QStringLiteral("\"file\":\"a.jpg\",\"new\":\"Trip 01.jpg\",\"notes\":[],\"old\":\"a.jpg\",\"status\":\"renamed\"}")));
+  EXPECT_TRUE(json[1].endsWith(QStringLiteral("\"status\":\"skipped\"}")));
+  EXPECT_EQ(err, QStringLiteral("renvale-batch: skipped 'b.jpg': 'Trip 02.jpg' is already taken\n"));
+
+  EXPECT_EQ(Run({"--history"}), kEveryFileNamed);
+  EXPECT_TRUE(out.contains(QStringLiteral("Batch Rename of 2 files"))) << out.toStdString();
+  EXPECT_EQ(Run({"--undo"}), kEveryFileNamed);
+  EXPECT_EQ(Holds("a.jpg"), "a.jpg");
+  EXPECT_EQ(Run({"--undo"}), kFailed);
+  EXPECT_EQ(err, QStringLiteral("renvale-batch: nothing to undo\n"));
+}
+
+// Two files trading names step aside through a hidden name; the history
+// must hold that step too, or Undo would leave one of them hidden.
+TEST_F(BatchRun, AnUndoneSwapPutsBothFilesBack) {
+  Make("Trip 02.jpg");
+  Make("Trip 01.jpg");
+  EXPECT_EQ(Run({"--name", "Trip %SERIES%", "Trip 02.jpg", "Trip 01.jpg"}), kEveryFileNamed);
+  EXPECT_EQ(Holds("Trip 01.jpg"), "Trip 02.jpg");
+  EXPECT_EQ(Run({"--undo"}), kEveryFileNamed) << err.toStdString();
+  EXPECT_EQ(Holds("Trip 01.jpg"), "Trip 01.jpg");
+  EXPECT_EQ(Holds("Trip 02.jpg"), "Trip 02.jpg");
+  std::vector<QByteArray> names;
+  fs.ListFiles(card, &names);
+  EXPECT_EQ(names.size(), 2u);
+}
+
+TEST_F(BatchRun, ReplaceChainsPairsAndAMissingFileStopsBeforeAnyChange) {
+  Make("IMG_1.JPG");
+  EXPECT_EQ(Run({"--replace", "IMG_=x", "--replace", "x1=Day 1", "IMG_1.JPG", "gone.jpg"}), kFailed);
+  EXPECT_EQ(err, QStringLiteral("renvale-batch: no such file: 'gone.jpg'\n"));
+  EXPECT_EQ(Run({"--replace", "IMG_=x", "--replace", "x1=Day 1", "IMG_1.JPG"}), kEveryFileNamed);
+  EXPECT_EQ(out, QStringLiteral("IMG_1.JPG \u2192 Day 1.JPG\n"));
+  EXPECT_EQ(Holds("Day 1.JPG"), "IMG_1.JPG");
+}
+
+}  // namespace
+}  // namespace renvale::cli
