@@ -37,7 +37,8 @@ void ExpectAllUnder(const QString& folder, QString (*wanted)(int)) {
 
 // After each kill the run's journal is finished (even runs) or undone (odd
 // runs) as the start-up check would; both must reach a whole state.
-TEST(JournalKill, AKilledRunIsFinishedOrUndoneFromItsJournal) {
+// `kind` is empty for search and replace, "batch" for the batch rename.
+void KillAndRecover(const QString& kind) {
   QTemporaryDir root;
   const QString folder = root.path() + "/card";
   const QByteArray journalFolder = QFile::encodeName(root.path()) + "/state/";
@@ -49,7 +50,8 @@ TEST(JournalKill, AKilledRunIsFinishedOrUndoneFromItsJournal) {
   }
   test::ScriptedMessagePort port;
   fileops::Journal journal(platform::RealFileSystem(), journalFolder, port);
-  const QStringList arguments{folder, QFile::decodeName(journalFolder.chopped(1))};
+  QStringList arguments{folder, QFile::decodeName(journalFolder.chopped(1))};
+  if (!kind.isEmpty()) arguments << kind;
   // An undisturbed run first, to learn how long it takes.
   QProcess whole;
   whole.start(QStringLiteral(RENVALE_JOURNAL_VICTIM), arguments);
@@ -98,6 +100,10 @@ TEST(JournalKill, AKilledRunIsFinishedOrUndoneFromItsJournal) {
   EXPECT_TRUE(port.messages.empty());
   EXPECT_GE(recovered, kRuns / 3) << "too few kills landed inside the run to prove anything";
 }
+
+TEST(JournalKill, AKilledSearchAndReplaceIsFinishedOrUndoneFromItsJournal) { KillAndRecover(QString()); }
+
+TEST(JournalKill, AKilledBatchIsFinishedOrUndoneFromItsJournal) { KillAndRecover(QStringLiteral("batch")); }
 
 }  // namespace
 }  // namespace renvale

@@ -1,12 +1,14 @@
-// Renames every file of the folder given as its first argument by search
-// and replace ("f" becomes "g"), journaled into the folder given as its
-// second. Writes one byte to stdout once the plan is kept, just before the
+// Renames every file of the folder given as its first argument from
+// "f0000.dat" to "g0000.dat", and so on, journaled into the folder given as
+// its second: by search and replace ("f" becomes "g"), or with a third
+// argument "batch" by the batch rename with the base "g%SERIES%". Writes one byte to stdout once the plan is kept, just before the
 // first rename, so that the parent's kills land inside the renames.
 
 #include <unistd.h>
 
 #include <algorithm>
 
+#include "core/BatchRename.h"
 #include "fileops/Journal.h"
 #include "fileops/SearchReplace.h"
 #include "rename/FakeRenameView.h"
@@ -39,7 +41,7 @@ class SignallingJournal : public fileops::Journal {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 3) return 1;
+  if (argc != 3 && argc != 4) return 1;
   platform::FileSystem& fs = platform::RealFileSystem();
   core::RenameSession session;
   session.CurrentFolder = QByteArray(argv[1]) + '/';
@@ -48,12 +50,23 @@ int main(int argc, char** argv) {
   std::sort(names.begin(), names.end());
 
   core::SettingsRecord settings;
+  settings.placeholders = 4;
   test::FakeRenameView view(fs, session);
   for (const QByteArray& name : names) view.selected.push_back(platform::FileName{name});
   test::FakeTokenSource tokens;
   test::ScriptedMessagePort port;
   SignallingJournal journal(fs, QByteArray(argv[2]) + '/', port);
   const core::RenameContext context{session, settings, view, port, fs, tokens, &journal};
+  if (argc == 4) {
+    view.newName = QStringLiteral("g%SERIES%");
+    view.series = QStringLiteral("0");
+    session.SelectedFileName = view.selected.front();
+    session.SelectedExt = QStringLiteral(".dat");
+    session.SelectedCount = static_cast<int>(names.size());
+    session.BatchMode = true;
+    core::BatchRename(context).StartBatchRename();
+    return port.messages.empty() ? 0 : 2;
+  }
   fileops::SearchTerms terms;
   terms.Set(0, QStringLiteral("f"), QStringLiteral("g"));
   QuietSearchView searchView;
