@@ -43,16 +43,6 @@ bool HeldOpen(const QByteArray& path) {
   return false;
 }
 
-class WatchingFileSystem : public FaultyFileSystem {
- public:
-  using FaultyFileSystem::FaultyFileSystem;
-  int RenameNoReplace(const QByteArray& from, const QByteArray& to) override {
-    if (watch) watch(from);
-    return FaultyFileSystem::RenameNoReplace(from, to);
-  }
-  std::function<void(const QByteArray&)> watch;
-};
-
 class MainWindowMedia : public MainWindowFixture {
  protected:
   void SetUp() override {
@@ -65,7 +55,7 @@ class MainWindowMedia : public MainWindowFixture {
 TEST_F(MainWindowMedia, PlaysASoundAndLetsGoOfItBeforeItIsRenamed) {
   const QByteArray name = "tone\xFF.wav";  // not UTF-8: reaches the framework byte for byte
   MakeFile(name, MakeWav(3000));
-  WatchingFileSystem fs(platform::RealFileSystem());
+  FaultyFileSystem fs(platform::RealFileSystem());
   shell::MainWindow& main = Open(fs);
   shell::MainWindowUi& ui = main.Ui();
   QSignalSpy ready(&main.Preview().Media(), &shell::MediaPane::Ready);
@@ -82,7 +72,7 @@ TEST_F(MainWindowMedia, PlaysASoundAndLetsGoOfItBeforeItIsRenamed) {
   const QByteArray path = Folder() + name;
   ASSERT_TRUE(HeldOpen(path));
   int renames = 0;
-  fs.watch = [&](const QByteArray& from) {
+  fs.beforeRename = [&](const QByteArray& from) {
     ++renames;
     EXPECT_FALSE(HeldOpen(from));
     EXPECT_TRUE(main.Session().PreviewedPath.isEmpty());

@@ -18,17 +18,6 @@ namespace {
 
 using platform::DefaultApplication;
 
-// Notes what the preview held at the moment of every rename.
-class WatchingFileSystem : public FaultyFileSystem {
- public:
-  using FaultyFileSystem::FaultyFileSystem;
-  int RenameNoReplace(const QByteArray& from, const QByteArray& to) override {
-    if (watch) watch(from);
-    return FaultyFileSystem::RenameNoReplace(from, to);
-  }
-  std::function<void(const QByteArray&)> watch;
-};
-
 class MainWindowPreview : public MainWindowFixture {
  protected:
   QString Caption() { return window->Ui().previewCaption->text(); }
@@ -98,13 +87,13 @@ TEST_F(MainWindowPreview, ExternalPreviewWithoutAnApplicationSaysSo) {
 
 TEST_F(MainWindowPreview, TheFileIsReleasedBeforeItIsRenamed) {
   MakeFile("a.jpg", MakeExifJpeg(nullptr, 20, 10));
-  WatchingFileSystem fs(platform::RealFileSystem());
+  FaultyFileSystem fs(platform::RealFileSystem());
   shell::MainWindow& main = Open(fs);
   ClickRow(0);
   ASSERT_EQ(main.Session().PreviewedPath, Folder() + "a.jpg");
   ASSERT_FALSE(main.Preview().Picture().isNull());
   int renames = 0;
-  fs.watch = [&](const QByteArray&) {
+  fs.beforeRename = [&](const QByteArray&) {
     ++renames;
     EXPECT_TRUE(main.Session().PreviewedPath.isEmpty());
     EXPECT_TRUE(main.Preview().Picture().isNull());

@@ -18,6 +18,7 @@ int FaultyFileSystem::ListFolders(const QByteArray& folder, std::vector<QByteArr
 }
 
 int FaultyFileSystem::RenameNoReplace(const QByteArray& from, const QByteArray& to) {
+  if (beforeRename) beforeRename(from);
   if (const int error = Injected(Change::Rename, from, to)) return error;
   if (const int error = Injected(Change::RenameFrom, from)) return error;
   return inner_.RenameNoReplace(from, to);

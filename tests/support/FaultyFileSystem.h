@@ -30,6 +30,9 @@ class FaultyFileSystem : public platform::FileSystem {
   void FailCopy(const QByteArray& path, int errorNumber) { faults_.push_back({Change::Copy, path, errorNumber}); }
   // Calls back before each copy of a source, e.g. to remove a folder mid-run.
   std::function<void(const QByteArray&)> beforeCopy;
+  // Calls back before each no-replace rename with its source, e.g. to see
+  // what the preview holds at that moment.
+  std::function<void(const QByteArray&)> beforeRename;
   void ClearFaults() { faults_.clear(); }
 
   int ListFiles(const QByteArray& folder, std::vector<QByteArray>* names) override;
