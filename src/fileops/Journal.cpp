@@ -75,6 +75,7 @@ int Journal::Begin(const core::OperationPlan& plan) {
       return error;
     }
     current_ = stem + Suffix(State::Open);
+    running_.Acquire(current_);
     // The new name must outlive a power cut, not only the file's contents.
     return fs_.FlushFileSystem(folder_);
   }
@@ -84,6 +85,7 @@ int Journal::Begin(const core::OperationPlan& plan) {
 void Journal::End() {
   if (current_.isEmpty()) return;
   fs_.RenameNoReplace(current_, Stem(current_) + Suffix(State::Done));
+  running_.Release();
   current_.clear();
   Prune();
 }

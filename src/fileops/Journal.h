@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/OperationRecorder.h"
+#include "platform/FileLock.h"
 #include "platform/FileSystem.h"
 #include "platform/MessagePort.h"
 
@@ -58,6 +59,9 @@ class Journal : public core::OperationRecorder {
   QByteArray folder_;
   platform::MessagePort& messages_;
   QByteArray current_;  // the open journal of the running operation
+  // Held on `current_` while the operation runs, so that another program
+  // sharing the journal does not take a running plan for one cut short.
+  platform::FileLock running_;
 };
 
 }  // namespace renvale::fileops

@@ -5,6 +5,7 @@
 
 #include "fileops/FileopsTexts.h"
 #include "fileops/PlanOnDisk.h"
+#include "platform/FileLock.h"
 
 namespace renvale::fileops {
 
@@ -56,7 +57,16 @@ std::vector<HistoryLine> OperationHistory::Lines() {
 // An operation left open (the person chose to decide later) is undone like
 // a finished one: only what the disk shows done is taken back. Only the
 // newest is read: the caption asks on every refresh of the list.
-std::vector<JournalEntry> OperationHistory::Undoable() { return journal_.Entries(1, false); }
+// A plan that a running operation (here or in renvale-batch) holds is
+// neither undone nor recovered under its feet.
+std::vector<JournalEntry> OperationHistory::Undoable() {
+  std::vector<JournalEntry> entries = journal_.Entries(1, false);
+  if (!entries.empty() && entries.front().state == State::Open &&
+      platform::FileLock::HeldElsewhere(entries.front().path)) {
+    entries.clear();
+  }
+  return entries;
+}
 
 QString OperationHistory::UndoCaption() {
   const std::vector<JournalEntry> entries = Undoable();
@@ -76,7 +86,7 @@ bool OperationHistory::UndoNewest() {
 void OperationHistory::RecoverUnfinished() {
   journal_.RemoveStaleTemporaries();
   for (JournalEntry& entry : journal_.Entries()) {
-    if (entry.state == State::Open) Recover(entry);
+    if (entry.state == State::Open && !platform::FileLock::HeldElsewhere(entry.path)) Recover(entry);
   }
 }
 

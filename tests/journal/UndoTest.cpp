@@ -39,6 +39,12 @@ class Undo : public ::testing::Test {
     ASSERT_EQ(journal.Begin(plan), 0);
     journal.End();
   }
+  // Begins the plan in a journal that goes away without ending it, as a
+  // killed program's does.
+  void BeginAndDie() {
+    Journal killed{fs, state, port};
+    ASSERT_EQ(killed.Begin(plan), 0);
+  }
 
   QTemporaryDir dir;
   QByteArray card = QFile::encodeName(dir.path()) + '/';
@@ -136,7 +142,12 @@ TEST_F(Undo, AtStartARunCutShortIsOfferedAndARunDoneOrNotBegunIsSettledQuietly) 
   Make("c.jpg");
   Step(core::StepKind::Rename, "a.jpg", "b.jpg");
   Step(core::StepKind::Rename, "c.jpg", "d.jpg");
-  ASSERT_EQ(journal.Begin(plan), 0);  // never ended: killed
+  ASSERT_EQ(journal.Begin(plan), 0);  // still running, here or in another program
+  history.RecoverUnfinished();
+  EXPECT_FALSE(history.UndoNewest());
+  EXPECT_EQ(journal.Entries().front().state, JournalEntry::State::Open);
+  journal.End();
+  BeginAndDie();
   fs.RenameNoReplace(Path("a.jpg"), Path("b.jpg"));
   port.Script(MessageAnswer::Cancel);
   history.RecoverUnfinished();
@@ -151,7 +162,7 @@ TEST_F(Undo, AtStartARunCutShortIsOfferedAndARunDoneOrNotBegunIsSettledQuietly) 
   EXPECT_EQ(Folder(), (Files{{"b.jpg", "a.jpg"}, {"d.jpg", "c.jpg"}}));
   EXPECT_EQ(port.Last().text, "The operation was finished: 1 more file(s) were done.");
   port.Clear();
-  ASSERT_EQ(journal.Begin(plan), 0);  // done entirely before the kill
+  BeginAndDie();  // done entirely before the kill
   history.RecoverUnfinished();
   EXPECT_TRUE(port.messages.empty());
   EXPECT_EQ(journal.Entries().front().state, JournalEntry::State::Done);
