@@ -83,11 +83,15 @@ bool OperationHistory::UndoNewest() {
   return true;
 }
 
-void OperationHistory::RecoverUnfinished() {
+bool OperationHistory::RecoverUnfinished() {
   journal_.RemoveStaleTemporaries();
+  bool any = false;
   for (JournalEntry& entry : journal_.Entries()) {
-    if (entry.state == State::Open && !platform::FileLock::HeldElsewhere(entry.path)) Recover(entry);
+    if (entry.state != State::Open || platform::FileLock::HeldElsewhere(entry.path)) continue;
+    Recover(entry);
+    any = true;
   }
+  return any;
 }
 
 void OperationHistory::Recover(JournalEntry& entry) {

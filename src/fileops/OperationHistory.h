@@ -38,8 +38,9 @@ class OperationHistory {
   bool UndoNewest();
   // Offers, for each operation a crash or a kill cut short, to finish it,
   // to undo what was done, or to decide later. One that the disk shows
-  // done entirely, or not begun, is settled without asking.
-  void RecoverUnfinished();
+  // done entirely, or not begun, is settled without asking. True when
+  // there was any, so that the list is read again.
+  bool RecoverUnfinished();
 
  private:
   std::vector<JournalEntry> Undoable();

@@ -30,8 +30,9 @@ EditMenu::~EditMenu() = default;
 
 void EditMenu::CheckUnfinished() {
   if (history_ == nullptr || busy_()) return;
-  history_->RecoverUnfinished();
-  refreshFiles_();
+  // The list is read again only where a plan was settled: at start the
+  // person may already be choosing files.
+  if (history_->RecoverUnfinished()) refreshFiles_();
   UpdateCaption();
 }
 
