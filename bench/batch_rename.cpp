@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTemporaryDir>
@@ -26,6 +27,7 @@
 #include <string>
 #include <vector>
 
+#include "fileops/Journal.h"
 #include "platform/FileSystem.h"
 #include "platform/MountList.h"
 #include "platform/QtSettingsStorage.h"
@@ -146,14 +148,17 @@ Run FloorOnce() {
   });
 }
 
-// The real main window with scripted answers, shown on the offscreen screen.
+// The real main window with scripted answers, shown on the offscreen screen,
+// keeping its plans in a journal as the program does.
 class RenvaleWindow {
  public:
   RenvaleWindow()
       : storage_(settingsDir_.path() + QStringLiteral("/Renvale.conf")),
+        journal_(renvale::platform::RealFileSystem(), QFile::encodeName(settingsDir_.path()) + '/', messages_),
         window_({renvale::platform::RealFileSystem(), messages_, storage_, tips_,
                  [](QWidget*, const QString&, const QString&) { return QString(); },
-                 [] { return std::vector<renvale::platform::Volume>{}; }, [] { return QByteArrayLiteral("/tmp/"); }}) {
+                 [] { return std::vector<renvale::platform::Volume>{}; }, [] { return QByteArrayLiteral("/tmp/"); },
+                 &journal_}) {
     window_.Start();
     window_.show();
   }
@@ -168,7 +173,8 @@ class RenvaleWindow {
     *run = Time([&] { window_.Ui().Command11->click(); });
     if (!messages_.messages.empty()) return messages_.Last().text.toStdString();
     if (window_.Files().Count() != kFileCount || Names().front().rfind("IMG_", 0) == 0) {
-      return "the batch did not rename every file";
+      return "the batch did not rename every file: " + std::to_string(window_.Files().Count()) + " listed, first " +
+             (Names().empty() ? std::string("none") : Names().front());
     }
     return {};
   }
@@ -178,6 +184,7 @@ class RenvaleWindow {
   renvale::platform::QtSettingsStorage storage_;
   renvale::test::ScriptedMessagePort messages_;
   renvale::shell::SilentQuickTips tips_;
+  renvale::fileops::Journal journal_;
   renvale::shell::MainWindow window_;
 };
 
