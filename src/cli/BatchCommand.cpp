@@ -15,22 +15,12 @@
 #include "fileops/OperationHistory.h"
 #include "fileops/PlanReplay.h"
 #include "fileops/SearchReplace.h"
+#include "fileops/SilentSearchReplaceView.h"
 #include "fileops/SearchTerms.h"
 
 namespace renvale::cli {
 
 namespace {
-
-// Search and replace reports in a results window; here the outcome is read
-// from the disk instead, so nothing of it is kept.
-class QuietSearchView : public fileops::SearchReplaceView {
- public:
-  void SetRunning(bool) override {}
-  void SetProgressMaximum(int) override {}
-  void SetProgress(int) override {}
-  void ProcessEvents() override {}
-  void ShowResults(const QString&) override {}
-};
 
 bool SameFile(const platform::FileInfo& a, const platform::FileInfo& b) {
   return a.device == b.device && a.inode == b.inode;
@@ -227,7 +217,7 @@ int BatchCommand::RunReplace(const BatchArguments& args) {
     core::RenameSession session;
     HeadlessRenameView view({}, group.files, {});
     Select(session, group);
-    QuietSearchView quiet;
+    fileops::SilentSearchReplaceView quiet;
     fileops::SearchReplace(Context(session, view), quiet).Execute(terms);
     // The dialog's closing notice; here each file's line says it.
     for (const QString& notice : {fileops::texts::kRenamingComplete,

@@ -11,6 +11,7 @@
 #include "core/BatchRename.h"
 #include "fileops/Journal.h"
 #include "fileops/SearchReplace.h"
+#include "fileops/SilentSearchReplaceView.h"
 #include "rename/FakeRenameView.h"
 #include "rename/FakeTokenSource.h"
 #include "support/ScriptedMessagePort.h"
@@ -18,15 +19,6 @@
 using namespace renvale;
 
 namespace {
-
-class QuietSearchView : public fileops::SearchReplaceView {
- public:
-  void SetRunning(bool) override {}
-  void SetProgressMaximum(int) override {}
-  void SetProgress(int) override {}
-  void ProcessEvents() override {}
-  void ShowResults(const QString&) override {}
-};
 
 class SignallingJournal : public fileops::Journal {
  public:
@@ -69,7 +61,7 @@ int main(int argc, char** argv) {
   }
   fileops::SearchTerms terms;
   terms.Set(0, QStringLiteral("f"), QStringLiteral("g"));
-  QuietSearchView searchView;
+  fileops::SilentSearchReplaceView searchView;
 
   fileops::SearchReplace(context, searchView).Execute(terms);
   return 0;
