@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "fileops/FileopsTexts.h"
+#include "core/PlanFiles.h"
 #include "fileops/PlanOnDisk.h"
 #include "platform/FileLock.h"
 
@@ -39,7 +40,7 @@ OperationHistory::OperationHistory(Journal& journal, platform::FileSystem& fs, p
     : journal_(journal), fs_(fs), messages_(messages) {}
 
 QString OperationHistory::Describe(const core::OperationPlan& plan) {
-  const int files = static_cast<int>(plan.steps.size());
+  const int files = core::FilesIn(plan);
   const QString count = QLocale(QLocale::English, QLocale::UnitedStates).toString(files);
   return (files == 1 ? texts::kDescribeOne : texts::kDescribeMany).arg(KindName(plan.kind), count);
 }
@@ -47,7 +48,7 @@ QString OperationHistory::Describe(const core::OperationPlan& plan) {
 std::vector<HistoryLine> OperationHistory::Lines() {
   std::vector<HistoryLine> lines;
   for (const JournalEntry& entry : journal_.Entries()) {
-    lines.push_back(HistoryLine{entry.plan.started, Describe(entry.plan), static_cast<int>(entry.plan.steps.size()),
+    lines.push_back(HistoryLine{entry.plan.started, Describe(entry.plan), core::FilesIn(entry.plan),
                                 platform::FileName::NameToText(entry.plan.folder), entry.state == State::Undone,
                                 entry.state == State::Open});
   }
@@ -96,8 +97,13 @@ bool OperationHistory::RecoverUnfinished() {
 
 void OperationHistory::Recover(JournalEntry& entry) {
   const std::vector<StepState> states = PlanOnDisk::States(fs_, entry.plan);
-  const auto count = [&states](StepState state) {
-    return static_cast<int>(std::count(states.begin(), states.end(), state));
+  const std::vector<bool> last = core::LastStepsOfFiles(entry.plan);
+  // A file counts by the step that takes it to its end: one that stepped
+  // aside but not on yet is not done.
+  const auto count = [&states, &last](StepState state) {
+    int files = 0;
+    for (size_t i = 0; i < states.size(); ++i) files += last[i] && states[i] == state ? 1 : 0;
+    return files;
   };
   const int done = count(StepState::Done);
   const int notDone = count(StepState::NotDone);

@@ -1,5 +1,6 @@
 #include "fileops/PlanReplay.h"
 
+#include "core/PlanFiles.h"
 #include "fileops/FileopsTexts.h"
 #include "fileops/PlanOnDisk.h"
 #include "platform/ErrorNumbers.h"
@@ -12,6 +13,7 @@ PlanReplay::PlanReplay(platform::FileSystem& fs, platform::MessagePort& messages
 ReplayResult PlanReplay::Finish(const core::OperationPlan& plan) {
   ReplayResult result;
   const std::vector<StepState> states = PlanOnDisk::States(fs_, plan);
+  const std::vector<bool> last = core::LastStepsOfFiles(plan);
   for (size_t i = 0; i < states.size(); ++i) {
     const core::PlanStep& step = plan.steps[i];
     const StepState state = states[i];
@@ -22,7 +24,7 @@ ReplayResult PlanReplay::Finish(const core::OperationPlan& plan) {
     }
     if (const int error = FinishStep(step)) {
       PassOver(&result, step.from, platform::ErrorDescription(error));
-    } else {
+    } else if (last[i]) {
       ++result.carriedOut;
     }
   }
@@ -44,6 +46,7 @@ int PlanReplay::FinishStep(const core::PlanStep& step) {
 ReplayResult PlanReplay::Undo(const core::OperationPlan& plan) {
   ReplayResult result;
   const std::vector<StepState> states = PlanOnDisk::States(fs_, plan);
+  const std::vector<bool> last = core::LastStepsOfFiles(plan);
   int copies = 0;
   for (size_t i = 0; i < states.size(); ++i) {
     if (states[i] == StepState::Done && plan.steps[i].kind == core::StepKind::Copy) ++copies;
@@ -62,7 +65,7 @@ ReplayResult PlanReplay::Undo(const core::OperationPlan& plan) {
       PassOver(&result, now, error == platform::kFileNotFound && step.kind == core::StepKind::Trash
                                  ? texts::kReplayNotInTrash
                                  : platform::ErrorDescription(error));
-    } else {
+    } else if (last[i]) {
       ++result.carriedOut;
     }
   }

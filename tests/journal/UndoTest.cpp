@@ -140,8 +140,14 @@ TEST_F(Undo, ASwapCutShortIsFinishedOrUndoneWhereverItStopped) {
 TEST_F(Undo, AtStartARunCutShortIsOfferedAndARunDoneOrNotBegunIsSettledQuietly) {
   Make("a.jpg");
   Make("c.jpg");
+  Make("x.jpg");
+  Make("y.jpg");
   Step(core::StepKind::Rename, "a.jpg", "b.jpg");
   Step(core::StepKind::Rename, "c.jpg", "d.jpg");
+  // A swap: x steps aside through a hidden name, and counts as one file.
+  Step(core::StepKind::Rename, "x.jpg", ".s.jpg");
+  Step(core::StepKind::Rename, "y.jpg", "x.jpg");
+  plan.steps.push_back({core::StepKind::Rename, Path(".s.jpg"), Path("y.jpg"), plan.steps[2].identity});
   ASSERT_EQ(journal.Begin(plan), 0);  // still running, here or in another program
   history.RecoverUnfinished();
   EXPECT_FALSE(history.UndoNewest());
@@ -149,18 +155,19 @@ TEST_F(Undo, AtStartARunCutShortIsOfferedAndARunDoneOrNotBegunIsSettledQuietly) 
   journal.End();
   BeginAndDie();
   fs.RenameNoReplace(Path("a.jpg"), Path("b.jpg"));
+  fs.RenameNoReplace(Path("x.jpg"), Path(".s.jpg"));
   port.Script(MessageAnswer::Cancel);
   history.RecoverUnfinished();
   ASSERT_EQ(port.messages.size(), 1u);
-  EXPECT_EQ(port.Last().text, "Renvale was stopped in the middle of Search & Replace of 2 files in '" + dir.path() +
-                                  "/'.\r1 file(s) were done, 1 were not yet done, 0 have changed since and will be "
+  EXPECT_EQ(port.Last().text, "Renvale was stopped in the middle of Search & Replace of 4 files in '" + dir.path() +
+                                  "/'.\r1 file(s) were done, 3 were not yet done, 0 have changed since and will be "
                                   "left alone.\r\rYes finishes the operation, No undoes what was done, Cancel "
                                   "decides later (Edit > Operation History...).");
   EXPECT_EQ(port.Last().defaultButton, MessageAnswer::Cancel);
   port.Script(MessageAnswer::Yes);
   history.RecoverUnfinished();
-  EXPECT_EQ(Folder(), (Files{{"b.jpg", "a.jpg"}, {"d.jpg", "c.jpg"}}));
-  EXPECT_EQ(port.Last().text, "The operation was finished: 1 more file(s) were done.");
+  EXPECT_EQ(Folder(), (Files{{"b.jpg", "a.jpg"}, {"d.jpg", "c.jpg"}, {"x.jpg", "y.jpg"}, {"y.jpg", "x.jpg"}}));
+  EXPECT_EQ(port.Last().text, "The operation was finished: 3 more file(s) were done.");
   port.Clear();
   BeginAndDie();  // done entirely before the kill
   history.RecoverUnfinished();
