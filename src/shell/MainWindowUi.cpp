@@ -193,22 +193,22 @@ QWidget* MainWindowUi::BuildBatchPane(QWidget* parent) {
   Check1 = Make<QCheckBox>(BatchFrame, "Check1", QStringLiteral("Randomize Series #s"));
   Command12 = Button(BatchFrame, "Command12", QStringLiteral("Help"));
   previewNames = Button(BatchFrame, "PreviewNames", texts::kPreviewNamesButton);
-  auto* start = new QHBoxLayout;
-  start->addWidget(Command11);
-  start->addWidget(previewNames);
-  layout->addLayout(start, 1, 0);
+  layout->addWidget(Command11, 1, 0);
   layout->addWidget(Check1, 1, 1);
   layout->addWidget(Command12, 1, 2);
+  // Under the button it goes with rather than beside it: a fourth button in
+  // that row made the window grow wider each time it entered batch mode.
+  layout->addWidget(previewNames, 2, 0);
   auto* note = Make<QLabel>(BatchFrame, "RandomNote", texts::kRandomSeriesNote);
   note->setWordWrap(true);
   note->hide();
-  layout->addWidget(note, 2, 0, 1, 3);
+  layout->addWidget(note, 3, 0, 1, 3);
   processingLabel = Make<QLabel>(BatchFrame, "Processing", texts::kProcessingFiles);
   processingLabel->hide();
-  layout->addWidget(processingLabel, 3, 0, 1, 3);
+  layout->addWidget(processingLabel, 4, 0, 1, 3);
   ProgressBar1 = Make<QProgressBar>(BatchFrame, "ProgressBar1");
   ProgressBar1->setAccessibleName(QStringLiteral("Batch progress"));
-  layout->addWidget(ProgressBar1, 4, 0, 1, 3);
+  layout->addWidget(ProgressBar1, 5, 0, 1, 3);
   BatchFrame->hide();
   return BatchFrame;
 }
