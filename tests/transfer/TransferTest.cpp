@@ -8,6 +8,7 @@
 #include "transfer/FakeTransferView.h"
 #include "core/SettingsRecord.h"
 #include "fileops/FileTransfer.h"
+#include "fileops/OperationHistory.h"
 #include "fileops/WriteProtection.h"
 #include "platform/ErrorNumbers.h"
 #include "support/FaultyFileSystem.h"
@@ -223,6 +224,47 @@ TEST_F(TransferTest, CompanionThatCannotFollowTakesItsHeadBack) {
   EXPECT_TRUE(DestinationNames().empty());
   EXPECT_EQ(ReadRaw(source_ / "IMG_0002.CRW"), "raw");
   EXPECT_EQ(ReadRaw(source_ / "IMG_0002.THM"), "thumb");
+}
+
+// A move within one file system, one across, and a copy, each undone after
+// the person changed one of the files at the destination: that one stays
+// and is listed, the rest go back (the copies to the trash, after a question
+// whose default is No).
+TEST_F(TransferTest, UndoPutsBackAllButAChangedFile) {
+  struct Row {
+    int mode;
+    bool oneFileSystem;
+  };
+  const Row rows[] = {{fileops::kMoveMode, true}, {fileops::kMoveMode, false}, {fileops::kCopyMode, true}};
+  ScratchFolder state;
+  for (const Row& row : rows) {
+    port_.Clear();
+    view_.selected.clear();
+    Source("a.jpg", "a");
+    Source("b.jpg", "b");
+    destination_ = row.oneFileSystem ? source_ / "to/" : target_.path();
+    ASSERT_TRUE(QDir().mkpath(QString::fromUtf8(destination_)));
+    fileops::Journal journal(fs_, state.path(), port_);
+    settings_.transferMode = row.mode;
+    FileTransfer({source_.path(), settings_, port_, fs_, view_, &journal}).Run(destination_);
+    ASSERT_TRUE(WriteRaw(destination_ + "b.jpg", "b, edited"));
+    port_.Clear();
+    port_.Script(MessageAnswer::Yes);
+    fileops::OperationHistory history(journal, fs_, port_);
+    ASSERT_TRUE(history.UndoNewest());
+    const QString kind = row.mode == fileops::kMoveMode ? "Move" : "Copy";
+    EXPECT_EQ(port_.Texts().back(), "Undo of " + kind + " of 2 files: 1 file(s) were put back.\r\rThese files were left "
+                                    "as they are:\r'" + QString::fromUtf8(destination_) + "b.jpg' was passed over: it "
+                                    "has been renamed, moved, replaced or deleted since.");
+    const bool copy = row.mode == fileops::kCopyMode;
+    EXPECT_EQ(port_.messages.size(), copy ? 2u : 1u);
+    EXPECT_EQ(port_.messages.front().defaultButton == MessageAnswer::No, copy);
+    EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"b.jpg"});
+    EXPECT_EQ(ReadRaw(source_ / "a.jpg"), "a");
+    EXPECT_EQ(RawExists(source_ / "b.jpg"), copy);
+    ASSERT_TRUE(fs_.RemoveFile(destination_ + "b.jpg") == 0 && fs_.RemoveFile(source_ / "a.jpg") == 0);
+    fs_.RemoveFile(source_ / "b.jpg");
+  }
 }
 
 TEST(WriteProbe, WritesAndDeletesTheVeryNameAndRefusesPlantedNames) {
