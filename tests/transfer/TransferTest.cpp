@@ -150,16 +150,26 @@ TEST_F(TransferTest, CancelLetsTheFileInHandFinish) {
   EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"a.jpg"});
 }
 
-TEST_F(TransferTest, DiskFullMidCopyLeavesSourceAndNoPartialTarget) {
-  Source("a.jpg", "first");
-  Source("b.jpg", "second");
-  fs_.FailCopy(source_ / "b.jpg", platform::kErrnoBase + 28);
-  Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
-  EXPECT_EQ(port_.Texts(), QStringList{"Could not move file(s).\rError #1028"});
-  EXPECT_EQ(ReadRaw(source_ / "b.jpg"), "second");
-  // What was copied before the failure still completes its move.
-  EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"a.jpg"});
-  EXPECT_FALSE(RawExists(source_ / "a.jpg"));
+// A copy that fails stops the run, its source untouched; what was copied
+// before the failure still completes its move.
+TEST_F(TransferTest, FailedCopyStopsTheRunAndKeepsItsSource) {
+  const std::pair<int, QString> rows[] = {
+      {platform::kErrnoBase + 28, "Could not move file(s).\rError #1028"},
+      {platform::kPathFileAccess, "Could not move file(s).\rThe destination folder is 'Read Only' or Write Protected."}};
+  for (const auto& [error, text] : rows) {
+    port_.Clear();
+    fs_.ClearFaults();
+    view_.selected.clear();
+    Source("a.jpg", "first");
+    Source("b.jpg", "second");
+    fs_.FailCopy(source_ / "b.jpg", error);
+    Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
+    EXPECT_EQ(port_.Texts(), QStringList{text});
+    EXPECT_EQ(ReadRaw(source_ / "b.jpg"), "second");
+    EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"a.jpg"});
+    EXPECT_FALSE(RawExists(source_ / "a.jpg"));
+    fs_.RemoveFile(destination_ + "a.jpg");
+  }
 }
 
 TEST_F(TransferTest, VanishedDestinationIs76AndLeavesTheHistory) {
@@ -174,14 +184,8 @@ TEST_F(TransferTest, VanishedDestinationIs76AndLeavesTheHistory) {
   EXPECT_EQ(ReadRaw(source_ / "a.jpg"), "a");
 }
 
-TEST_F(TransferTest, ReadOnlyDestinationIs75AndSourceDeleteFailureAsks) {
+TEST_F(TransferTest, SourceThatCannotBeDeletedAsks) {
   Source("a.jpg", "a");
-  fs_.FailCopy(source_ / "a.jpg", platform::kPathFileAccess);
-  Run(fileops::kCopyMode, fileops::OverwritePolicy::Ask);
-  EXPECT_EQ(port_.Texts(), QStringList{"Could not copy file(s).\rThe destination folder is 'Read Only' or Write Protected."});
-
-  port_.Clear();
-  fs_.ClearFaults();
   fs_.FailRemove(source_ / "a.jpg", platform::kPathFileAccess);
   port_.Script(MessageAnswer::Ok);
   Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
@@ -231,39 +235,31 @@ TEST_F(TransferTest, CompanionThatCannotFollowTakesItsHeadBack) {
 // and is listed, the rest go back (the copies to the trash, after a question
 // whose default is No).
 TEST_F(TransferTest, UndoPutsBackAllButAChangedFile) {
-  struct Row {
-    int mode;
-    bool oneFileSystem;
-  };
-  const Row rows[] = {{fileops::kMoveMode, true}, {fileops::kMoveMode, false}, {fileops::kCopyMode, true}};
   ScratchFolder state;
-  for (const Row& row : rows) {
+  const std::pair<int, bool> rows[] = {{fileops::kMoveMode, true}, {fileops::kMoveMode, false}, {fileops::kCopyMode, true}};
+  for (const auto& [mode, oneFileSystem] : rows) {
     port_.Clear();
     view_.selected.clear();
     Source("a.jpg", "a");
     Source("b.jpg", "b");
-    destination_ = row.oneFileSystem ? source_ / "to/" : target_.path();
+    destination_ = oneFileSystem ? source_ / "to/" : target_.path();
     ASSERT_TRUE(QDir().mkpath(QString::fromUtf8(destination_)));
     fileops::Journal journal(fs_, state.path(), port_);
-    settings_.transferMode = row.mode;
+    settings_.transferMode = mode;
     FileTransfer({source_.path(), settings_, port_, fs_, view_, &journal}).Run(destination_);
     ASSERT_TRUE(WriteRaw(destination_ + "b.jpg", "b, edited"));
     port_.Clear();
     port_.Script(MessageAnswer::Yes);
-    fileops::OperationHistory history(journal, fs_, port_);
-    ASSERT_TRUE(history.UndoNewest());
-    const QString kind = row.mode == fileops::kMoveMode ? "Move" : "Copy";
-    EXPECT_EQ(port_.Texts().back(), "Undo of " + kind + " of 2 files: 1 file(s) were put back.\r\rThese files were left "
-                                    "as they are:\r'" + QString::fromUtf8(destination_) + "b.jpg' was passed over: it "
-                                    "has been renamed, moved, replaced or deleted since.");
-    const bool copy = row.mode == fileops::kCopyMode;
-    EXPECT_EQ(port_.messages.size(), copy ? 2u : 1u);
+    ASSERT_TRUE(fileops::OperationHistory(journal, fs_, port_).UndoNewest());
+    const bool copy = mode == fileops::kCopyMode;
+    EXPECT_EQ(port_.Texts().back(), QString("Undo of ") + (copy ? "Copy" : "Move") + " of 2 files: 1 file(s) were put "
+              "back.\r\rThese files were left as they are:\r'" + QString::fromUtf8(destination_) + "b.jpg' was passed "
+              "over: it has been renamed, moved, replaced or deleted since.");
     EXPECT_EQ(port_.messages.front().defaultButton == MessageAnswer::No, copy);
     EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"b.jpg"});
     EXPECT_EQ(ReadRaw(source_ / "a.jpg"), "a");
     EXPECT_EQ(RawExists(source_ / "b.jpg"), copy);
-    ASSERT_TRUE(fs_.RemoveFile(destination_ + "b.jpg") == 0 && fs_.RemoveFile(source_ / "a.jpg") == 0);
-    fs_.RemoveFile(source_ / "b.jpg");
+    for (const QByteArray& path : {source_ / "a.jpg", source_ / "b.jpg", destination_ + "b.jpg"}) fs_.RemoveFile(path);
   }
 }
 
