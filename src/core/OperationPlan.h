@@ -22,6 +22,9 @@ enum class StepKind : char {
   Rename = 'R',  // from -> to, the same file under a new name or place
   Copy = 'C',    // from stays; to is a new file with its contents
   Trash = 'T',   // from goes to the desktop's trash; to is empty
+  // from -> to on another file system: to is a copy, named only when
+  // complete, and from is removed once that name is on disk.
+  CopyThenRemove = 'M',
 };
 
 struct PlanStep {

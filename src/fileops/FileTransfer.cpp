@@ -2,12 +2,16 @@
 
 #include <cerrno>
 
+#include "core/CoreTexts.h"
+#include "core/PlanIdentity.h"
 #include "fileops/FolderHistory.h"
+#include "fileops/StagedCopies.h"
 #include "fileops/SmartName.h"
 #include "fileops/FileopsTexts.h"
 #include "fileops/WriteProtection.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/FileCopy.h"
+#include "platform/FileNumbers.h"
 
 namespace renvale::fileops {
 
@@ -43,9 +47,10 @@ void FileTransfer::Run(const QByteArray& destination) {
   move_ = context_.settings.transferMode == kMoveMode;
   renameOnly_ = move_ && OnOneFileSystem();
   summary_.emplace(verbs_);
-  RemoveLeftTemporaries();
-  TransferSelection();
+  StagedCopies::RemoveLeftTemporaries(context_.fs, destination_);
+  const bool ran = TransferSelection();
   context_.view.SetTransferring(false, 0);
+  if (!ran) return;
   context_.view.RefreshFileList();
   if (summary_->HasSmartNames()) {
     context_.messages.Notify(text::kSmartNameChanged);
@@ -85,53 +90,79 @@ bool FileTransfer::SourceMayBeMoved() {
   return false;
 }
 
-void FileTransfer::RemoveLeftTemporaries() {
-  std::vector<QByteArray> names;
-  if (context_.fs.ListFiles(destination_, &names) != 0) return;
-  for (const QByteArray& name : names) {
-    if (name.startsWith(platform::kTransferTemporaryPrefix)) context_.fs.RemoveFile(destination_ + name);
-  }
-}
-
-void FileTransfer::TransferSelection() {
+// False, after saying so, when the plan could not be kept: then nothing
+// was changed.
+bool FileTransfer::TransferSelection() {
   const std::vector<platform::FileName> selection = context_.view.SelectedFiles();
   index_ = core::FolderIndex::Read(context_.fs, context_.sourceFolder);
   finder_.emplace(index_, selection);
   context_.view.SetTransferring(true, static_cast<int>(selection.size()));
+  size_t stopAt = selection.size();
+  std::vector<Planned> planned = PlanSelection(selection, &stopAt);
+  std::optional<core::RecordedOperation> recorded;
+  if (!Record(planned, &recorded)) return false;
   Step step = Step::Next;
-  for (const platform::FileName& file : selection) {
+  size_t next = 0;
+  for (size_t i = 0; i < stopAt; ++i) {
     if (context_.view.CancelRequested()) {
       summary_->Cancel();
       break;
     }
-    if (!finder_->TravelsWithSelectedHead(file.raw)) step = TransferSet(file.raw);
+    if (next < planned.size() && planned[next].position == i) {
+      FileSet& set = planned[next++].set;
+      step = renameOnly_ ? RenameSet(set) : CopySet(set);
+    }
     if (step == Step::Stop) break;
     context_.view.AdvanceProgress();
     context_.view.ProcessEvents();
   }
   // What was copied before a cancel or an error still gets its name.
   CommitStaged();
+  return true;
 }
 
-FileTransfer::Step FileTransfer::TransferSet(const QByteArray& head) {
-  FileSet set = SetFor(head, head);
-  if (const Member* taken = FirstTaken(set)) {
-    switch (Decide(taken->to)) {
-      case Decision::Skip:
-        return Step::Next;
-      case Decision::Stop:
-        return Step::Stop;
-      case Decision::Replace:
-        set.replace = true;
-        break;
-      case Decision::SmartName:
-        TakeNextSmartName(&set);
-        break;
-      case Decision::Transfer:
-        break;
+// A Stop answer ends the list at its file: what came before still goes.
+std::vector<FileTransfer::Planned> FileTransfer::PlanSelection(const std::vector<platform::FileName>& selection,
+                                                               size_t* stopAt) {
+  std::vector<Planned> planned;
+  for (size_t i = 0; i < selection.size(); ++i) {
+    const QByteArray& head = selection[i].raw;
+    if (finder_->TravelsWithSelectedHead(head)) continue;
+    FileSet set = SetFor(head, head);
+    const Member* taken = FirstTaken(set);
+    const Decision decision = taken != nullptr ? Decide(taken->to) : Decision::Transfer;
+    if (decision == Decision::Stop) {
+      *stopAt = i;
+      break;
+    }
+    if (decision == Decision::Skip) continue;
+    set.replace = decision == Decision::Replace;
+    if (decision == Decision::SmartName) TakeNextSmartName(&set);
+    for (const Member& member : set.members) claimed_.insert(Target(member));
+    planned.push_back({i, std::move(set)});
+  }
+  return planned;
+}
+
+bool FileTransfer::Record(const std::vector<Planned>& planned, std::optional<core::RecordedOperation>* recorded) {
+  core::OperationPlan plan{move_ ? core::OperationKind::Move : core::OperationKind::Copy, context_.sourceFolder,
+                           QDateTime::currentDateTimeUtc(), {}};
+  if (context_.recorder != nullptr) {
+    const bool stable = platform::FileNumbersStable(context_.sourceFolder);
+    const core::StepKind kind = renameOnly_ ? core::StepKind::Rename
+                                : move_     ? core::StepKind::CopyThenRemove
+                                            : core::StepKind::Copy;
+    for (const Planned& entry : planned) {
+      for (const Member& member : entry.set.members) {
+        plan.steps.push_back({kind, Source(member), Target(member), core::IdentityOf(context_.fs, Source(member), stable)});
+      }
     }
   }
-  return renameOnly_ ? RenameSet(set) : CopySet(set);
+  recorded->emplace(context_.recorder, plan);
+  if ((*recorded)->Error() == platform::kNoError) return true;
+  context_.messages.Notify(core::texts::kPlanNotKept.arg(platform::ErrorDescription((*recorded)->Error())),
+                           MessageIcon::Critical);
+  return false;
 }
 
 FileTransfer::Decision FileTransfer::Decide(const QByteArray& takenName) {
@@ -180,7 +211,7 @@ FileTransfer::FileSet FileTransfer::SetFor(const QByteArray& head, const QByteAr
 
 const FileTransfer::Member* FileTransfer::FirstTaken(const FileSet& set) const {
   for (const Member& member : set.members) {
-    if (context_.fs.Exists(Target(member))) return &member;
+    if (claimed_.count(Target(member)) != 0 || context_.fs.Exists(Target(member))) return &member;
   }
   return nullptr;
 }

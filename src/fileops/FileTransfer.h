@@ -2,10 +2,12 @@
 
 #include <QByteArray>
 #include <optional>
+#include <unordered_set>
 #include <vector>
 
 #include "core/FileSetFinder.h"
 #include "core/FolderIndex.h"
+#include "core/RecordedOperation.h"
 #include "core/SettingsRecord.h"
 #include "fileops/TransferSummary.h"
 #include "fileops/TransferVerbs.h"
@@ -24,6 +26,7 @@ struct TransferContext {
   platform::MessagePort& messages;
   platform::FileSystem& fs;
   TransferView& view;
+  core::OperationRecorder* recorder = nullptr;  // none: nothing is kept for Undo
 };
 
 // Moves or copies the selected files (with the companions of their file
@@ -38,6 +41,10 @@ struct TransferContext {
 // then are the sources of a move deleted. A kill at any moment leaves each
 // file complete under its source or its destination name; the temporaries it
 // leaves are removed by the next transfer into that folder.
+//
+// Every set is decided (the overwrite questions, SmartName's names) before
+// the first change, so that the plan handed to the recorder names every
+// target: Undo and the recovery after a kill go by it.
 class FileTransfer {
  public:
   explicit FileTransfer(const TransferContext& context);
@@ -64,9 +71,14 @@ class FileTransfer {
   bool SourceMayBeMoved();
   bool IsSameFolder() const;
   bool OnOneFileSystem() const;
-  void RemoveLeftTemporaries();
-  void TransferSelection();
-  Step TransferSet(const QByteArray& head);
+  struct Planned {
+    size_t position;  // in the selection
+    FileSet set;
+  };
+
+  bool TransferSelection();
+  std::vector<Planned> PlanSelection(const std::vector<platform::FileName>& selection, size_t* stopAt);
+  bool Record(const std::vector<Planned>& planned, std::optional<core::RecordedOperation>* recorded);
   Decision Decide(const QByteArray& takenName);
 
   FileSet SetFor(const QByteArray& head, const QByteArray& finalHead) const;
@@ -97,6 +109,9 @@ class FileTransfer {
   core::FolderIndex index_;
   std::optional<core::FileSetFinder> finder_;
   std::vector<FileSet> staged_;
+  // Targets given to sets of this run but not yet named: SmartName must not
+  // pick one of them for a later set.
+  std::unordered_set<QByteArray> claimed_;
 };
 
 }  // namespace renvale::fileops

@@ -47,7 +47,7 @@ bool Unsigned(const QByteArray& text, quint64* value) {
   return ok;
 }
 
-bool KnownStepKind(char c) { return c == 'R' || c == 'C' || c == 'T'; }
+bool KnownStepKind(char c) { return c == 'R' || c == 'C' || c == 'T' || c == 'M'; }
 bool KnownOperationKind(char c) { return QByteArrayLiteral("rbsmctd").contains(c); }
 
 bool ReadStep(const QList<QByteArray>& fields, core::PlanStep* step) {

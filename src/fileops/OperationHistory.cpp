@@ -107,11 +107,15 @@ void OperationHistory::Recover(JournalEntry& entry) {
   };
   const int done = count(StepState::Done);
   const int notDone = count(StepState::NotDone);
+  // Settled without asking, the replay still runs: it has nothing to carry
+  // out but sweeps away the unnamed copies a transfer cut short left.
   if (notDone == 0 && count(StepState::Changed) == 0) {
+    PlanReplay(fs_, messages_).Finish(entry.plan);
     journal_.Mark(entry, State::Done);
     return;
   }
   if (done == 0 && count(StepState::Changed) == 0) {
+    PlanReplay(fs_, messages_).Undo(entry.plan);
     journal_.Mark(entry, State::Undone);
     return;
   }

@@ -19,6 +19,14 @@ StepState PlanOnDisk::StateOf(platform::FileSystem& fs, const core::PlanStep& st
     case core::StepKind::Trash:
       if (core::HoldsFile(fs, step.from, id)) return StepState::NotDone;
       return fs.Exists(step.from) ? StepState::Changed : StepState::Done;
+    case core::StepKind::CopyThenRemove:
+      // Named but the source not yet removed counts as not done: the file
+      // is still whole where the step found it.
+      if (core::HoldsFile(fs, step.to, id, false)) {
+        if (!fs.Exists(step.from)) return StepState::Done;
+        return core::HoldsFile(fs, step.from, id) ? StepState::NotDone : StepState::Changed;
+      }
+      return core::HoldsFile(fs, step.from, id) && !fs.Exists(step.to) ? StepState::NotDone : StepState::Changed;
   }
   return StepState::Changed;
 }

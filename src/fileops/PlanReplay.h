@@ -16,7 +16,8 @@ struct ReplayResult {
 // Carries a recorded plan forward (the rest of an operation a crash cut
 // short) or back (Undo). It uses the same no-replace renames as the
 // operations, so it never overwrites a file; a file that has changed since
-// the plan was made is left alone and listed.
+// the plan was made is left alone and listed. Copies, either way, are
+// named only when complete.
 class PlanReplay {
  public:
   PlanReplay(platform::FileSystem& fs, platform::MessagePort& messages);
@@ -28,6 +29,9 @@ class PlanReplay {
  private:
   int FinishStep(const core::PlanStep& step);
   int UndoStep(const core::PlanStep& step);
+  void SweepTemporaries(const core::OperationPlan& plan);
+  bool TakeBackUnremovedCopy(const core::PlanStep& step);
+  void Tally(const std::vector<int>& errors, const std::vector<const QByteArray*>& paths, ReplayResult* result);
   bool CopiesMayGo(int copies);
   void PassOver(ReplayResult* result, const QByteArray& path, const QString& why);
 

@@ -259,7 +259,7 @@ void MainWindow::ConnectRenameButtons() {
   });
   connect(ui_.Command13, &QPushButton::clicked, this, [this] {
     MoveFilesDialog::Run({settings_, services_.fs, services_.messages, services_.pickFolder, renameView_,
-                          session_.CurrentFolder},
+                          session_.CurrentFolder, services_.journal},
                          FileIsSelected(), this);
   });
   // Random numbers and file sets do not mix well; say so while it is ticked.

@@ -206,7 +206,7 @@ void MoveFilesDialog::OnTransfer() {
   // them moves, and the list is read afresh afterwards anyway.
   services_.mainView.ResetPreview(QString());
   fileops::FileTransfer transfer(
-      {services_.sourceFolder, services_.settings, services_.messages, services_.fs, *this});
+      {services_.sourceFolder, services_.settings, services_.messages, services_.fs, *this, services_.recorder});
   transfer.Run(platform::FileName::FromDisplay(services_.settings.lastMovePath).raw);
 }
 

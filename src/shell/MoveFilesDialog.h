@@ -14,6 +14,7 @@ class QPushButton;
 class QRadioButton;
 
 namespace renvale::core {
+class OperationRecorder;
 class RenameView;
 }  // namespace renvale::core
 namespace renvale::platform {
@@ -39,6 +40,7 @@ class MoveFilesDialog : public QDialog, public fileops::TransferView {
     FolderPicker pickFolder;
     core::RenameView& mainView;  // the main window's list
     QByteArray sourceFolder;
+    core::OperationRecorder* recorder = nullptr;  // keeps each transfer for Undo
   };
 
   MoveFilesDialog(Services services, QWidget* parent);

@@ -8,6 +8,7 @@
 #include "transfer/FakeTransferView.h"
 #include "core/SettingsRecord.h"
 #include "fileops/FileTransfer.h"
+#include "fileops/OperationHistory.h"
 #include "fileops/WriteProtection.h"
 #include "platform/ErrorNumbers.h"
 #include "support/FaultyFileSystem.h"
@@ -149,16 +150,26 @@ TEST_F(TransferTest, CancelLetsTheFileInHandFinish) {
   EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"a.jpg"});
 }
 
-TEST_F(TransferTest, DiskFullMidCopyLeavesSourceAndNoPartialTarget) {
-  Source("a.jpg", "first");
-  Source("b.jpg", "second");
-  fs_.FailCopy(source_ / "b.jpg", platform::kErrnoBase + 28);
-  Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
-  EXPECT_EQ(port_.Texts(), QStringList{"Could not move file(s).\rError #1028"});
-  EXPECT_EQ(ReadRaw(source_ / "b.jpg"), "second");
-  // What was copied before the failure still completes its move.
-  EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"a.jpg"});
-  EXPECT_FALSE(RawExists(source_ / "a.jpg"));
+// A copy that fails stops the run, its source untouched; what was copied
+// before the failure still completes its move.
+TEST_F(TransferTest, FailedCopyStopsTheRunAndKeepsItsSource) {
+  const std::pair<int, QString> rows[] = {
+      {platform::kErrnoBase + 28, "Could not move file(s).\rError #1028"},
+      {platform::kPathFileAccess, "Could not move file(s).\rThe destination folder is 'Read Only' or Write Protected."}};
+  for (const auto& [error, text] : rows) {
+    port_.Clear();
+    fs_.ClearFaults();
+    view_.selected.clear();
+    Source("a.jpg", "first");
+    Source("b.jpg", "second");
+    fs_.FailCopy(source_ / "b.jpg", error);
+    Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
+    EXPECT_EQ(port_.Texts(), QStringList{text});
+    EXPECT_EQ(ReadRaw(source_ / "b.jpg"), "second");
+    EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"a.jpg"});
+    EXPECT_FALSE(RawExists(source_ / "a.jpg"));
+    fs_.RemoveFile(destination_ + "a.jpg");
+  }
 }
 
 TEST_F(TransferTest, VanishedDestinationIs76AndLeavesTheHistory) {
@@ -173,14 +184,8 @@ TEST_F(TransferTest, VanishedDestinationIs76AndLeavesTheHistory) {
   EXPECT_EQ(ReadRaw(source_ / "a.jpg"), "a");
 }
 
-TEST_F(TransferTest, ReadOnlyDestinationIs75AndSourceDeleteFailureAsks) {
+TEST_F(TransferTest, SourceThatCannotBeDeletedAsks) {
   Source("a.jpg", "a");
-  fs_.FailCopy(source_ / "a.jpg", platform::kPathFileAccess);
-  Run(fileops::kCopyMode, fileops::OverwritePolicy::Ask);
-  EXPECT_EQ(port_.Texts(), QStringList{"Could not copy file(s).\rThe destination folder is 'Read Only' or Write Protected."});
-
-  port_.Clear();
-  fs_.ClearFaults();
   fs_.FailRemove(source_ / "a.jpg", platform::kPathFileAccess);
   port_.Script(MessageAnswer::Ok);
   Run(fileops::kMoveMode, fileops::OverwritePolicy::Ask);
@@ -223,6 +228,39 @@ TEST_F(TransferTest, CompanionThatCannotFollowTakesItsHeadBack) {
   EXPECT_TRUE(DestinationNames().empty());
   EXPECT_EQ(ReadRaw(source_ / "IMG_0002.CRW"), "raw");
   EXPECT_EQ(ReadRaw(source_ / "IMG_0002.THM"), "thumb");
+}
+
+// A move within one file system, one across, and a copy, each undone after
+// the person changed one of the files at the destination: that one stays
+// and is listed, the rest go back (the copies to the trash, after a question
+// whose default is No).
+TEST_F(TransferTest, UndoPutsBackAllButAChangedFile) {
+  ScratchFolder state;
+  const std::pair<int, bool> rows[] = {{fileops::kMoveMode, true}, {fileops::kMoveMode, false}, {fileops::kCopyMode, true}};
+  for (const auto& [mode, oneFileSystem] : rows) {
+    port_.Clear();
+    view_.selected.clear();
+    Source("a.jpg", "a");
+    Source("b.jpg", "b");
+    destination_ = oneFileSystem ? source_ / "to/" : target_.path();
+    ASSERT_TRUE(QDir().mkpath(QString::fromUtf8(destination_)));
+    fileops::Journal journal(fs_, state.path(), port_);
+    settings_.transferMode = mode;
+    FileTransfer({source_.path(), settings_, port_, fs_, view_, &journal}).Run(destination_);
+    ASSERT_TRUE(WriteRaw(destination_ + "b.jpg", "b, edited"));
+    port_.Clear();
+    port_.Script(MessageAnswer::Yes);
+    ASSERT_TRUE(fileops::OperationHistory(journal, fs_, port_).UndoNewest());
+    const bool copy = mode == fileops::kCopyMode;
+    EXPECT_EQ(port_.Texts().back(), QString("Undo of ") + (copy ? "Copy" : "Move") + " of 2 files: 1 file(s) were put "
+              "back.\r\rThese files were left as they are:\r'" + QString::fromUtf8(destination_) + "b.jpg' was passed "
+              "over: it has been renamed, moved, replaced or deleted since.");
+    EXPECT_EQ(port_.messages.front().defaultButton == MessageAnswer::No, copy);
+    EXPECT_EQ(DestinationNames(), std::vector<QByteArray>{"b.jpg"});
+    EXPECT_EQ(ReadRaw(source_ / "a.jpg"), "a");
+    EXPECT_EQ(RawExists(source_ / "b.jpg"), copy);
+    for (const QByteArray& path : {source_ / "a.jpg", source_ / "b.jpg", destination_ + "b.jpg"}) fs_.RemoveFile(path);
+  }
 }
 
 TEST(WriteProbe, WritesAndDeletesTheVeryNameAndRefusesPlantedNames) {
