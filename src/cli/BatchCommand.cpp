@@ -4,6 +4,7 @@
 #include <QJsonObject>
 #include <algorithm>
 #include <memory>
+#include <random>
 
 #include "cli/CliTexts.h"
 #include "core/BatchRename.h"
@@ -30,6 +31,11 @@ bool SameFile(const platform::FileInfo& a, const platform::FileInfo& b) {
 bool IsClashNote(const QString& note) {
   static const QString sameName = core::texts::kNoteSameNewName.section(QLatin1Char('%'), 0, 0);
   return note == core::texts::kNoteExistingFile || note.startsWith(sameName);
+}
+
+core::RandomSeriesPool::RandomSource SeededSource(quint32 seed) {
+  auto engine = std::make_shared<std::mt19937>(seed);
+  return [engine] { return std::generate_canonical<double, 53>(*engine); };
 }
 
 QByteArray Stem(const QByteArray& journalPath) {
@@ -108,22 +114,27 @@ void BatchCommand::Select(core::RenameSession& session, const Group& group) {
 
 // The series box as the window shows it: the number in the digits of the
 // "Placeholders" setting.
-QString BatchCommand::FirstSeries(const BatchArguments& args) {
-  HeadlessRenameView view({}, {}, QString::number(args.series.value_or(1)));
+QString BatchCommand::SeriesBox(qint64 number) {
+  HeadlessRenameView view({}, {}, QString::number(number));
   core::ViewSeriesBox box(view);
   core::SeriesCounter(box, services_.settings).ReformatSeriesBox();
   return view.SeriesText();
 }
 
 // Works out every group's names before any file is touched; the series runs
-// on from one folder to the next.
-bool BatchCommand::PreviewAll(const QString& base, const QString& firstSeries,
-                              std::vector<std::unique_ptr<GroupRun>>* runs) {
-  QString series = firstSeries;
+// on from one folder to the next. A random series shuffles each folder's
+// own numbers, so that every number is still handed out once; one source
+// draws for all folders, so one seed repeats the whole run.
+bool BatchCommand::PreviewAll(const BatchArguments& args, std::vector<std::unique_ptr<GroupRun>>* runs) {
+  const QString& base = args.name;
+  qint64 number = args.series.value_or(1);
+  QString series = SeriesBox(number);
+  const core::RandomSeriesPool::RandomSource random =
+      args.seed ? SeededSource(*args.seed) : core::RandomSeriesPool::TimeSeededSource();
   for (const Group& group : groups_) {
-    auto run = std::make_unique<GroupRun>(group, base, series);
+    auto run = std::make_unique<GroupRun>(group, base, series, args.randomSeries);
     Select(run->session, group);
-    run->preview = core::PreviewBatch(Context(run->session, run->view));
+    run->preview = core::PreviewBatch(Context(run->session, run->view), random);
     if (!run->preview.stopText.isEmpty()) {
       // The window's words point at its Help button; the one way to meet
       // them here is a name that is the first file's own.
@@ -131,7 +142,13 @@ bool BatchCommand::PreviewAll(const QString& base, const QString& firstSeries,
       Fail(ownName ? texts::kNameIsFirstFile.arg(base) : HeadlessMessagePort::OneLine(run->preview.stopText));
       return false;
     }
-    series = run->preview.naming.seriesAtEnd;
+    if (args.randomSeries) {
+      const auto& named = run->preview.naming.files;
+      number += std::count_if(named.begin(), named.end(), [](const core::NamedFile& f) { return f.seriesTaken; });
+      series = SeriesBox(number);
+    } else {
+      series = run->preview.naming.seriesAtEnd;
+    }
     runs->push_back(std::move(run));
   }
   return true;
@@ -149,7 +166,7 @@ std::vector<OutputRow> BatchCommand::Rows(const GroupRun& run) const {
 
 int BatchCommand::RunName(const BatchArguments& args) {
   std::vector<std::unique_ptr<GroupRun>> runs;
-  if (!PreviewAll(args.name, FirstSeries(args), &runs)) return kFailed;
+  if (!PreviewAll(args, &runs)) return kFailed;
   std::vector<OutputRow> rows;
   for (const auto& run : runs) {
     for (OutputRow& row : Rows(*run)) rows.push_back(std::move(row));

@@ -47,8 +47,8 @@ class BatchCommand {
   };
   // A group's batch from names to outcome.
   struct GroupRun {
-    GroupRun(const Group& group, const QString& base, const QString& series)
-        : group(group), view(base, group.files, series) {}
+    GroupRun(const Group& group, const QString& base, const QString& series, bool random)
+        : group(group), view(base, group.files, series, random) {}
     const Group& group;
     core::RenameSession session;
     HeadlessRenameView view;
@@ -60,8 +60,8 @@ class BatchCommand {
   void Select(core::RenameSession& session, const Group& group);
 
   int RunName(const BatchArguments& args);
-  QString FirstSeries(const BatchArguments& args);
-  bool PreviewAll(const QString& base, const QString& firstSeries, std::vector<std::unique_ptr<GroupRun>>* runs);
+  QString SeriesBox(qint64 number);
+  bool PreviewAll(const BatchArguments& args, std::vector<std::unique_ptr<GroupRun>>* runs);
   std::vector<OutputRow> Rows(const GroupRun& run) const;
   int RunReplace(const BatchArguments& args);
   std::vector<OutputRow> ReplaceRows(const Group& group, const std::vector<QByteArray>& newNames);

@@ -94,6 +94,35 @@ TEST_F(BatchRun, AnUndoneSwapPutsBothFilesBack) {
   EXPECT_EQ(names.size(), 2u);
 }
 
+// A script checks the dry run, then runs it: the same seed gives the same
+// names, each folder shuffling its own share of the numbers.
+TEST_F(BatchRun, ASeededRandomSeriesRunsAsItsDryRunShowedOverTwoFolders) {
+  QDir().mkpath(QFile::decodeName(card) + "sub");
+  const char* files[] = {"a.jpg", "b.jpg", "c.jpg", "d.jpg", "sub/e.jpg", "sub/f.jpg"};
+  for (const char* name : files) Make(name);
+  const auto run = [&](bool dry) {
+    std::vector<QByteArray> args{"--name", "S %SERIES%", "--series", "5", "--random-series", "--seed", "11"};
+    if (dry) args.emplace_back("--dry-run");
+    args.insert(args.end(), std::begin(files), std::end(files));
+    out.clear();
+    QTextStream outStream(&out);
+    QTextStream errStream(&err);
+    return BatchCommand(BatchServices{fs, settings, &journal, card}, outStream, errStream)
+        .Run(ParseBatchArguments(args));
+  };
+  EXPECT_EQ(run(true), kEveryFileNamed);
+  const QString shown = out;
+  EXPECT_EQ(run(false), kEveryFileNamed);
+  EXPECT_EQ(out, shown);
+  QStringList numbers;
+  for (const QString& line : shown.split('\n', Qt::SkipEmptyParts)) numbers << line.right(6).left(2);
+  QStringList first = numbers.mid(0, 4), second = numbers.mid(4);
+  EXPECT_NE(first, QStringList({"05", "06", "07", "08"})) << shown.toStdString();
+  first.sort();
+  second.sort();
+  EXPECT_EQ(first + second, QStringList({"05", "06", "07", "08", "09", "10"})) << shown.toStdString();
+}
+
 TEST_F(BatchRun, ReplaceChainsPairsAndAMissingFileStopsBeforeAnyChange) {
   Make("IMG_1.JPG");
   EXPECT_EQ(Run({"--replace", "IMG_=x", "--replace", "x1=Day 1", "IMG_1.JPG", "gone.jpg"}), kFailed);
