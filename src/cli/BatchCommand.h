@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QSet>
 #include <QTextStream>
+#include <optional>
 #include <vector>
 
 #include "cli/BatchArguments.h"
@@ -43,19 +45,23 @@ class BatchCommand {
     QByteArray folder;
     std::vector<platform::FileName> files;
     std::vector<QByteArray> given;
-    std::vector<platform::FileInfo> before;  // each file as found, to know it again after the run
+    // Each file as found just before the run, to know it again after it;
+    // only where its name alone cannot tell (see Remember).
+    std::vector<std::optional<platform::FileInfo>> before;
+    bool listed = false;  // many files: the folder is read whole instead of each file looked at
   };
   // A group's batch from names to outcome.
   struct GroupRun {
-    GroupRun(const Group& group, const QString& base, const QString& series, bool random)
+    GroupRun(Group& group, const QString& base, const QString& series, bool random)
         : group(group), view(base, group.files, series, random) {}
-    const Group& group;
+    Group& group;
     core::RenameSession session;
     HeadlessRenameView view;
     core::BatchPreview preview;
   };
 
   bool Resolve(const std::vector<QByteArray>& files);
+  bool Found(const QByteArray& given, const QByteArray& path, const QSet<QByteArray>* listing);
   core::RenameContext Context(core::RenameSession& session, core::RenameView& view);
   void Select(core::RenameSession& session, const Group& group);
 
@@ -68,6 +74,7 @@ class BatchCommand {
   int RunHistory(const BatchArguments& args);
   int RunUndo(const BatchArguments& args);
 
+  void Remember(Group& group, const std::vector<OutputRow>& rows);
   void Settle(const Group& group, std::vector<OutputRow>* rows);
   int Report(const std::vector<OutputRow>& rows, bool dryRun, bool json);
   bool ClashFound(const std::vector<OutputRow>& rows);

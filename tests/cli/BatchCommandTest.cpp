@@ -123,6 +123,38 @@ TEST_F(BatchRun, ASeededRandomSeriesRunsAsItsDryRunShowedOverTwoFolders) {
   EXPECT_EQ(first + second, QStringList({"05", "06", "07", "08", "09", "10"})) << shown.toStdString();
 }
 
+// A card's worth of files is checked and settled against readings of the
+// folder: a long chain of swaps, a clash and a plain rename among them must
+// each still be reported as what happened.
+TEST_F(BatchRun, ManyFilesOfOneFolderAreReportedAsTheyEnded) {
+  std::vector<QByteArray> args{"--name", "Trip %SERIES%"};
+  for (int i = 33; i >= 1; --i) {
+    args.push_back("Trip " + QByteArray::number(i).rightJustified(2, '0') + ".jpg");
+    Make(args.back());
+  }
+  Make("x.jpg");
+  Make("y.jpg");
+  Make("Trip 34.jpg");  // outside the batch, in x's way
+  args.insert(args.end(), {"x.jpg", "y.jpg"});
+  std::vector<QByteArray> missing = args;
+  missing.emplace_back("gone.jpg");
+  QTextStream outStream(&out);
+  QTextStream errStream(&err);
+  BatchCommand command(BatchServices{fs, settings, &journal, card}, outStream, errStream);
+  EXPECT_EQ(BatchCommand(BatchServices{fs, settings, &journal, card}, outStream, errStream)
+                .Run(ParseBatchArguments(missing)),
+            kFailed);
+  EXPECT_EQ(err, QStringLiteral("renvale-batch: no such file: 'gone.jpg'\n"));
+  err.clear();
+  EXPECT_EQ(command.Run(ParseBatchArguments(args)), kSomeSkipped);
+  EXPECT_EQ(err, QStringLiteral("renvale-batch: skipped 'x.jpg': 'Trip 34.jpg' is already taken\n"));
+  EXPECT_EQ(out.count(QLatin1Char('\n')), 33);  // Trip 17 keeps its name
+  EXPECT_TRUE(out.startsWith(QStringLiteral("Trip 33.jpg \u2192 Trip 01.jpg\n")));
+  EXPECT_TRUE(out.endsWith(QStringLiteral("Trip 01.jpg \u2192 Trip 33.jpg\ny.jpg \u2192 Trip 35.jpg\n")));
+  EXPECT_EQ(Holds("Trip 01.jpg"), "Trip 33.jpg");
+  EXPECT_EQ(Holds("x.jpg"), "x.jpg");
+}
+
 TEST_F(BatchRun, ReplaceChainsPairsAndAMissingFileStopsBeforeAnyChange) {
   Make("IMG_1.JPG");
   EXPECT_EQ(Run({"--replace", "IMG_=x", "--replace", "x1=Day 1", "IMG_1.JPG", "gone.jpg"}), kFailed);
