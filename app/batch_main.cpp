@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QTextStream>
 #include <cstdio>
+#include <optional>
 
 #include "cli/BatchArguments.h"
 #include "cli/BatchCommand.h"
@@ -34,9 +35,14 @@ int main(int argc, char** argv) {
   QTextStream err(stderr);
   cli::HeadlessMessagePort journalMessages;
   platform::FileSystem& fs = platform::RealFileSystem();
-  QDir().mkpath(platform::StateFolder() + QStringLiteral("damaged"));
-  fileops::Journal journal(fs, QFile::encodeName(platform::StateFolder()), journalMessages);
-  cli::BatchServices services{fs, settings, &journal, platform::CurrentDirectory()};
+  // A dry run changes nothing, so it neither reads nor makes the history.
+  std::optional<fileops::Journal> journal;
+  const bool renames = parsed.action == cli::Action::Name || parsed.action == cli::Action::Replace;
+  if (renames ? !parsed.dryRun : parsed.action != cli::Action::Help) {
+    QDir().mkpath(platform::StateFolder() + QStringLiteral("damaged"));
+    journal.emplace(fs, QFile::encodeName(platform::StateFolder()), journalMessages);
+  }
+  cli::BatchServices services{fs, settings, journal ? &*journal : nullptr, platform::CurrentDirectory()};
   const int status = cli::BatchCommand(services, out, err).Run(parsed);
   // A journal the window could not read either is set aside and told about.
   for (const QString& line : std::as_const(journalMessages.lines)) err << line << '\n';

@@ -27,6 +27,7 @@
 #include <string>
 #include <vector>
 
+#include "common/BenchPictures.h"
 #include "fileops/Journal.h"
 #include "platform/FileSystem.h"
 #include "platform/MountList.h"
@@ -40,48 +41,10 @@
 
 namespace {
 
-constexpr int kFileCount = 10000;
-const QByteArray kFolder = QByteArrayLiteral("/tmp/renvale-bench-batch/");
-
-const QByteArray kPictures = QByteArrayLiteral("/tmp/renvale-bench-pictures/");
-
-QByteArray PictureName(int i) { return "IMG_" + QByteArray::number(i) + ".JPG"; }
-
-// Distinct pictures, one second apart, written once per run.
-void MakePictures() {
-  QDir(QString::fromUtf8(kPictures)).removeRecursively();
-  QDir().mkpath(QString::fromUtf8(kPictures));
-  renvale::test::ExifFields fields = renvale::test::TypicalExifFields();
-  for (int i = 0; i < kFileCount; ++i) {
-    fields.dateTimeOriginal = QStringLiteral("2004:07:%1 %2:%3:%4")
-                                  .arg(1 + i / 86400, 2, 10, QLatin1Char('0'))
-                                  .arg(i / 3600 % 24, 2, 10, QLatin1Char('0'))
-                                  .arg(i / 60 % 60, 2, 10, QLatin1Char('0'))
-                                  .arg(i % 60, 2, 10, QLatin1Char('0'));
-    const QByteArray bytes = renvale::test::MakeExifJpeg(&fields);
-    const QByteArray path = kPictures + PictureName(i);
-    const int fd = open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    if (fd < 0 || write(fd, bytes.constData(), static_cast<size_t>(bytes.size())) != bytes.size()) std::abort();
-    close(fd);
-  }
-}
-
-// A fresh folder of the pictures for one contender. Linking them in is
-// quicker than writing 10,000 files again, and a rename moves only the
-// folder entry either way.
-void MakeFolder() {
-  static const bool made = (MakePictures(), true);
-  (void)made;
-  QDir(QString::fromUtf8(kFolder)).removeRecursively();
-  QDir().mkpath(QString::fromUtf8(kFolder));
-  for (int i = 0; i < kFileCount; ++i) {
-    const QByteArray name = PictureName(i);
-    if (link((kPictures + name).constData(), (kFolder + name).constData()) != 0) std::abort();
-  }
-  // Settle the disk before timing, so that every contender renames on a
-  // quiet one instead of racing the writeback of its own set-up.
-  sync();
-}
+using renvale::bench::MakeBatchFolder;
+using renvale::bench::PictureName;
+constexpr int kFileCount = renvale::bench::kPictureCount;
+const QByteArray kFolder = renvale::bench::kBatchFolder;
 
 // User and system CPU seconds of this process so far.
 struct CpuSplit {
@@ -125,7 +88,7 @@ std::vector<std::string> Names() {
 }
 
 Run FloorOnce() {
-  MakeFolder();
+  MakeBatchFolder();
   const std::vector<std::string> names = Names();
   std::vector<char> buffer(64 * 1024);
   return Time([&] {
@@ -165,7 +128,7 @@ class RenvaleWindow {
 
   // Empty when every file was renamed without a word.
   std::string BatchOnce(Run* run) {
-    MakeFolder();
+    MakeBatchFolder();
     window_.ChangeFolder(kFolder);
     window_.SelectAll();
     QApplication::processEvents();
@@ -191,7 +154,7 @@ class RenvaleWindow {
 bool JheadInstalled() { return system("command -v jhead >/dev/null 2>&1") == 0; }
 
 Run JheadOnce() {
-  MakeFolder();
+  MakeBatchFolder();
   const std::string command = "cd " + kFolder.toStdString() + " && jhead -q -n%Y-%m-%d_%H-%M-%S *.JPG >/dev/null";
   return Time([&] {
     if (system(command.c_str()) != 0) std::abort();
@@ -303,7 +266,6 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();
-  QDir(QString::fromUtf8(kFolder)).removeRecursively();
-  QDir(QString::fromUtf8(kPictures)).removeRecursively();
+  renvale::bench::RemoveBatchFolders();
   return 0;
 }

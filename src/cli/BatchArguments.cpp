@@ -74,6 +74,10 @@ class Parser {
       if (const auto value = Value(option, inlineValue)) out_.name = *value;
     } else if (option == QLatin1String("--series")) {
       if (const auto value = Value(option, inlineValue)) TakeSeries(*value);
+    } else if (option == QLatin1String("--random-series")) {
+      out_.randomSeries = true;
+    } else if (option == QLatin1String("--seed")) {
+      if (const auto value = Value(option, inlineValue)) TakeSeed(*value);
     } else if (option == QLatin1String("--replace")) {
       SetAction(Action::Replace);
       if (const auto value = Value(option, inlineValue)) TakeReplacement(*value);
@@ -107,6 +111,16 @@ class Parser {
       return;
     }
     out_.series = number;
+  }
+
+  void TakeSeed(const QString& value) {
+    bool ok = false;
+    const quint32 seed = value.toUInt(&ok);
+    if (!ok || value.startsWith(QLatin1Char('+'))) {
+      Fail(texts::kBadSeed.arg(value));
+      return;
+    }
+    out_.seed = seed;
   }
 
   void TakeReplacement(const QString& value) {
@@ -149,6 +163,8 @@ class Parser {
           Fail(texts::kEmptyName);
         } else if (core::HasInvalidFilenameChars(out_.name)) {
           Fail(texts::kForbiddenCharacter.arg(out_.name));
+        } else if (out_.seed && !out_.randomSeries) {
+          Fail(texts::kSeedWithoutRandom);
         }
         break;
       case Action::Replace:

@@ -17,6 +17,8 @@ struct BatchArguments {
   QString name;
   std::optional<qint64> series;
   std::vector<std::pair<QString, QString>> replacements;  // in the order given
+  bool randomSeries = false;
+  std::optional<quint32> seed;  // the random series' seed; none: the time of day
   bool failOnClash = false;
   bool dryRun = false;
   bool json = false;

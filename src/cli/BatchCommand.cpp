@@ -4,6 +4,7 @@
 #include <QJsonObject>
 #include <algorithm>
 #include <memory>
+#include <random>
 
 #include "cli/CliTexts.h"
 #include "core/BatchRename.h"
@@ -22,6 +23,10 @@ namespace renvale::cli {
 
 namespace {
 
+// From this many files of one folder on, reading the whole folder once is
+// quicker than looking at each file.
+constexpr int kListFrom = 32;
+
 bool SameFile(const platform::FileInfo& a, const platform::FileInfo& b) {
   return a.device == b.device && a.inode == b.inode;
 }
@@ -30,6 +35,11 @@ bool SameFile(const platform::FileInfo& a, const platform::FileInfo& b) {
 bool IsClashNote(const QString& note) {
   static const QString sameName = core::texts::kNoteSameNewName.section(QLatin1Char('%'), 0, 0);
   return note == core::texts::kNoteExistingFile || note.startsWith(sameName);
+}
+
+core::RandomSeriesPool::RandomSource SeededSource(quint32 seed) {
+  auto engine = std::make_shared<std::mt19937>(seed);
+  return [engine] { return std::generate_canonical<double, 53>(*engine); };
 }
 
 QByteArray Stem(const QByteArray& journalPath) {
@@ -69,26 +79,49 @@ int BatchCommand::Fail(const QString& line) {
 }
 
 // Every file must be there before anything is renamed: a typing mistake in
-// the tenth name must not leave nine files renamed.
+// the tenth name must not leave nine files renamed. A card's worth of files
+// from one folder is checked against one reading of the folder, not a look
+// at each file; a name missing from it is looked at on its own, for the
+// exact reason (or because it appeared since).
 bool BatchCommand::Resolve(const std::vector<QByteArray>& files) {
+  std::vector<QByteArray> paths;
+  paths.reserve(files.size());
+  QHash<QByteArray, int> perFolder;
   for (const QByteArray& given : files) {
-    const QByteArray path = given.startsWith('/') ? given : services_.currentDirectory + given;
-    platform::FileInfo info;
-    if (services_.fs.Stat(path, &info) != 0) {
-      Fail(texts::kMissingFile.arg(platform::FileName::NameToText(given)));
-      return false;
-    }
-    if (info.isDir) {
-      Fail(texts::kNotAFile.arg(platform::FileName::NameToText(given)));
-      return false;
-    }
+    paths.push_back(given.startsWith('/') ? given : services_.currentDirectory + given);
+    ++perFolder[paths.back().left(paths.back().lastIndexOf('/') + 1)];
+  }
+  QHash<QByteArray, QSet<QByteArray>> listings;
+  for (auto it = perFolder.cbegin(); it != perFolder.cend(); ++it) {
+    std::vector<QByteArray> names;
+    if (it.value() < kListFrom || services_.fs.ListFiles(it.key(), &names) != 0) continue;
+    listings.insert(it.key(), QSet<QByteArray>(names.begin(), names.end()));
+  }
+  for (size_t i = 0; i < files.size(); ++i) {
+    const QByteArray& path = paths[i];
     const qsizetype slash = path.lastIndexOf('/');
     const QByteArray folder = path.left(slash + 1);
+    const auto listing = listings.constFind(folder);
+    if (!Found(files[i], path, listing == listings.cend() ? nullptr : &*listing)) return false;
     auto group = std::find_if(groups_.begin(), groups_.end(), [&](const Group& g) { return g.folder == folder; });
-    if (group == groups_.end()) group = groups_.insert(groups_.end(), Group{folder, {}, {}, {}});
+    if (group == groups_.end()) group = groups_.insert(groups_.end(), Group{folder, {}, {}, {}, listing != listings.cend()});
     group->files.push_back(platform::FileName{path.mid(slash + 1)});
-    group->given.push_back(given);
-    group->before.push_back(info);
+    group->given.push_back(files[i]);
+    group->before.emplace_back();
+  }
+  return true;
+}
+
+bool BatchCommand::Found(const QByteArray& given, const QByteArray& path, const QSet<QByteArray>* listing) {
+  if (listing != nullptr && listing->contains(path.mid(path.lastIndexOf('/') + 1))) return true;
+  platform::FileInfo info;
+  if (services_.fs.Stat(path, &info) != 0) {
+    Fail(texts::kMissingFile.arg(platform::FileName::NameToText(given)));
+    return false;
+  }
+  if (info.isDir) {
+    Fail(texts::kNotAFile.arg(platform::FileName::NameToText(given)));
+    return false;
   }
   return true;
 }
@@ -108,22 +141,27 @@ void BatchCommand::Select(core::RenameSession& session, const Group& group) {
 
 // The series box as the window shows it: the number in the digits of the
 // "Placeholders" setting.
-QString BatchCommand::FirstSeries(const BatchArguments& args) {
-  HeadlessRenameView view({}, {}, QString::number(args.series.value_or(1)));
+QString BatchCommand::SeriesBox(qint64 number) {
+  HeadlessRenameView view({}, {}, QString::number(number));
   core::ViewSeriesBox box(view);
   core::SeriesCounter(box, services_.settings).ReformatSeriesBox();
   return view.SeriesText();
 }
 
 // Works out every group's names before any file is touched; the series runs
-// on from one folder to the next.
-bool BatchCommand::PreviewAll(const QString& base, const QString& firstSeries,
-                              std::vector<std::unique_ptr<GroupRun>>* runs) {
-  QString series = firstSeries;
-  for (const Group& group : groups_) {
-    auto run = std::make_unique<GroupRun>(group, base, series);
+// on from one folder to the next. A random series shuffles each folder's
+// own numbers, so that every number is still handed out once; one source
+// draws for all folders, so one seed repeats the whole run.
+bool BatchCommand::PreviewAll(const BatchArguments& args, std::vector<std::unique_ptr<GroupRun>>* runs) {
+  const QString& base = args.name;
+  qint64 number = args.series.value_or(1);
+  QString series = SeriesBox(number);
+  const core::RandomSeriesPool::RandomSource random =
+      args.seed ? SeededSource(*args.seed) : core::RandomSeriesPool::TimeSeededSource();
+  for (Group& group : groups_) {
+    auto run = std::make_unique<GroupRun>(group, base, series, args.randomSeries);
     Select(run->session, group);
-    run->preview = core::PreviewBatch(Context(run->session, run->view));
+    run->preview = core::PreviewBatch(Context(run->session, run->view), random);
     if (!run->preview.stopText.isEmpty()) {
       // The window's words point at its Help button; the one way to meet
       // them here is a name that is the first file's own.
@@ -131,7 +169,13 @@ bool BatchCommand::PreviewAll(const QString& base, const QString& firstSeries,
       Fail(ownName ? texts::kNameIsFirstFile.arg(base) : HeadlessMessagePort::OneLine(run->preview.stopText));
       return false;
     }
-    series = run->preview.naming.seriesAtEnd;
+    if (args.randomSeries) {
+      const auto& named = run->preview.naming.files;
+      number += std::count_if(named.begin(), named.end(), [](const core::NamedFile& f) { return f.seriesTaken; });
+      series = SeriesBox(number);
+    } else {
+      series = run->preview.naming.seriesAtEnd;
+    }
     runs->push_back(std::move(run));
   }
   return true;
@@ -139,6 +183,7 @@ bool BatchCommand::PreviewAll(const QString& base, const QString& firstSeries,
 
 std::vector<OutputRow> BatchCommand::Rows(const GroupRun& run) const {
   std::vector<OutputRow> rows;
+  rows.reserve(run.preview.rows.size());
   for (size_t i = 0; i < run.preview.rows.size(); ++i) {
     const core::PreviewRow& shown = run.preview.rows[i];
     rows.push_back(OutputRow{run.group.given[i], shown.current, shown.newName, shown.dateSource, shown.notes,
@@ -149,8 +194,9 @@ std::vector<OutputRow> BatchCommand::Rows(const GroupRun& run) const {
 
 int BatchCommand::RunName(const BatchArguments& args) {
   std::vector<std::unique_ptr<GroupRun>> runs;
-  if (!PreviewAll(args.name, FirstSeries(args), &runs)) return kFailed;
+  if (!PreviewAll(args, &runs)) return kFailed;
   std::vector<OutputRow> rows;
+  rows.reserve(args.files.size());
   for (const auto& run : runs) {
     for (OutputRow& row : Rows(*run)) rows.push_back(std::move(row));
   }
@@ -165,8 +211,9 @@ int BatchCommand::RunName(const BatchArguments& args) {
   if (args.failOnClash && ClashFound(rows)) return kSomeSkipped;
   rows.clear();
   for (const auto& run : runs) {
-    core::BatchRename(Context(run->session, run->view)).StartBatchRename(&run->preview.naming);
     std::vector<OutputRow> groupRows = Rows(*run);
+    Remember(run->group, groupRows);
+    core::BatchRename(Context(run->session, run->view)).StartBatchRename(&run->preview.naming);
     Settle(run->group, &groupRows);
     for (OutputRow& row : groupRows) rows.push_back(std::move(row));
     if (port_.failed) break;  // the batch stopped at a failure; so does the run
@@ -217,6 +264,7 @@ int BatchCommand::RunReplace(const BatchArguments& args) {
     core::RenameSession session;
     HeadlessRenameView view({}, group.files, {});
     Select(session, group);
+    Remember(groups_[g], planned[g]);
     fileops::SilentSearchReplaceView quiet;
     fileops::SearchReplace(Context(session, view), quiet).Execute(terms);
     // The dialog's closing notice; here each file's line says it.
@@ -233,18 +281,43 @@ int BatchCommand::RunReplace(const BatchArguments& args) {
 
 // ---- outcome ---------------------------------------------------------------
 
-// Whether a file got its name is read from the disk: the file that was
-// there before is the one now under the new name.
+// Whether a file got its name is read from the disk afterwards. Mostly the
+// names tell: its new name is there and its old one gone. Where the old
+// name is one another file of the batch takes (a chain or a swap), or a
+// few files sit in a large folder, the file itself is looked at now and
+// known again by its identity.
+void BatchCommand::Remember(Group& group, const std::vector<OutputRow>& rows) {
+  QSet<QByteArray> taken;
+  for (const OutputRow& row : rows) taken.insert(platform::FileName::TextToName(row.newName).toLower());
+  for (size_t i = 0; i < rows.size(); ++i) {
+    if (group.listed && !taken.contains(group.files[i].raw.toLower())) continue;
+    platform::FileInfo info;
+    if (services_.fs.Stat(group.folder + group.files[i].raw, &info) == 0) group.before[i] = info;
+  }
+}
+
 void BatchCommand::Settle(const Group& group, std::vector<OutputRow>* rows) {
+  QSet<QByteArray> present;
+  if (group.listed) {
+    std::vector<QByteArray> names;
+    services_.fs.ListFiles(group.folder, &names);
+    present = QSet<QByteArray>(names.begin(), names.end());
+  }
   for (size_t i = 0; i < rows->size(); ++i) {
     OutputRow& row = (*rows)[i];
     if (row.newName == row.oldName) {
       row.status = OutputRow::Status::Unchanged;
       continue;
     }
-    platform::FileInfo now;
-    const bool there = services_.fs.Stat(group.folder + platform::FileName::TextToName(row.newName), &now) == 0;
-    row.status = there && SameFile(now, group.before[i]) ? OutputRow::Status::Renamed : OutputRow::Status::Skipped;
+    const QByteArray newName = platform::FileName::TextToName(row.newName);
+    bool renamed = false;
+    if (group.before[i]) {
+      platform::FileInfo now;
+      renamed = services_.fs.Stat(group.folder + newName, &now) == 0 && SameFile(now, *group.before[i]);
+    } else {
+      renamed = present.contains(newName) && !present.contains(group.files[i].raw);
+    }
+    row.status = renamed ? OutputRow::Status::Renamed : OutputRow::Status::Skipped;
   }
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QSet>
 #include <QTextStream>
+#include <optional>
 #include <vector>
 
 #include "cli/BatchArguments.h"
@@ -43,31 +45,36 @@ class BatchCommand {
     QByteArray folder;
     std::vector<platform::FileName> files;
     std::vector<QByteArray> given;
-    std::vector<platform::FileInfo> before;  // each file as found, to know it again after the run
+    // Each file as found just before the run, to know it again after it;
+    // only where its name alone cannot tell (see Remember).
+    std::vector<std::optional<platform::FileInfo>> before;
+    bool listed = false;  // many files: the folder is read whole instead of each file looked at
   };
   // A group's batch from names to outcome.
   struct GroupRun {
-    GroupRun(const Group& group, const QString& base, const QString& series)
-        : group(group), view(base, group.files, series) {}
-    const Group& group;
+    GroupRun(Group& group, const QString& base, const QString& series, bool random)
+        : group(group), view(base, group.files, series, random) {}
+    Group& group;
     core::RenameSession session;
     HeadlessRenameView view;
     core::BatchPreview preview;
   };
 
   bool Resolve(const std::vector<QByteArray>& files);
+  bool Found(const QByteArray& given, const QByteArray& path, const QSet<QByteArray>* listing);
   core::RenameContext Context(core::RenameSession& session, core::RenameView& view);
   void Select(core::RenameSession& session, const Group& group);
 
   int RunName(const BatchArguments& args);
-  QString FirstSeries(const BatchArguments& args);
-  bool PreviewAll(const QString& base, const QString& firstSeries, std::vector<std::unique_ptr<GroupRun>>* runs);
+  QString SeriesBox(qint64 number);
+  bool PreviewAll(const BatchArguments& args, std::vector<std::unique_ptr<GroupRun>>* runs);
   std::vector<OutputRow> Rows(const GroupRun& run) const;
   int RunReplace(const BatchArguments& args);
   std::vector<OutputRow> ReplaceRows(const Group& group, const std::vector<QByteArray>& newNames);
   int RunHistory(const BatchArguments& args);
   int RunUndo(const BatchArguments& args);
 
+  void Remember(Group& group, const std::vector<OutputRow>& rows);
   void Settle(const Group& group, std::vector<OutputRow>* rows);
   int Report(const std::vector<OutputRow>& rows, bool dryRun, bool json);
   bool ClashFound(const std::vector<OutputRow>& rows);

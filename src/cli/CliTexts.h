@@ -13,6 +13,8 @@ inline const QString kWarningPrefix = QStringLiteral("renvale-batch: warning: ")
 inline const QString kUnknownOption = QStringLiteral("unknown option '%1' (see renvale-batch --help)");
 inline const QString kNeedsValue = QStringLiteral("option '%1' needs a value");
 inline const QString kBadSeries = QStringLiteral("'--series' takes a whole number from 0 up, not '%1'");
+inline const QString kBadSeed = QStringLiteral("'--seed' takes a whole number from 0 to 4294967295, not '%1'");
+inline const QString kSeedWithoutRandom = QStringLiteral("'--seed' is for '--random-series' only");
 inline const QString kBadReplace = QStringLiteral("'--replace' takes SEARCH=REPLACEMENT with SEARCH not empty, not '%1'");
 inline const QString kTooManyReplace = QStringLiteral("at most six '--replace' pairs can be chained");
 inline const QString kBadOnClash = QStringLiteral("'--on-clash' takes 'skip' or 'fail', not '%1'");
@@ -41,7 +43,8 @@ inline const QString kArrow = QStringLiteral(" \u2192 ");
 inline const QString kNoteIndent = QStringLiteral("    ");
 
 inline const QString kHelp = QStringLiteral(
-    "Usage: renvale-batch --name BASE [--series N] [--on-clash=skip|fail] [--dry-run] [--json] FILE...\n"
+    "Usage: renvale-batch --name BASE [--series N] [--random-series [--seed S]] [--on-clash=skip|fail]\n"
+    "                     [--dry-run] [--json] FILE...\n"
     "       renvale-batch --replace SEARCH=REPLACEMENT [--replace ...] [--dry-run] [--json] FILE...\n"
     "       renvale-batch --history [--json]\n"
     "       renvale-batch --undo [ID]\n"
@@ -53,6 +56,10 @@ inline const QString kHelp = QStringLiteral(
     "  --name BASE        the new name; %DATE%, %TIME%, %DATE TIME%, %SERIES%, %ORIGFN%,\n"
     "                     %SERIAL%, %TITLE%, %ARTIST%, %ALBUM% and %TRACK% are filled in per file\n"
     "  --series N         the first series number (default 1)\n"
+    "  --random-series    hands the numbers N, N+1, ... out in a shuffled order, each once, as\n"
+    "                     \"Randomize Series #s\" does; the order is drawn anew each run\n"
+    "  --seed S           draws that order from S instead, so that a dry run and the run after\n"
+    "                     it with the same S (and the same files) give the same names\n"
     "  --replace S=R      replaces S by R in each name; up to six, applied in order\n"
     "  --on-clash=skip    a name already taken by a file outside the batch: that file is\n"
     "                     skipped with a line on standard error (the default)\n"

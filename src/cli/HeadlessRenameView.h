@@ -9,8 +9,8 @@ namespace renvale::cli {
 // box is a plain text the batch advances. Nothing is shown.
 class HeadlessRenameView : public core::RenameView {
  public:
-  HeadlessRenameView(QString base, std::vector<platform::FileName> files, QString series)
-      : base_(std::move(base)), files_(std::move(files)), series_(std::move(series)) {}
+  HeadlessRenameView(QString base, std::vector<platform::FileName> files, QString series, bool random = false)
+      : base_(std::move(base)), files_(std::move(files)), series_(std::move(series)), random_(random) {}
 
   QString NewNameText() const override { return base_; }
   // The batch shows each file's name here and empties it at the end; the
@@ -18,7 +18,7 @@ class HeadlessRenameView : public core::RenameView {
   void SetNewNameText(const QString&) override {}
   QString SeriesText() const override { return series_; }
   void SetSeriesText(const QString& text) override { series_ = text; }
-  bool RandomSeries() const override { return false; }
+  bool RandomSeries() const override { return random_; }
   std::vector<platform::FileName> SelectedFiles() const override { return files_; }
 
   void RefreshFileList() override {}
@@ -36,6 +36,7 @@ class HeadlessRenameView : public core::RenameView {
   QString base_;
   std::vector<platform::FileName> files_;
   QString series_;
+  bool random_;
 };
 
 }  // namespace renvale::cli

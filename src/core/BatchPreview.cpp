@@ -111,7 +111,7 @@ PreviewRow Row(const BatchNaming& naming, const Facts& facts, const FileRenamer&
 
 }  // namespace
 
-BatchPreview PreviewBatch(const RenameContext& context) {
+BatchPreview PreviewBatch(const RenameContext& context, RandomSeriesPool::RandomSource random) {
   BatchPreview preview;
   const QString base = context.view.NewNameText();
   const BatchBaseVerdict verdict =
@@ -124,7 +124,7 @@ BatchPreview PreviewBatch(const RenameContext& context) {
   const std::vector<platform::FileName> files = context.view.SelectedFiles();
   const FileRenamer renamer(context, context.session.CurrentFolder, files);
   preview.naming = NameBatch(context, renamer, files, BatchRename(context).FileBase(base),
-                             context.view.RandomSeries(), true);
+                             context.view.RandomSeries(), true, std::move(random));
   const Facts facts = Gather(preview.naming, renamer);
   preview.rows.reserve(files.size());
   for (size_t i = 0; i < files.size(); ++i) preview.rows.push_back(Row(preview.naming, facts, renamer, i));

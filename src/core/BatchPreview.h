@@ -27,6 +27,9 @@ struct BatchPreview {
   BatchNaming naming;    // handed to the batch, so it gives exactly these names
 };
 
-BatchPreview PreviewBatch(const RenameContext& context);
+// `random` draws the numbers of a random series: a caller that must show the
+// same names again (a script's dry run, then its run) hands one seeded alike.
+BatchPreview PreviewBatch(const RenameContext& context,
+                          RandomSeriesPool::RandomSource random = RandomSeriesPool::TimeSeededSource());
 
 }  // namespace renvale::core

@@ -40,21 +40,13 @@ class BatchRun : public ::testing::Test {
   QString out, err;
 };
 
-TEST_F(BatchRun, DryRunShowsNamesAndNotesAndTouchesNothing) {
-  Make("b.JPG");
-  Make("a.jpg");
-  Make("Trip 08.JPG");  // outside the batch, in the way of b's name
-  EXPECT_EQ(Run({"--name", "Trip %SERIES%", "--series", "7", "--dry-run", "a.jpg", "b.JPG"}), kSomeSkipped);
-  EXPECT_EQ(out, QStringLiteral("a.jpg \u2192 Trip 07.jpg\nb.JPG \u2192 Trip 08.JPG\n    ") +
-                     core::texts::kNoteExistingFile + '\n');
-  EXPECT_EQ(Holds("a.jpg"), "a.jpg");
-  EXPECT_EQ(Holds("Trip 07.jpg"), "(none)");
-}
-
-TEST_F(BatchRun, ARenameSkipsOnlyTheClashUnlessToldToFailAndUndoPutsEverythingBack) {
+TEST_F(BatchRun, ADryRunNotesTheClashARunSkipsItUnlessToldToFailAndUndoPutsEverythingBack) {
   Make("a.jpg");
   Make("b.jpg");
-  Make("Trip 02.jpg");
+  Make("Trip 02.jpg");  // outside the batch, in the way of b's name
+  EXPECT_EQ(Run({"--name", "Trip %SERIES%", "--dry-run", "a.jpg", "b.jpg"}), kSomeSkipped);
+  EXPECT_EQ(out, QStringLiteral("a.jpg \u2192 Trip 01.jpg\nb.jpg \u2192 Trip 02.jpg\n    ") +
+                     core::texts::kNoteExistingFile + '\n');
   EXPECT_EQ(Run({"--name", "Trip %SERIES%", "--on-clash=fail", "a.jpg", "b.jpg"}), kSomeSkipped);
   EXPECT_EQ(err, QStringLiteral("renvale-batch: nothing renamed: 'b.jpg' would take 'Trip 02.jpg', which is "
                                 "already taken (--on-clash=fail)\n"));
@@ -94,10 +86,69 @@ TEST_F(BatchRun, AnUndoneSwapPutsBothFilesBack) {
   EXPECT_EQ(names.size(), 2u);
 }
 
-TEST_F(BatchRun, ReplaceChainsPairsAndAMissingFileStopsBeforeAnyChange) {
-  Make("IMG_1.JPG");
-  EXPECT_EQ(Run({"--replace", "IMG_=x", "--replace", "x1=Day 1", "IMG_1.JPG", "gone.jpg"}), kFailed);
+// A script checks the dry run, then runs it: the same seed gives the same
+// names, each folder shuffling its own share of the numbers.
+TEST_F(BatchRun, ASeededRandomSeriesRunsAsItsDryRunShowedOverTwoFolders) {
+  QDir().mkpath(QFile::decodeName(card) + "sub");
+  const char* files[] = {"a.jpg", "b.jpg", "c.jpg", "d.jpg", "sub/e.jpg", "sub/f.jpg"};
+  for (const char* name : files) Make(name);
+  const auto run = [&](bool dry) {
+    std::vector<QByteArray> args{"--name", "S %SERIES%", "--series", "5", "--random-series", "--seed", "11"};
+    if (dry) args.emplace_back("--dry-run");
+    args.insert(args.end(), std::begin(files), std::end(files));
+    out.clear();
+    QTextStream outStream(&out);
+    QTextStream errStream(&err);
+    return BatchCommand(BatchServices{fs, settings, &journal, card}, outStream, errStream)
+        .Run(ParseBatchArguments(args));
+  };
+  EXPECT_EQ(run(true), kEveryFileNamed);
+  const QString shown = out;
+  EXPECT_EQ(run(false), kEveryFileNamed);
+  EXPECT_EQ(out, shown);
+  QStringList numbers;
+  for (const QString& line : shown.split('\n', Qt::SkipEmptyParts)) numbers << line.right(6).left(2);
+  QStringList first = numbers.mid(0, 4), second = numbers.mid(4);
+  EXPECT_NE(first, QStringList({"05", "06", "07", "08"})) << shown.toStdString();
+  first.sort();
+  second.sort();
+  EXPECT_EQ(first + second, QStringList({"05", "06", "07", "08", "09", "10"})) << shown.toStdString();
+}
+
+// A card's worth of files is checked and settled against readings of the
+// folder: a long chain of swaps, a clash and a plain rename among them must
+// each still be reported as what happened.
+TEST_F(BatchRun, ManyFilesOfOneFolderAreReportedAsTheyEnded) {
+  std::vector<QByteArray> args{"--name", "Trip %SERIES%"};
+  for (int i = 33; i >= 1; --i) {
+    args.push_back("Trip " + QByteArray::number(i).rightJustified(2, '0') + ".jpg");
+    Make(args.back());
+  }
+  Make("x.jpg");
+  Make("y.jpg");
+  Make("Trip 34.jpg");  // outside the batch, in x's way
+  args.insert(args.end(), {"x.jpg", "y.jpg"});
+  std::vector<QByteArray> missing = args;
+  missing.emplace_back("gone.jpg");
+  QTextStream outStream(&out);
+  QTextStream errStream(&err);
+  BatchCommand command(BatchServices{fs, settings, &journal, card}, outStream, errStream);
+  EXPECT_EQ(BatchCommand(BatchServices{fs, settings, &journal, card}, outStream, errStream)
+                .Run(ParseBatchArguments(missing)),
+            kFailed);
   EXPECT_EQ(err, QStringLiteral("renvale-batch: no such file: 'gone.jpg'\n"));
+  err.clear();
+  EXPECT_EQ(command.Run(ParseBatchArguments(args)), kSomeSkipped);
+  EXPECT_EQ(err, QStringLiteral("renvale-batch: skipped 'x.jpg': 'Trip 34.jpg' is already taken\n"));
+  EXPECT_EQ(out.count(QLatin1Char('\n')), 33);  // Trip 17 keeps its name
+  EXPECT_TRUE(out.startsWith(QStringLiteral("Trip 33.jpg \u2192 Trip 01.jpg\n")));
+  EXPECT_TRUE(out.endsWith(QStringLiteral("Trip 01.jpg \u2192 Trip 33.jpg\ny.jpg \u2192 Trip 35.jpg\n")));
+  EXPECT_EQ(Holds("Trip 01.jpg"), "Trip 33.jpg");
+  EXPECT_EQ(Holds("x.jpg"), "x.jpg");
+}
+
+TEST_F(BatchRun, ReplaceChainsPairs) {
+  Make("IMG_1.JPG");
   EXPECT_EQ(Run({"--replace", "IMG_=x", "--replace", "x1=Day 1", "IMG_1.JPG"}), kEveryFileNamed);
   EXPECT_EQ(out, QStringLiteral("IMG_1.JPG \u2192 Day 1.JPG\n"));
   EXPECT_EQ(Holds("Day 1.JPG"), "IMG_1.JPG");

@@ -40,11 +40,6 @@ TEST(BatchProcess, StatusAndOutputOfWholeRuns) {
   EXPECT_EQ(help.status, 0);
   EXPECT_TRUE(help.out.startsWith(QStringLiteral("Usage: renvale-batch --name BASE")));
 
-  const Result bad = RunBatch(card, {QStringLiteral("--name"), QStringLiteral("a|b"), QStringLiteral("IMG_0001.JPG")});
-  EXPECT_EQ(bad.status, 2);
-  EXPECT_EQ(bad.err.count(QLatin1Char('\n')), 1);
-  EXPECT_TRUE(bad.err.startsWith(QStringLiteral("renvale-batch: 'a|b' holds a character")));
-
   // The window's settings file: series numbers of three digits.
   QDir().mkpath(card + QStringLiteral("/.home/.config/MorventSoftware"));
   QFile conf(card + QStringLiteral("/.home/.config/MorventSoftware/Renvale.conf"));
