@@ -20,16 +20,19 @@
 #include "shell/PreviewPane.h"
 #include "support/FaultyFileSystem.h"
 #include "support/SampleAudio.h"
+#include "support/SampleVideo.h"
 
 namespace renvale::test {
 namespace {
 
-bool CanPlayWav() {
+// Whether Qt's GStreamer backend is there with all of the GStreamer `plugins`.
+bool CanPlay(const QStringList& plugins) {
   const QString qtPlugin = QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/multimedia/libgstreamermediaplugin.so";
   const QStringList gstFolders = {"/usr/lib/x86_64-linux-gnu/gstreamer-1.0", "/usr/lib/aarch64-linux-gnu/gstreamer-1.0",
                                   "/usr/lib/gstreamer-1.0", "/usr/lib64/gstreamer-1.0"};
-  return QFile::exists(qtPlugin) && std::any_of(gstFolders.begin(), gstFolders.end(), [](const QString& folder) {
-           return QFile::exists(folder + "/libgstwavparse.so");
+  return QFile::exists(qtPlugin) && std::any_of(gstFolders.begin(), gstFolders.end(), [&](const QString& folder) {
+           return std::all_of(plugins.begin(), plugins.end(),
+                              [&](const QString& plugin) { return QFile::exists(folder + "/libgst" + plugin + ".so"); });
          });
 }
 
@@ -46,7 +49,7 @@ bool HeldOpen(const QByteArray& path) {
 class MainWindowMedia : public MainWindowFixture {
  protected:
   void SetUp() override {
-    if (!CanPlayWav()) GTEST_SKIP() << "no GStreamer backend with a WAV reader";
+    if (!CanPlay({"wavparse"})) GTEST_SKIP() << "no GStreamer backend with a WAV reader";
     MainWindowFixture::SetUp();
   }
   QString Text(QLabel* label) { return label->text(); }
@@ -80,6 +83,31 @@ TEST_F(MainWindowMedia, PlaysASoundAndLetsGoOfItBeforeItIsRenamed) {
   ui.Text1->setText("tone.wav");
   ui.Command2->click();
   EXPECT_EQ(renames, 1);
+}
+
+// GStreamer knows neither the length of an MP3 nor a video's first frame
+// until its pipeline is paused: both show before Play.
+TEST_F(MainWindowMedia, ALoadedFileShowsItsLengthAndFirstFrameBeforePlay) {
+  if (!CanPlay({"audioparsers", "mpg123", "avi", "jpeg"})) GTEST_SKIP() << "no MP3 or Motion-JPEG reader";
+  MakeFile("song.mp3", MakeMp3(nullptr, 200));
+  MakeFile("clip.avi", MakeMotionJpegAvi(64, 48, 20, Qt::red));
+  shell::MainWindow& main = Open();
+  shell::MainWindowUi& ui = main.Ui();
+  shell::MediaPane& media = main.Preview().Media();
+  QSignalSpy ready(&media, &shell::MediaPane::Ready);
+  ClickRow(ListedNames().indexOf("song.mp3"));
+  ASSERT_TRUE(ready.wait(10000)) << Text(ui.previewCaption).toStdString();
+  QTRY_COMPARE_WITH_TIMEOUT(Text(ui.TotalLength).left(5), QString(" / 5."), 5000);
+  EXPECT_EQ(Text(ui.CurTime), ".00");
+  EXPECT_TRUE(ui.MediaButton[0]->isEnabled());  // Play
+  EXPECT_FALSE(ui.MediaButton[2]->isEnabled());  // Stop: it reads as stopped
+
+  ClickRow(ListedNames().indexOf("clip.avi"));
+  ASSERT_TRUE(ready.wait(10000)) << Text(ui.previewCaption).toStdString();
+  QTRY_VERIFY_WITH_TIMEOUT(!media.Player().FrameShown().isNull(), 5000);
+  EXPECT_GT(qRed(media.Player().FrameShown().pixel(32, 24)), 200);
+  EXPECT_EQ(Text(ui.TotalLength), " / 2.00");
+  QTRY_COMPARE_WITH_TIMEOUT(Text(ui.previewCaption), QString("clip.avi  -  64w X 48h"), 2000);
 }
 
 // A damaged file, and a named pipe, which the framework would wait on

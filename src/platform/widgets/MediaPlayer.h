@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QImage>
 #include <QObject>
 #include <QPointer>
 #include <QSize>
@@ -54,6 +55,8 @@ class MediaPlayer : public QObject {
   double FrameRate() const;  // 0 when the file does not say
   QString ErrorText() const { return error_; }
   QWidget* VideoWidget() const;
+  // The video frame on screen; empty when there is none.
+  QImage FrameShown() const;
 
  signals:
   void StateChanged(platform::MediaState state);
@@ -64,6 +67,7 @@ class MediaPlayer : public QObject {
 
  private:
   void SetState(MediaState state);
+  void Park();
   void FollowStatus();
   void FollowPlayback();
 
@@ -72,6 +76,7 @@ class MediaPlayer : public QObject {
   QPointer<QVideoWidget> video_;  // the window may delete it first
   UniqueFd held_;  // a file opened for the framework, see Load
   MediaState state_ = MediaState::Empty;
+  bool parked_ = false;  // paused at the start, standing for stopped
   QString error_;
 };
 
