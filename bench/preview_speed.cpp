@@ -2,8 +2,9 @@
 // (offscreen): 30 camera-size JPEGs (6000 x 4000, some turned by their EXIF
 // orientation) and RAW-shaped files with embedded previews, beside a plain
 // full-size QImageReader decode of the same files. Counters give the median
-// per file (wall and processor time), the longest time the window's event loop was kept waiting, and
-// how far the memory grew while arrowing through all of them.
+// per file (wall and processor time), the longest time the window's event
+// loop was kept waiting (at the first file, and after it), and how far the
+// memory grew while arrowing through all of them.
 #include <benchmark/benchmark.h>
 #include <unistd.h>
 
@@ -151,6 +152,7 @@ void ArrowThrough(benchmark::State& state, const QString& folder) {
   std::vector<double> times;
   std::vector<double> cpuTimes;
   double longestStall = 0;
+  double firstStall = 0;
   QElapsedTimer sinceTick;
   QTimer ticker;
   // Every few milliseconds rather than whenever the loop is idle: a timer
@@ -184,6 +186,8 @@ void ArrowThrough(benchmark::State& state, const QString& folder) {
       if (shown == 0) state.SkipWithError("no preview");
       times.push_back(clock.nsecsElapsed() / 1e6);
       cpuTimes.push_back(ProcessCpuMs() - cpuStart);
+      // The window's first picture pays once for what later ones reuse.
+      if (row == 0 && rssAfterFirst == 0) std::swap(firstStall, longestStall);
     }
     if (rssAfterFirst == 0) rssAfterFirst = ResidentKb();
   }
@@ -191,7 +195,8 @@ void ArrowThrough(benchmark::State& state, const QString& folder) {
   state.counters["median_ms"] = Median(times);
   state.counters["cpu_ms"] = Median(cpuTimes);
   state.counters["worst_ms"] = *std::max_element(times.begin(), times.end());
-  state.counters["loop_stall_ms"] = longestStall;
+  state.counters["loop_stall_first_file_ms"] = firstStall;
+  state.counters["loop_stall_later_ms"] = longestStall;
   state.counters["rss_first_pass_mb"] = double(rssAfterFirst - rssBefore) / 1024;
   state.counters["rss_growth_later_mb"] = double(ResidentKb() - rssAfterFirst) / 1024;
 }

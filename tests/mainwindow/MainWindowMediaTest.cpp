@@ -20,7 +20,6 @@
 #include "shell/PreviewPane.h"
 #include "support/FaultyFileSystem.h"
 #include "support/SampleAudio.h"
-#include "support/SampleVideo.h"
 
 namespace renvale::test {
 namespace {
@@ -86,31 +85,18 @@ TEST_F(MainWindowMedia, PlaysASoundAndLetsGoOfItBeforeItIsRenamed) {
   EXPECT_EQ(renames, 1);
 }
 
-// GStreamer knows neither the length of an MP3 nor a video's first frame
-// until its pipeline is paused: both show before Play.
-TEST_F(MainWindowMedia, ALoadedFileShowsItsLengthAndFirstFrameBeforePlay) {
-  if (!CanPlay({"audioparsers", "mpg123", "avi", "jpeg"})) GTEST_SKIP() << "no MP3 or Motion-JPEG reader";
-  // A VBR file: the length of one at a constant rate is known even without the pause.
+// GStreamer knows the length of a VBR MP3 (and a video's first frame) only
+// once its pipeline is paused: it shows before Play.
+TEST_F(MainWindowMedia, ALoadedMp3ShowsItsLengthBeforePlay) {
   QFile mp3(qEnvironmentVariable("RENVALE_TESTDATA") + "/mp3/mutagen__silence-44-s.mp3");
-  if (qEnvironmentVariableIsEmpty("RENVALE_TESTDATA") || !mp3.open(QIODevice::ReadOnly)) GTEST_SKIP() << "no MP3 files";
+  if (!CanPlay({"audioparsers", "mpg123"}) || !mp3.open(QIODevice::ReadOnly)) GTEST_SKIP() << "no MP3 reader or file";
   MakeFile("song.mp3", mp3.readAll());
-  MakeFile("clip.avi", MakeMotionJpegAvi(64, 48, 20, Qt::red));
   shell::MainWindow& main = Open();
-  shell::MainWindowUi& ui = main.Ui();
-  shell::MediaPane& media = main.Preview().Media();
-  QSignalSpy ready(&media, &shell::MediaPane::Ready);
-  ClickRow(ListedNames().indexOf("song.mp3"));
-  ASSERT_TRUE(ready.wait(10000)) << Text(ui.previewCaption).toStdString();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Text(ui.TotalLength) == " / 3.74"; }, 5000)) << Text(ui.TotalLength).toStdString();
-  EXPECT_EQ(Text(ui.CurTime), ".00");
-  EXPECT_FALSE(ui.MediaButton[2]->isEnabled());  // Stop: it reads as stopped
-
-  ClickRow(ListedNames().indexOf("clip.avi"));
-  ASSERT_TRUE(ready.wait(10000)) << Text(ui.previewCaption).toStdString();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !media.Player().FrameShown().isNull(); }, 5000));
-  EXPECT_GT(qRed(media.Player().FrameShown().pixel(32, 24)), 200);
-  EXPECT_EQ(Text(ui.TotalLength), " / 2.00");
-  EXPECT_TRUE(QTest::qWaitFor([&] { return Text(ui.previewCaption) == "clip.avi  -  64w X 48h"; }, 2000));
+  QSignalSpy ready(&main.Preview().Media(), &shell::MediaPane::Ready);
+  ClickRow(0);
+  ASSERT_TRUE(ready.wait(10000)) << Text(main.Ui().previewCaption).toStdString();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Text(main.Ui().TotalLength) == " / 3.74"; }, 5000));
+  EXPECT_FALSE(main.Ui().MediaButton[2]->isEnabled());  // Stop: the pause reads as stopped
 }
 
 // A damaged file, and a named pipe, which the framework would wait on
