@@ -8,7 +8,6 @@
 #include <QMediaMetaData>
 #include <QMediaPlayer>
 #include <QUrl>
-#include <QVideoFrame>
 #include <QVideoSink>
 #include <QVideoWidget>
 
@@ -127,10 +126,6 @@ bool MediaPlayer::Seekable() const { return player_->isSeekable(); }
 bool MediaPlayer::HasAudio() const { return player_->hasAudio(); }
 bool MediaPlayer::HasVideo() const { return player_->hasVideo(); }
 QWidget* MediaPlayer::VideoWidget() const { return video_; }
-
-QImage MediaPlayer::FrameShown() const {
-  return video_ ? video_->videoSink()->videoFrame().toImage() : QImage();
-}
 
 // Many files do not state their size; the first frame tells it then.
 QSize MediaPlayer::VideoSize() const {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QImage>
 #include <QObject>
 #include <QPointer>
 #include <QSize>
@@ -55,8 +54,6 @@ class MediaPlayer : public QObject {
   double FrameRate() const;  // 0 when the file does not say
   QString ErrorText() const { return error_; }
   QWidget* VideoWidget() const;
-  // The video frame on screen; empty when there is none.
-  QImage FrameShown() const;
 
  signals:
   void StateChanged(platform::MediaState state);
