@@ -46,7 +46,7 @@ MediaPane::MediaPane(MainWindowUi& ui, QObject* parent)
 void MediaPane::Show(const QByteArray& path, const QString& name) {
   name_ = name;
   ready_ = false;
-  ui_.previewCaption->setText(texts::kLoadingMedia);
+  ShowCaption(texts::kLoadingMedia);
   ui_.Gvbox1->clear();
   if (!player_->Load(path)) {
     Fail(texts::kNotARegularFile);
@@ -89,8 +89,7 @@ void MediaPane::OnFacts() {
   if (!ready_) return;
   const bool video = player_->HasVideo();
   const QSize size = player_->VideoSize();
-  ui_.previewCaption->setText(video && size.isValid() ? texts::PictureCaption(name_, size.width(), size.height())
-                                                      : name_);
+  ShowCaption(video && size.isValid() ? texts::PictureCaption(name_, size.width(), size.height()) : name_);
   player_->VideoWidget()->setVisible(video);
   ui_.Gvbox1->setVisible(!video);
   ShowControls();
@@ -103,7 +102,7 @@ void MediaPane::OnLoadTimeout() {
 
 void MediaPane::Fail(const QString& reason) {
   Release();
-  ui_.previewCaption->setText(texts::UnplayableCaption(name_, reason));
+  ShowCaption(texts::UnplayableCaption(name_, reason));
   emit Unplayable();
 }
 
@@ -111,6 +110,11 @@ void MediaPane::Fail(const QString& reason) {
 void MediaPane::Step(int direction) {
   if (player_->State() == MediaState::Playing) player_->Pause();
   player_->SetPosition(MediaControlRules::StepTarget(Facts(), direction));
+}
+
+void MediaPane::ShowCaption(const QString& text) {
+  caption_ = text;
+  ui_.previewCaption->setText(text);
 }
 
 void MediaPane::ShowControls() {

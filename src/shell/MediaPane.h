@@ -24,6 +24,9 @@ class MediaPane : public QObject {
   void Show(const QByteArray& path, const QString& name);
   // Closes the file and hides the player.
   void Release();
+  // Puts back the caption of the file on show after something else wrote
+  // over it.
+  void RestoreCaption() { ShowCaption(caption_); }
 
   platform::MediaPlayer& Player() { return *player_; }
   // How long a file may take to open before it counts as unplayable.
@@ -42,6 +45,7 @@ class MediaPane : public QObject {
   void OnLoadTimeout();
   void Fail(const QString& reason);
   void Step(int direction);
+  void ShowCaption(const QString& text);
   void ShowControls();
   void ShowTimes();
   MediaFacts Facts() const;
@@ -50,6 +54,7 @@ class MediaPane : public QObject {
   platform::MediaPlayer* player_ = nullptr;
   QTimer loadTimeout_;
   QString name_;
+  QString caption_;
   bool ready_ = false;
   bool showingPosition_ = false;  // the slider moves because the player did
 };

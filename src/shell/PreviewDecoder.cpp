@@ -52,8 +52,23 @@ QImage PreviewDecoder::Turned(const QImage& image, PreviewTurn turn) {
   return image;
 }
 
+QImage PreviewDecoder::ForArea(const QImage& image, const QSize& area, bool fill) {
+  const QSize size = image.size().scaled(area.expandedTo(QSize(1, 1)), fill ? Qt::IgnoreAspectRatio : Qt::KeepAspectRatio);
+  if (size == image.size()) return image;
+  return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+// The scaling to the area is done here, off the window's thread, so that
+// putting the picture on screen costs the window no more than a hand-over.
 DecodedPreview PreviewDecoder::Decode(platform::FileSystem& fs, const QByteArray& path, const QSize& area,
                                       bool fill) {
+  DecodedPreview result = DecodeUnscaled(fs, path, area, fill);
+  if (!result.image.isNull()) result.shown = ForArea(result.image, area, fill);
+  return result;
+}
+
+DecodedPreview PreviewDecoder::DecodeUnscaled(platform::FileSystem& fs, const QByteArray& path, const QSize& area,
+                                              bool fill) {
   DecodedPreview result;
   metadata::ExifReader exif;
   if (metadata::LoadExifQuietly(exif, fs, path, &result.exifError)) {

@@ -17,6 +17,7 @@ namespace renvale::shell {
 // area asks for and stood upright, with the size the caption names.
 struct DecodedPreview {
   QImage image;       // empty when nothing could be decoded
+  QImage shown;       // `image` already in the area's size, ready to be put on screen
   QSize ownSize;      // the picture's own pixel size (for a RAW, the RAW's where the file states it)
   metadata::PreviewTurn turn = metadata::PreviewTurn::None;
   QString exifError;  // the "EXIF Error: " text to show, if any
@@ -38,6 +39,9 @@ class PreviewDecoder {
   // small; never larger than the picture itself.
   static QSize DecodeSize(const QSize& picture, const QSize& area, metadata::PreviewTurn turn, bool fill);
   static QImage Turned(const QImage& image, metadata::PreviewTurn turn);
+  // The picture as the area shows it: stretched over all of it when
+  // `fill`, else fitted into it with its proportions.
+  static QImage ForArea(const QImage& image, const QSize& area, bool fill);
 
  private:
   struct Target {
@@ -46,6 +50,8 @@ class PreviewDecoder {
     metadata::PreviewTurn turn;
   };
 
+  static DecodedPreview DecodeUnscaled(platform::FileSystem& fs, const QByteArray& path, const QSize& area,
+                                       bool fill);
   static QImage DecodeDevice(QIODevice& device, const Target& target, QSize* ownSize);
   static QImage DecodeRaw(platform::FileSystem& fs, const QByteArray& path, const Target& target, QSize* ownSize);
   static QImage DecodeHeif(platform::FileSystem& fs, const QByteArray& path, const Target& target, QSize* ownSize);

@@ -52,6 +52,13 @@ PreviewPane::~PreviewPane() {
 void PreviewPane::ShowPreview(const platform::FileName& name) {
   const platform::FileName file = name.raw.isEmpty() ? session_.SelectedFileName : name;
   if (file.raw.isEmpty()) return;
+  // One arrow key reports a new current file and a new selection; the
+  // second report finds the file on show or on its way and only puts its
+  // caption back, instead of decoding it a second time.
+  if (!session_.PreviewedPath.isEmpty() && session_.PreviewedPath == platform::JoinPath(session_.CurrentFolder, file.raw)) {
+    RestoreCaption();
+    return;
+  }
   ReleasePreview();
   const QString display = file.Display();
   const PreviewKind kind = PreviewKindFor(display, settings_.playQuickTime, settings_.playRealMedia);
@@ -65,9 +72,8 @@ void PreviewPane::ShowPreview(const platform::FileName& name) {
   }
   session_.PreviewedPath = platform::JoinPath(session_.CurrentFolder, file.raw);
   currentName_ = display;
-  ui_.previewCaption->setText(texts::kLoadingImage);
-  const QSize area = ui_.Gvbox1->size() * ui_.Gvbox1->devicePixelRatioF();
-  Post({currentId_, session_.PreviewedPath, area, settings_.previewStyle != 1});
+  ShowCaption(texts::kLoadingImage);
+  Post({currentId_, session_.PreviewedPath, Area(), Fill()});
 }
 
 void PreviewPane::ShowMedia(const platform::FileName& file) {
@@ -98,13 +104,28 @@ void PreviewPane::ReleasePreview() {
   session_.PreviewedPath.clear();
 }
 
+// The button reads the file afresh even when it is on show.
 void PreviewPane::ShowSelected() {
   if (session_.SelectedCount == 0) {
     messages_.Beep();
     messages_.Notify(texts::kNoFileSelectedToPreview);
     return;
   }
+  ReleasePreview();
   ShowPreview();
+}
+
+void PreviewPane::ShowCaption(const QString& text) {
+  caption_ = text;
+  ui_.previewCaption->setText(text);
+}
+
+void PreviewPane::RestoreCaption() {
+  if (media_ != nullptr && media_->Player().State() != platform::MediaState::Empty) {
+    media_->RestoreCaption();
+  } else {
+    ui_.previewCaption->setText(caption_);
+  }
 }
 
 void PreviewPane::OpenSelectedExternally() {
@@ -133,11 +154,15 @@ void PreviewPane::Render() {
     ui_.Gvbox1->clear();
     return;
   }
-  const qreal ratio = ui_.Gvbox1->devicePixelRatioF();
-  const QSize area = (ui_.Gvbox1->size() * ratio).expandedTo(QSize(1, 1));
-  const Qt::AspectRatioMode mode = settings_.previewStyle == 1 ? Qt::KeepAspectRatio : Qt::IgnoreAspectRatio;
-  QPixmap pixmap = QPixmap::fromImage(image_.scaled(area, mode, Qt::SmoothTransformation));
-  pixmap.setDevicePixelRatio(ratio);
+  PutOnScreen(PreviewDecoder::ForArea(image_, Area(), Fill()));
+}
+
+QSize PreviewPane::Area() const { return ui_.Gvbox1->size() * ui_.Gvbox1->devicePixelRatioF(); }
+bool PreviewPane::Fill() const { return settings_.previewStyle != 1; }
+
+void PreviewPane::PutOnScreen(QImage&& shown) {
+  QPixmap pixmap = QPixmap::fromImage(std::move(shown));
+  pixmap.setDevicePixelRatio(ui_.Gvbox1->devicePixelRatioF());
   ui_.Gvbox1->setPixmap(pixmap);
 }
 
@@ -150,7 +175,7 @@ bool PreviewPane::eventFilter(QObject* watched, QEvent* event) {
 // when it is not already working through requests.
 void PreviewPane::Post(const Request& request) {
   if (!fs_.ReadableFromAnyThread()) {
-    TakeDecoded(request.id, PreviewDecoder::Decode(fs_, request.path, request.area, request.fill));
+    TakeDecoded(request, PreviewDecoder::Decode(fs_, request.path, request.area, request.fill));
     return;
   }
   std::lock_guard lock(mutex_);
@@ -172,23 +197,29 @@ void PreviewPane::WorkOnPending() {
       request = *pending_;
       pending_.reset();
     }
-    const DecodedPreview decoded = PreviewDecoder::Decode(fs_, request.path, request.area, request.fill);
+    DecodedPreview decoded = PreviewDecoder::Decode(fs_, request.path, request.area, request.fill);
     QMetaObject::invokeMethod(
-        this, [this, id = request.id, decoded] { TakeDecoded(id, decoded); }, Qt::QueuedConnection);
+        this, [this, request, decoded = std::move(decoded)]() mutable { TakeDecoded(request, std::move(decoded)); },
+        Qt::QueuedConnection);
   }
 }
 
-void PreviewPane::TakeDecoded(quint64 id, const DecodedPreview& decoded) {
-  if (id != currentId_) return;  // a newer selection or a release came first
+void PreviewPane::TakeDecoded(const Request& request, DecodedPreview&& decoded) {
+  if (request.id != currentId_) return;  // a newer selection or a release came first
   if (!decoded.exifError.isEmpty()) messages_.Notify(decoded.exifError);
   if (decoded.image.isNull()) {
     session_.PreviewedPath.clear();
     ui_.previewCaption->setText(texts::kPreviewUnavailable);
     return;
   }
-  image_ = decoded.image;
-  ui_.previewCaption->setText(texts::PictureCaption(currentName_, decoded.ownSize.width(), decoded.ownSize.height()));
-  Render();
+  image_ = std::move(decoded.image);
+  ShowCaption(texts::PictureCaption(currentName_, decoded.ownSize.width(), decoded.ownSize.height()));
+  // The area may have changed its size or style while the picture was decoded.
+  if (request.area == Area() && request.fill == Fill()) {
+    PutOnScreen(std::move(decoded.shown));
+  } else {
+    Render();
+  }
   emit PictureShown();
 }
 

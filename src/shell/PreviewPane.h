@@ -74,9 +74,14 @@ class PreviewPane : public QObject {
   };
 
   void ShowMedia(const platform::FileName& file);
+  void ShowCaption(const QString& text);
+  void RestoreCaption();
   void Post(const Request& request);
   void WorkOnPending();  // on the decoding thread
-  void TakeDecoded(quint64 id, const DecodedPreview& decoded);
+  void TakeDecoded(const Request& request, DecodedPreview&& decoded);
+  QSize Area() const;
+  bool Fill() const;
+  void PutOnScreen(QImage&& shown);
 
   MainWindowUi& ui_;
   core::RenameSession& session_;
@@ -89,6 +94,7 @@ class PreviewPane : public QObject {
   QImage image_;
   quint64 currentId_ = 0;
   QString currentName_;
+  QString caption_;  // the picture's caption, see RestoreCaption
 
   QThread thread_;
   QObject* worker_ = nullptr;  // lives on thread_

@@ -71,6 +71,9 @@ TEST_F(PreviewDecoderTest, DecodesNoLargerThanTheAreaNeeds) {
   const shell::DecodedPreview decoded = Decode("big.jpg", TurnedJpeg(1200, 800, 1), {120, 120});
   EXPECT_EQ(decoded.image.size(), QSize(120, 80));
   EXPECT_EQ(decoded.ownSize, QSize(1200, 800));
+  // Ready for the screen: fitted, or stretched over the whole area.
+  EXPECT_EQ(decoded.shown.size(), QSize(120, 80));
+  EXPECT_EQ(PreviewDecoder::ForArea(decoded.image, {60, 90}, true).size(), QSize(60, 90));
 }
 
 TEST_F(PreviewDecoderTest, RawShowsItsPreviewAndACrwWithoutOneItsThm) {

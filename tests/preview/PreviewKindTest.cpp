@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include "shell/PreviewKind.h"
-#include "shell/ShellTexts.h"
 
 namespace renvale::test {
 namespace {
@@ -30,10 +29,6 @@ TEST(PreviewKind, ByTheLastFourThenThreeCharacters) {
   // Each switch governs only its own kinds.
   EXPECT_EQ(shell::PreviewKindFor("clip.mov", true, false), M);
   EXPECT_EQ(shell::PreviewKindFor("song.rm", false, true), M);
-}
-
-TEST(PreviewKind, PictureCaption) {
-  EXPECT_EQ(shell::texts::PictureCaption("IMG_0001.JPG", 1600, 1200), "IMG_0001.JPG  -  1600w X 1200h");
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <QMediaMetaData>
 #include <QMediaPlayer>
 #include <QUrl>
+#include <QVideoSink>
 #include <QVideoWidget>
 
 namespace renvale::platform {
@@ -37,6 +38,10 @@ MediaPlayer::MediaPlayer(QWidget* videoParent, QObject* parent)
     connect(player_, signal, this, &MediaPlayer::FactsChanged);
   }
   connect(player_, &QMediaPlayer::metaDataChanged, this, &MediaPlayer::FactsChanged);
+  // Queued: Qt 6.4 sends this signal holding the sink's lock, which
+  // videoSize() takes again.
+  connect(video_->videoSink(), &QVideoSink::videoSizeChanged, this, &MediaPlayer::FactsChanged,
+          Qt::QueuedConnection);
   connect(player_, &QMediaPlayer::errorOccurred, this, [this](QMediaPlayer::Error, const QString& text) {
     if (state_ == MediaState::Empty || state_ == MediaState::Failed) return;
     error_ = text;
@@ -70,6 +75,7 @@ bool MediaPlayer::Load(const QByteArray& path) {
 // An empty source takes the framework's pipeline down to its null state,
 // which closes the file.
 void MediaPlayer::Release() {
+  parked_ = false;
   player_->stop();
   player_->setSource(QUrl());
   held_ = UniqueFd();
@@ -78,15 +84,31 @@ void MediaPlayer::Release() {
 }
 
 void MediaPlayer::Play() {
-  if (state_ == MediaState::Stopped || state_ == MediaState::Paused) player_->play();
+  if (state_ != MediaState::Stopped && state_ != MediaState::Paused) return;
+  parked_ = false;
+  player_->play();
 }
 
 void MediaPlayer::Pause() {
-  if (state_ == MediaState::Playing || state_ == MediaState::Stopped) player_->pause();
+  if (state_ == MediaState::Playing) player_->pause();
 }
 
+// Stopping parks at the start too, so that a video shows its first frame
+// again rather than black.
 void MediaPlayer::Stop() {
-  if (state_ == MediaState::Playing || state_ == MediaState::Paused) player_->stop();
+  if (state_ != MediaState::Playing && state_ != MediaState::Paused) return;
+  Park();
+  player_->setPosition(0);
+  SetState(MediaState::Stopped);
+}
+
+// GStreamer reads a file's length (of an MP3, say) and decodes a video's
+// first frame only once its pipeline is paused; a stopped or merely loaded
+// player shows black and a length of nothing. So a loaded file is paused at
+// its start, and that pause reads as stopped.
+void MediaPlayer::Park() {
+  parked_ = true;
+  player_->pause();
 }
 
 void MediaPlayer::SetPosition(qint64 ms) { player_->setPosition(ms); }
@@ -105,7 +127,12 @@ bool MediaPlayer::HasAudio() const { return player_->hasAudio(); }
 bool MediaPlayer::HasVideo() const { return player_->hasVideo(); }
 QWidget* MediaPlayer::VideoWidget() const { return video_; }
 
-QSize MediaPlayer::VideoSize() const { return player_->metaData().value(QMediaMetaData::Resolution).toSize(); }
+// Many files do not state their size; the first frame tells it then.
+QSize MediaPlayer::VideoSize() const {
+  const QSize stated = player_->metaData().value(QMediaMetaData::Resolution).toSize();
+  if (stated.isValid() || !video_) return stated;
+  return video_->videoSink()->videoSize();
+}
 
 double MediaPlayer::FrameRate() const {
   return player_->metaData().value(QMediaMetaData::VideoFrameRate).toDouble();
@@ -126,6 +153,9 @@ void MediaPlayer::FollowStatus() {
       return;
     case QMediaPlayer::LoadedMedia:
     case QMediaPlayer::BufferedMedia:
+      if (state_ == MediaState::Loading && player_->playbackState() == QMediaPlayer::StoppedState) Park();
+      if (state_ == MediaState::Loading) FollowPlayback();
+      return;
     case QMediaPlayer::EndOfMedia:
       if (state_ == MediaState::Loading) FollowPlayback();
       return;
@@ -148,7 +178,7 @@ void MediaPlayer::FollowPlayback() {
       SetState(MediaState::Playing);
       return;
     case QMediaPlayer::PausedState:
-      SetState(MediaState::Paused);
+      SetState(parked_ ? MediaState::Stopped : MediaState::Paused);
       return;
     case QMediaPlayer::StoppedState:
       SetState(MediaState::Stopped);

@@ -64,6 +64,7 @@ class MediaPlayer : public QObject {
 
  private:
   void SetState(MediaState state);
+  void Park();
   void FollowStatus();
   void FollowPlayback();
 
@@ -72,6 +73,7 @@ class MediaPlayer : public QObject {
   QPointer<QVideoWidget> video_;  // the window may delete it first
   UniqueFd held_;  // a file opened for the framework, see Load
   MediaState state_ = MediaState::Empty;
+  bool parked_ = false;  // paused at the start, standing for stopped
   QString error_;
 };
 
