@@ -45,23 +45,6 @@ TEST_F(ButtonTexts, RightClickOpensTheEditorWithItsPrompt) {
   EXPECT_TRUE(messages.messages.empty()) << "a right click inserts nothing";
 }
 
-TEST_F(ButtonTexts, AmpersandsAreDoubledOnTheButtonAndSingleWhenInserted) {
-  StoreText(1, QStringLiteral("A&B"));
-  EXPECT_FALSE(Ui().namebutton->isVisible());
-  EXPECT_EQ(Ui().Command1[0]->text(), "A&&B");
-  EXPECT_EQ(window->Settings().customCaptions[0], "A&&B");
-  Select({0});
-  SetNewName({});
-  Ui().Command1[0]->click();
-  EXPECT_EQ(NewName(), "A&B");
-  editor->Open(1);
-  EXPECT_EQ(Ui().Text3->text(), "A&B");
-
-  StoreText(21, QStringLiteral("x&&y"));
-  EXPECT_EQ(Ui().Command9[1]->text(), "x&&&&y");
-  EXPECT_EQ(window->Settings().customCaptions[1], "Custom2") << "temp texts are not settings";
-}
-
 TEST_F(ButtonTexts, CharactersNoFileNameCanHoldAreRefused) {
   StoreText(5, QStringLiteral("a|b"));
   EXPECT_TRUE(Ui().namebutton->isVisible()) << "the editor stays open";

@@ -131,20 +131,6 @@ TEST_F(Compose, SeriesNumbersInIndividualMode) {
   EXPECT_EQ(tips.offered, std::vector<int>({5, 5}));
 }
 
-TEST_F(Compose, SeriesTokenInBatchModeLeavesTheBoxAlone) {
-  OpenWithPictures();
-  Select({0, 1});
-  for (const QString& spacing : {QStringLiteral(" "), QStringLiteral("X")}) {
-    window->Settings().seriesSpacing = spacing;
-    SetNewName(QStringLiteral("Holiday.JPG"));
-    Ui().Text1->setCursorPosition(7);
-    Ui().Command6->click();
-    EXPECT_EQ(NewName(), spacing == "X" ? "Holiday%SERIES%.JPG" : "Holiday%SERIES% .JPG");
-  }
-  EXPECT_EQ(Ui().Text2->text(), "01");
-  EXPECT_FALSE(window->Session().SeriesUsed);
-}
-
 TEST_F(Compose, DoubleClickResetsTheSeriesBoxToOne) {
   OpenWithPictures();
   window->Settings().placeholders = 4;

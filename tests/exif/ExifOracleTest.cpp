@@ -12,7 +12,6 @@
 #include "ExifTestBytes.h"
 #include "metadata/ExifReader.h"
 #include "platform/FileSystem.h"
-#include "support/MemoryFileSystem.h"
 #include "support/OracleCsv.h"
 
 namespace renvale::test {
@@ -120,19 +119,6 @@ TEST_F(OracleTest, ValuesMatchExifTool) {
     Expect(file, "ISO", iso, row["ISO"], iso == oracleIso);
     const QString flash = reader.Tag("Flash");
     Expect(file, "Flash", flash, row["Flash_text"], flash.compare(row["Flash_text"], Qt::CaseInsensitive) == 0);
-  }
-}
-
-// Big files are read only where their EXIF is (corrupted.jpg is 1.9 MB).
-TEST_F(OracleTest, OnlyTheHeadOfBigFilesIsRead) {
-  for (const Row& row : rows_) {
-    QFile file(folder_ + "/" + row["file"]);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    MemoryFileSystem fs;
-    fs.Add("f", file.readAll());
-    ExifReader reader;
-    reader.Load(fs, "f");
-    EXPECT_LE(fs.bytesRead, 64 * 1024 + 2 * 8 * 1024) << row["file"].toStdString();
   }
 }
 

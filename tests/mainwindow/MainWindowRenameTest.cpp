@@ -46,32 +46,6 @@ TEST_F(MainWindowRename, EnterRenamesTheSelectedFileAndSelectsItAgain) {
   EXPECT_TRUE(messages.messages.empty()) << messages.Texts().join('|').toStdString();
 }
 
-// Numbering and per-file values are the batch's own tests; here the window's
-// part: the button starts it, each picture's own date reaches its name, the
-// series box moves on and the window leaves batch mode on the last file.
-TEST_F(MainWindowRename, ButtonRunsTheBatchWithEachPicturesOwnDate) {
-  ExifFields fields = TypicalExifFields();
-  fields.dateTimeOriginal = "2004:07:15 18:03:09";
-  ASSERT_TRUE(WriteFile(QFile::decodeName(Folder()) + "p1.jpg", MakeExifJpeg(&fields)));
-  fields.dateTimeOriginal = "2005:01:02 03:04:05";
-  ASSERT_TRUE(WriteFile(QFile::decodeName(Folder()) + "p2.jpg", MakeExifJpeg(&fields)));
-  storage->WriteSettingString("", "Placeholders", "3");
-  shell::MainWindow& main = Open();
-  main.Ui().Text2->setText("7");
-  window->SelectAll();
-  ASSERT_TRUE(main.Session().BatchMode);
-  EXPECT_FALSE(main.Ui().Command2->isEnabled()) << "it would rename only the file clicked last";
-  main.Ui().Text1->setText("%DATE% %SERIES%");
-  main.Ui().Command11->click();
-  EXPECT_EQ(ListedNames(), QStringList({"2004-07-15 007.jpg", "2005-01-02 008.jpg"}));
-  EXPECT_TRUE(messages.messages.empty()) << messages.Texts().join('|').toStdString();
-  EXPECT_EQ(main.Ui().Text2->text(), "009");
-  EXPECT_FALSE(main.Session().BatchMode);
-  EXPECT_TRUE(main.Ui().Command2->isEnabled());
-  EXPECT_EQ(main.Session().SelectedFileName.Display(), "2005-01-02 008.jpg");
-  EXPECT_TRUE(main.Ui().File1->isEnabled());
-}
-
 // "0.jpg" is to take the name of a picture the same batch renames: that one
 // goes first, no question is asked, and each keeps its own contents.
 TEST_F(MainWindowRename, ANameAnotherFileOfTheBatchLeavesIsTakenWithoutLoss) {
@@ -121,26 +95,6 @@ TEST_F(MainWindowRename, ReadingAheadNamesRealCameraFilesAsReadingEachAtItsTurn)
   const auto atTheirTurn = batch(oneThread);
   EXPECT_EQ(batch(platform::RealFileSystem()), atTheirTurn);
   EXPECT_GT(atTheirTurn.first.size(), 20);
-}
-
-TEST_F(MainWindowRename, CancelOnAnExistingTargetStepsTheSeriesBackAndTheListIsLockedMeanwhile) {
-  MakeFiles({"a.jpg", "b.jpg", "Trip 02.jpg"});
-  shell::MainWindow& main = Open();
-  std::vector<bool> listEnabled;
-  messages.onShow = [&] { listEnabled.push_back(main.Ui().File1->isEnabled()); };
-  main.Ui().Text2->setText("1");
-  ClickRow(0);  // "a.jpg" and "b.jpg"; "Trip 02.jpg" is not part of the batch
-  ClickRow(1, Qt::ShiftModifier);
-  main.Ui().Text1->setText("Trip %SERIES%");
-  messages.Script(MessageAnswer::Cancel);
-  main.Ui().Command11->click();
-  ASSERT_EQ(messages.messages.size(), 1u);
-  EXPECT_EQ(messages.Last().title, "Filename already exists!");
-  EXPECT_EQ(listEnabled, std::vector<bool>({false}));
-  EXPECT_EQ(main.Ui().Text2->text(), "02") << "the number of the declined file is offered again";
-  EXPECT_TRUE(main.Ui().File1->isEnabled());
-  EXPECT_EQ(ListedNames(), QStringList({"b.jpg", "Trip 01.jpg", "Trip 02.jpg"}));
-  messages.onShow = nullptr;
 }
 
 // Bytes a legacy camera or tool wrote must survive the text they pass

@@ -21,17 +21,6 @@ namespace {
 
 class MainWindowSession : public MainWindowFixture {};
 
-TEST_F(MainWindowSession, StartListsTheStartFolderWithNothingSelected) {
-  MakeFiles({"IMG_10.JPG", "IMG_9.JPG", "notes.txt", ".hidden"});
-  shell::MainWindow& main = Open();
-  EXPECT_EQ(ListedNames(), QStringList({"IMG_9.JPG", "IMG_10.JPG", "notes.txt"}));
-  EXPECT_EQ(main.Ui().fileCountLabel->text(), "Files in folder (3):");
-  EXPECT_EQ(main.Ui().selectionLabel->text(), "(No File Selected)");
-  EXPECT_EQ(main.Session().CurrentFolder, Folder());
-  EXPECT_FALSE(main.Ui().BatchFrame->isVisibleTo(&main));
-  EXPECT_TRUE(messages.messages.empty());
-}
-
 TEST_F(MainWindowSession, SelectAllInAnEmptyFolderOnlyTellsSo) {
   shell::MainWindow& main = Open();
   main.Ui().Command14->click();
@@ -68,16 +57,6 @@ TEST_F(MainWindowSession, CtrlAInTheListSelectsAllButInATextBoxSelectsText) {
   QTest::keyClick(main.Ui().Text1, Qt::Key_A, Qt::ControlModifier);
   EXPECT_EQ(main.Session().SelectedCount, 1);
   EXPECT_EQ(main.Ui().Text1->selectedText(), "a.jpg");
-}
-
-TEST_F(MainWindowSession, ANameThatIsNotUtf8IsListedAndSelectable) {
-  MakeFile(QByteArray("caf\xe9.jpg"));
-  shell::MainWindow& main = Open();
-  main.show();
-  ASSERT_EQ(main.Files().Count(), 1);
-  ClickRow(0);
-  EXPECT_EQ(main.Session().SelectedFileName.raw, QByteArray("caf\xe9.jpg"));
-  EXPECT_EQ(main.Session().SelectedExt, ".jpg");
 }
 
 TEST_F(MainWindowSession, ToolTipsFollowTheSetting) {

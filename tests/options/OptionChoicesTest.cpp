@@ -98,14 +98,14 @@ TEST_F(OptionChoicesTest, F12TogglesTheWorkAroundWithOneMessageEachTime) {
 }
 
 TEST_F(OptionChoicesTest, RestoringTipsWritesTheFlagsAtOnce) {
-  storage.WriteSettingString("", "NoTipsAtAll", "1");
-  storage.WriteSettingString("", "NoTip18", "1");
-  storage.WriteSettingString("", "NoTip19", "1");
+  // Tips 19 to 21 are not among those restored.
+  const QStringList flags = {"NoTipsAtAll", "NoTip1", "NoTip18", "NoTip19", "NoTip21"};
+  for (const QString& flag : flags) storage.WriteSettingString("", flag, "1");
   EXPECT_EQ(choices.RestoreQuickTips(), "Quick Tips have been restored.");
   platform::QtSettingsStorage reread(dir.filePath(QStringLiteral("Renvale.conf")));
-  EXPECT_EQ(reread.ReadSettingString("", "NoTipsAtAll"), "0");
-  EXPECT_EQ(reread.ReadSettingString("", "NoTip18"), "0");
-  EXPECT_EQ(reread.ReadSettingString("", "NoTip19"), "1");
+  QStringList after;
+  for (const QString& flag : flags) after << reread.ReadSettingString("", flag);
+  EXPECT_EQ(after, (QStringList{"0", "0", "0", "1", "1"}));
 }
 
 class RecordingHost : public shell::OptionsHost {
