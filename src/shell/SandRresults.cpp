@@ -1,8 +1,10 @@
 #include "shell/SandRresults.h"
 
 #include <QHBoxLayout>
+#include <QPlainTextDocumentLayout>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include "fileops/FileopsTexts.h"
@@ -10,6 +12,25 @@
 namespace renvale::shell {
 
 namespace texts = fileops::texts;
+
+namespace {
+
+// The results in a document made like the view's own, filled before the
+// view takes it: the view filling its own goes over ten thousand lines a
+// second time to give each the format it has already, and moves its cursor
+// along with every line.
+QTextDocument* ResultsDocument(const QString& results, QPlainTextEdit& view) {
+  auto* document = new QTextDocument(&view);
+  document->setDocumentLayout(new QPlainTextDocumentLayout(document));
+  document->documentLayout()->setPaintDevice(view.viewport());
+  document->setDefaultFont(view.font());
+  document->setUndoRedoEnabled(false);
+  document->setPlainText(results);
+  document->setModified(false);
+  return document;
+}
+
+}  // namespace
 
 SandRresults::SandRresults(const QString& results, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("SandRresults"));
@@ -20,7 +41,7 @@ SandRresults::SandRresults(const QString& results, QWidget* parent) : QDialog(pa
   textResults->setObjectName(QStringLiteral("textResults"));
   textResults->setAccessibleName(texts::kResultsDesignText);
   textResults->setReadOnly(true);
-  textResults->setPlainText(results);
+  textResults->setDocument(ResultsDocument(results, *textResults));
   auto* ok = new QPushButton(texts::kOkButton, this);
   ok->setObjectName(QStringLiteral("Command1"));
   ok->setDefault(true);
