@@ -169,7 +169,9 @@ core::OperationPlan SearchReplace::Plan(const std::vector<core::PlannedTurn>& tu
                                         const std::vector<QByteArray>& newNames, core::FileRenamer& renamer) const {
   core::OperationPlan plan{core::OperationKind::SearchReplace, renamer.Folder(), QDateTime::currentDateTimeUtc(),
                            {}};
+  plan.steps.reserve(files.size());
   std::vector<core::PlanStep> hidden;
+  core::OperationPlan own;
   for (const core::PlannedTurn& turn : turns) {
     const platform::FileName& file = files[turn.file];
     if (newNames[turn.file] == file.raw || renamer.Sets().TravelsWithSelectedHead(file.raw)) continue;
@@ -178,7 +180,7 @@ core::OperationPlan SearchReplace::Plan(const std::vector<core::PlannedTurn>& tu
       renamer.DescribeRename(aside.head.from, aside.head.to, &plan);
       hidden.insert(hidden.end(), plan.steps.begin() + static_cast<std::ptrdiff_t>(first), plan.steps.end());
     }
-    core::OperationPlan own;
+    own.steps.clear();
     renamer.DescribeRename(file.raw, newNames[turn.file], &own);
     for (core::PlanStep& step : own.steps) {
       // A file that stepped aside leaves from its hidden name.
