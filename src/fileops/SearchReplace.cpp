@@ -157,6 +157,7 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
       return;
     }
     if (progress < maximum) view_.SetProgress(++progress);
+    view_.ResultsSoFar(results_);
     view_.ProcessEvents();
   }
 }

@@ -1,7 +1,7 @@
 #include "shell/SandRresults.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QHBoxLayout>
-#include <QPlainTextDocumentLayout>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTextDocument>
@@ -13,26 +13,7 @@ namespace renvale::shell {
 
 namespace texts = fileops::texts;
 
-namespace {
-
-// The results in a document made like the view's own, filled before the
-// view takes it: the view filling its own goes over ten thousand lines a
-// second time to give each the format it has already, and moves its cursor
-// along with every line.
-QTextDocument* ResultsDocument(const QString& results, QPlainTextEdit& view) {
-  auto* document = new QTextDocument(&view);
-  document->setDocumentLayout(new QPlainTextDocumentLayout(document));
-  document->documentLayout()->setPaintDevice(view.viewport());
-  document->setDefaultFont(view.font());
-  document->setUndoRedoEnabled(false);
-  document->setPlainText(results);
-  document->setModified(false);
-  return document;
-}
-
-}  // namespace
-
-SandRresults::SandRresults(const QString& results, QWidget* parent) : QDialog(parent) {
+SandRresults::SandRresults(std::unique_ptr<QTextDocument> results, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("SandRresults"));
   setWindowTitle(texts::kResultsCaption);
   // A plain text view lays out only the lines on screen, so thousands of
@@ -41,7 +22,13 @@ SandRresults::SandRresults(const QString& results, QWidget* parent) : QDialog(pa
   textResults->setObjectName(QStringLiteral("textResults"));
   textResults->setAccessibleName(texts::kResultsDesignText);
   textResults->setReadOnly(true);
-  textResults->setDocument(ResultsDocument(results, *textResults));
+  QTextDocument* document = results.release();
+  document->setParent(textResults);
+  document->documentLayout()->setPaintDevice(textResults->viewport());
+  // Made with the dialog's font, which the view has unless a style gives it
+  // another.
+  if (document->defaultFont() != textResults->font()) document->setDefaultFont(textResults->font());
+  textResults->setDocument(document);
   auto* ok = new QPushButton(texts::kOkButton, this);
   ok->setObjectName(QStringLiteral("Command1"));
   ok->setDefault(true);
