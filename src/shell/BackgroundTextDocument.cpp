@@ -21,12 +21,17 @@ BackgroundTextDocument::~BackgroundTextDocument() {
 }
 
 void BackgroundTextDocument::Append(const QString& text) {
-  text_ += text;
+  size_ += text.size();
+  last_ = text;
   {
     const std::lock_guard lock(mutex_);
     pending_.push_back(text);
   }
   changed_.notify_one();
+}
+
+bool BackgroundTextDocument::Continues(const QString& whole) const {
+  return whole.size() >= size_ && QStringView(whole).sliced(size_ - last_.size(), last_.size()) == last_;
 }
 
 std::unique_ptr<QTextDocument> BackgroundTextDocument::Take() {

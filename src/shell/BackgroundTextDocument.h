@@ -26,8 +26,11 @@ class BackgroundTextDocument {
 
   // Adds `text` at the end.
   void Append(const QString& text);
-  // Everything appended so far.
-  const QString& Text() const { return text_; }
+  // How much has been appended.
+  qsizetype Size() const { return size_; }
+  // Whether `whole` goes on from what was appended: at least as long, with
+  // the last piece appended in its place. Compares that piece only, not all.
+  bool Continues(const QString& whole) const;
   // Waits until everything appended is in and hands the document to the
   // thread that made this object. Once only, on that thread.
   std::unique_ptr<QTextDocument> Take();
@@ -39,7 +42,8 @@ class BackgroundTextDocument {
 
   const QFont font_;
   QThread* const owner_;
-  QString text_;
+  qsizetype size_ = 0;
+  QString last_;
   std::mutex mutex_;
   std::condition_variable changed_;
   std::deque<QString> pending_;

@@ -18,7 +18,9 @@ TEST(BackgroundTextDocument, HoldsEveryPieceInOrderOnTheTakersThread) {
     pieces.Append(piece);
     whole += piece;
   }
-  EXPECT_EQ(pieces.Text(), whole);
+  EXPECT_TRUE(pieces.Continues(whole + "x"));
+  EXPECT_FALSE(pieces.Continues(QString(whole).replace(whole.size() - 3, 1, 'X')));
+  EXPECT_FALSE(pieces.Continues(whole.chopped(1)));
   const std::unique_ptr<QTextDocument> document = pieces.Take();
   EXPECT_EQ(document->thread(), QThread::currentThread());
   EXPECT_EQ(document->toPlainText(), whole);
