@@ -17,7 +17,7 @@ using platform::MessageAnswer;
 using platform::MessageButtons;
 using platform::MessageIcon;
 
-const QString kQuote = QStringLiteral("\"");
+constexpr QChar kQuote = u'"';
 
 // Keeps the file list from taking clicks while the run lets window events
 // through, and lets go on every way out.
@@ -44,6 +44,16 @@ class RunningScope {
 };
 
 QString Display(const QByteArray& name) { return platform::FileName{name}.Display(); }
+
+// A line per renamed file: an ASCII name, the usual kind, goes in without a
+// string of its own.
+void AppendDisplay(QString& text, const QByteArray& name) {
+  if (std::all_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
+    text += QLatin1StringView(name);
+  } else {
+    text += Display(name);
+  }
+}
 
 // Equal once both are lowered: such a rename cannot reach another file on
 // the file systems the product was made for, so nothing is looked up first.
@@ -73,6 +83,21 @@ QString OverwriteFailureText(int error) {
                              ? texts::kReadOnlyOrProtected
                              : texts::kErrorNumberPrefix + QString::number(error);
   return QStringList{texts::kCouldNotOverwrite, reason, texts::kContinueOrCancel}.join(texts::kCr);
+}
+
+// Most runs give names that nothing in the folder holds in any letter case:
+// then no file waits for another, the turns are the list's order, and
+// planning would only say so at the cost of a few hash tables. A selected
+// name the folder no longer holds may still be another file's target, so
+// it is planned too.
+bool NeedsPlanning(const std::vector<core::RenameMove>& moves, const core::FolderIndex& index) {
+  for (const core::RenameMove& move : moves) {
+    if (!index.Contains(move.head.from) || !index.Spellings(move.head.to).isEmpty()) return true;
+    for (const core::NamePair& companion : move.companions) {
+      if (!index.Spellings(companion.to).isEmpty()) return true;
+    }
+  }
+  return false;
 }
 
 }  // namespace
@@ -132,6 +157,7 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
       return;
     }
     if (progress < maximum) view_.SetProgress(++progress);
+    view_.ResultsSoFar(results_);
     view_.ProcessEvents();
   }
 }
@@ -144,7 +170,9 @@ core::OperationPlan SearchReplace::Plan(const std::vector<core::PlannedTurn>& tu
                                         const std::vector<QByteArray>& newNames, core::FileRenamer& renamer) const {
   core::OperationPlan plan{core::OperationKind::SearchReplace, renamer.Folder(), QDateTime::currentDateTimeUtc(),
                            {}};
+  plan.steps.reserve(files.size());
   std::vector<core::PlanStep> hidden;
+  core::OperationPlan own;
   for (const core::PlannedTurn& turn : turns) {
     const platform::FileName& file = files[turn.file];
     if (newNames[turn.file] == file.raw || renamer.Sets().TravelsWithSelectedHead(file.raw)) continue;
@@ -153,7 +181,7 @@ core::OperationPlan SearchReplace::Plan(const std::vector<core::PlannedTurn>& tu
       renamer.DescribeRename(aside.head.from, aside.head.to, &plan);
       hidden.insert(hidden.end(), plan.steps.begin() + static_cast<std::ptrdiff_t>(first), plan.steps.end());
     }
-    core::OperationPlan own;
+    own.steps.clear();
     renamer.DescribeRename(file.raw, newNames[turn.file], &own);
     for (core::PlanStep& step : own.steps) {
       // A file that stepped aside leaves from its hidden name.
@@ -174,12 +202,17 @@ std::vector<core::PlannedTurn> SearchReplace::Turns(const std::vector<platform::
                                                     core::FileRenamer& renamer) const {
   std::vector<core::RenameMove> moves;
   std::vector<size_t> moveFile;
-  QSet<QByteArray> companions;
+  moves.reserve(files.size());
+  moveFile.reserve(files.size());
   for (size_t i = 0; i < files.size(); ++i) {
     if (newNames[i] == files[i].raw) continue;
     moves.push_back({{files[i].raw, newNames[i]}, renamer.Sets().Companions(files[i].raw, newNames[i])});
     moveFile.push_back(i);
-    for (const core::NamePair& pair : moves.back().companions) companions.insert(pair.from);
+  }
+  if (!NeedsPlanning(moves, renamer.Index())) return core::TurnsInListOrder(files.size(), {}, {});
+  QSet<QByteArray> companions;
+  for (const core::RenameMove& move : moves) {
+    for (const core::NamePair& pair : move.companions) companions.insert(pair.from);
   }
   std::vector<core::RenameMove> planned;
   std::vector<size_t> plannedFile;
@@ -253,11 +286,11 @@ SearchReplace::Step SearchReplace::Rename(const platform::FileName& file, const 
     folderChanged_ = true;
     results_ += texts::kLf;
     results_ += kQuote;
-    results_ += file.Display();
+    AppendDisplay(results_, file.raw);
     results_ += kQuote;
     results_ += texts::kWasRenamedTo;
     results_ += kQuote;
-    results_ += Display(newName);
+    AppendDisplay(results_, newName);
     results_ += kQuote;
     return Step::Next;
   }

@@ -20,6 +20,9 @@ class SearchReplaceView {
   // Lets pending window events run; may skip the work when called faster
   // than the screen refreshes.
   virtual void ProcessEvents() = 0;
+  // The results text as it grows, after each file, so that the results
+  // window can be prepared while the run goes on.
+  virtual void ResultsSoFar(const QString& results) { (void)results; }
   // Shows the results window with `results`, modally.
   virtual void ShowResults(const QString& results) = 0;
 };

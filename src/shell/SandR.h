@@ -3,10 +3,12 @@
 #include <QDialog>
 #include <QElapsedTimer>
 #include <array>
+#include <memory>
 
 #include "core/RenameContext.h"
 #include "fileops/SearchReplaceView.h"
 #include "fileops/SearchTerms.h"
+#include "shell/BackgroundTextDocument.h"
 
 class QLabel;
 class QLineEdit;
@@ -33,6 +35,7 @@ class SandR : public QDialog, public fileops::SearchReplaceView {
   void SetProgressMaximum(int maximum) override;
   void SetProgress(int value) override;
   void ProcessEvents() override;
+  void ResultsSoFar(const QString& results) override;
   void ShowResults(const QString& results) override;
 
   void reject() override;
@@ -58,6 +61,7 @@ class SandR : public QDialog, public fileops::SearchReplaceView {
   bool running_ = false;
   int heldProgress_ = -1;
   QElapsedTimer sinceEvents_;
+  std::unique_ptr<BackgroundTextDocument> results_;  // the run's results, laid out meanwhile
 };
 
 }  // namespace renvale::shell

@@ -1,8 +1,10 @@
 #include "shell/SandRresults.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include "fileops/FileopsTexts.h"
@@ -11,7 +13,7 @@ namespace renvale::shell {
 
 namespace texts = fileops::texts;
 
-SandRresults::SandRresults(const QString& results, QWidget* parent) : QDialog(parent) {
+SandRresults::SandRresults(std::unique_ptr<QTextDocument> results, QWidget* parent) : QDialog(parent) {
   setObjectName(QStringLiteral("SandRresults"));
   setWindowTitle(texts::kResultsCaption);
   // A plain text view lays out only the lines on screen, so thousands of
@@ -20,7 +22,13 @@ SandRresults::SandRresults(const QString& results, QWidget* parent) : QDialog(pa
   textResults->setObjectName(QStringLiteral("textResults"));
   textResults->setAccessibleName(texts::kResultsDesignText);
   textResults->setReadOnly(true);
-  textResults->setPlainText(results);
+  QTextDocument* document = results.release();
+  document->setParent(textResults);
+  document->documentLayout()->setPaintDevice(textResults->viewport());
+  // Made with the dialog's font, which the view has unless a style gives it
+  // another.
+  if (document->defaultFont() != textResults->font()) document->setDefaultFont(textResults->font());
+  textResults->setDocument(document);
   auto* ok = new QPushButton(texts::kOkButton, this);
   ok->setObjectName(QStringLiteral("Command1"));
   ok->setDefault(true);

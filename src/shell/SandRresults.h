@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QDialog>
+#include <memory>
 
 class QPlainTextEdit;
+class QTextDocument;
 
 namespace renvale::shell {
 
@@ -12,7 +14,8 @@ class SandRresults : public QDialog {
   Q_OBJECT
 
  public:
-  SandRresults(const QString& results, QWidget* parent);
+  // `results`: a document with a plain text layout, which the window takes.
+  SandRresults(std::unique_ptr<QTextDocument> results, QWidget* parent);
 
  private:
   QPlainTextEdit* textResults = nullptr;
