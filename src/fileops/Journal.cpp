@@ -124,8 +124,8 @@ std::vector<JournalEntry> Journal::Entries(size_t most, bool undone) {
       SetAside(name, static_cast<int>(read.status));
       continue;
     }
-    entry.plan = read.plan;
-    entries.push_back(entry);
+    entry.plan = std::move(read.plan);
+    entries.push_back(std::move(entry));
   }
   return entries;
 }
