@@ -1,5 +1,6 @@
 // libFuzzer target for the journal reader: any bytes as a journal file. A
-// plan it accepts must survive being written and read again.
+// plan it accepts must survive being written and read again, and again
+// with its steps added a second time.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>

@@ -13,7 +13,7 @@ namespace renvale::bench {
 
 namespace {
 
-const QByteArray kPictures = QByteArrayLiteral("/tmp/renvale-bench-pictures/");
+const QByteArray kPictures = "/tmp/renvale-bench-pictures-" + kRunTag + '/';
 
 void MakePictures() {
   QDir(QString::fromUtf8(kPictures)).removeRecursively();

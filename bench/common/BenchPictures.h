@@ -1,13 +1,17 @@
 #pragma once
 
+#include <unistd.h>
+
 #include <QByteArray>
 
 namespace renvale::bench {
 
 // The folder every batch benchmark renames in, and the pictures it is made
-// from: distinct JPEGs one second apart, written once per run.
+// from: distinct JPEGs one second apart, written once per run. Named after
+// the process, so that two benches running at once keep out of each other's way.
 inline constexpr int kPictureCount = 10000;
-inline const QByteArray kBatchFolder = QByteArrayLiteral("/tmp/renvale-bench-batch/");
+inline const QByteArray kRunTag = QByteArray::number(getpid());
+inline const QByteArray kBatchFolder = "/tmp/renvale-bench-batch-" + kRunTag + '/';
 
 QByteArray PictureName(int i);
 

@@ -1,5 +1,7 @@
 #include "core/BatchRename.h"
 
+#include <deque>
+#include <iterator>
 #include <optional>
 
 #include "core/BatchBaseCheck.h"
@@ -16,6 +18,10 @@ namespace renvale::core {
 namespace {
 
 constexpr int kBatchTip = 15;
+// Renames recorded in the journal's first piece: few enough that the batch
+// starts renaming at once, enough that the pieces stay few.
+constexpr size_t kFirstPiece = 256;
+constexpr size_t kPieceGrowth = 4;
 // Told when the person stops at a duplicate-name warning: the moment they
 // look for a way to make every name unique.
 constexpr int kUniqueNamesTip = 21;
@@ -108,51 +114,99 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, const BatchNamin
   seriesTaken_ = false;
   // A preview's names are the names given, random numbers included.
   const bool usePrepared = prepared != nullptr && StillValid(*prepared, base, files);
-  // The journal keeps a batch's whole plan before its first rename, so
-  // there every name is worked out first; without one, each file is named
-  // at its turn and reading stays ahead of renaming.
-  std::optional<BatchNaming> named;
-  if (!usePrepared && context_.recorder != nullptr) {
-    named.emplace(NameBatch(context_, renamer, files, base, view.RandomSeries(), false, random_));
+  Ending ending;
+  {
+    std::optional<RecordedOperation> recorded;
+    if (context_.recorder != nullptr) {
+      recorded.emplace(context_.recorder, OperationPlan{OperationKind::BatchRename, renamer.Folder(),
+                                                        QDateTime::currentDateTimeUtc(), {}});
+    }
+    RecordedOperation* record = recorded ? &*recorded : nullptr;
+    ending = usePrepared ? RenamePlanned(*prepared, renamer, record, lastNewName)
+                         : RenameAsNamed(files, base, renamer, record, lastNewName);
   }
-  const BatchNaming* naming = usePrepared ? prepared : named ? &*named : nullptr;
-  const Ending ending = naming != nullptr ? RenamePlanned(*naming, renamer, lastNewName)
-                                          : RenameAsNamed(files, base, renamer, lastNewName);
   if (ending == Ending::Stopped) {
     PutBackAside(renamer);
     return ending;
   }
   ShowProgress(files.size(), files.size());
-  if (seriesTaken_) view.SetSeriesText(naming != nullptr ? naming->seriesAtEnd : finalSeries_);
+  if (seriesTaken_) view.SetSeriesText(usePrepared ? prepared->seriesAtEnd : finalSeries_);
   return ending;
 }
 
-// Each file is named just before its turn, so the files are read ahead
+// Each file is named shortly before its turn, so the files are read ahead
 // while earlier ones are renamed. A file whose new name a selected file
 // not renamed yet still holds waits, and so does any file that needs the
 // name of a waiting one; the waiting files go last, in the planner's order.
+//
+// Where a journal keeps the plan, the files are named a piece ahead of
+// their turns and each piece's renames are recorded before the first of
+// them is taken: one flush per piece, pieces growing four times as long
+// each time (four pieces for 20,000 files), and the reading of the next
+// piece goes on during the renames of this one.
 BatchRename::Ending BatchRename::RenameAsNamed(const std::vector<platform::FileName>& files, const QString& base,
-                                               FileRenamer& renamer, QString* lastNewName) {
+                                               FileRenamer& renamer, RecordedOperation* recorded,
+                                               QString* lastNewName) {
   BatchNames names(context_, renamer, files, base, context_.view.RandomSeries(), false, random_);
   FoldedNames held(files.size());
   for (const platform::FileName& file : files) held.insert(file.raw);
   BatchNaming waiting{renamer.Folder(), base, {}, {}, {}};
-  for (const platform::FileName& file : files) {
-    NamedFile named = names.Next(file);
+  std::vector<NamedFile> piece;  // named, waiting for its piece to be recorded
+  std::deque<NamedFile> ready;   // recorded, waiting for its turn
+  size_t next = 0;               // files named so far
+  size_t pieceSize = recorded != nullptr ? kFirstPiece : 1;
+  const auto nameNext = [&] {
+    NamedFile named = names.Next(files[next++]);
     // A file that goes with its picture holds its name for good: it moves
     // when its picture does, which may be among the waiting files.
     if (!named.travels) {
-      if (const auto own = held.find(file.raw); own != held.end()) held.erase(own);
+      if (const auto own = held.find(named.file.raw); own != held.end()) held.erase(own);
       if (MustWait(named, held, renamer)) {
-        held.insert(file.raw);
+        held.insert(named.file.raw);
         waiting.files.push_back(std::move(named));
-        continue;
+        return;
       }
     }
-    if (TakeTurn({}, named, renamer, lastNewName) == Step::Stop) return Ending::Stopped;
+    piece.push_back(std::move(named));
+  };
+  while (next < files.size() || !piece.empty() || !ready.empty()) {
+    if (ready.empty()) {
+      while (piece.size() < pieceSize && next < files.size()) nameNext();
+      if (recorded != nullptr && Record(DescribePiece(piece, renamer), *recorded) == Step::Stop) return Ending::Stopped;
+      ready.insert(ready.end(), std::make_move_iterator(piece.begin()), std::make_move_iterator(piece.end()));
+      piece.clear();
+      if (recorded != nullptr) pieceSize *= kPieceGrowth;
+      continue;
+    }
+    if (TakeTurn({}, ready.front(), renamer, lastNewName) == Step::Stop) return Ending::Stopped;
+    ready.pop_front();
+    // The next piece is named by the time this one is renamed.
+    for (size_t i = 0; recorded != nullptr && i < kPieceGrowth && piece.size() < pieceSize && next < files.size();
+         ++i) {
+      nameNext();
+    }
   }
   finalSeries_ = names.SeriesText();
-  return RenamePlanned(waiting, renamer, lastNewName);
+  return RenamePlanned(waiting, renamer, recorded, lastNewName);
+}
+
+// The renames of files that take their turns in list order, with no
+// hidden names.
+std::vector<PlanStep> BatchRename::DescribePiece(const std::vector<NamedFile>& piece, FileRenamer& renamer) const {
+  OperationPlan plan;
+  for (const NamedFile& named : piece) {
+    if (named.travels || named.newName == named.file.Display()) continue;
+    renamer.DescribeRename(named.file.raw, platform::FileName::TextToName(named.newName), &plan);
+  }
+  return std::move(plan.steps);
+}
+
+// A plan that cannot be kept stops the batch before any of its steps.
+BatchRename::Step BatchRename::Record(const std::vector<PlanStep>& steps, RecordedOperation& recorded) {
+  if (recorded.Add(steps) == 0) return Step::Next;
+  context_.messages.Notify(texts::kPlanNotKept.arg(platform::ErrorDescription(recorded.Error())),
+                           platform::MessageIcon::Critical);
+  return Step::Stop;
 }
 
 bool BatchRename::MustWait(const NamedFile& named, const FoldedNames& held, const FileRenamer& renamer) const {
@@ -183,16 +237,12 @@ std::vector<PlannedTurn> BatchRename::Turns(const BatchNaming& naming, FileRenam
   return TurnsInListOrder(naming.files.size(), moveFile, plan);
 }
 
-// Where a journal keeps the plan, it is handed over before the first
-// rename; a plan that cannot be kept stops the batch before anything changes.
+// Where a journal keeps the plan, these renames are added to it before
+// the first of them is taken.
 BatchRename::Ending BatchRename::RenamePlanned(const BatchNaming& naming, FileRenamer& renamer,
-                                                QString* lastNewName) {
+                                               RecordedOperation* recorded, QString* lastNewName) {
   const std::vector<PlannedTurn> turns = Turns(naming, renamer);
-  std::optional<RecordedOperation> recorded;
-  if (context_.recorder != nullptr) recorded.emplace(context_.recorder, Plan(turns, naming, renamer));
-  if (recorded && recorded->Error() != 0) {
-    context_.messages.Notify(texts::kPlanNotKept.arg(platform::ErrorDescription(recorded->Error())),
-                             platform::MessageIcon::Critical);
+  if (recorded != nullptr && Record(Plan(turns, naming, renamer).steps, *recorded) == Step::Stop) {
     return Ending::Stopped;
   }
   for (const PlannedTurn& turn : turns) {

@@ -8,6 +8,7 @@
 #include "core/BatchNaming.h"
 #include "core/FileRenamer.h"
 #include "core/OverwritingRename.h"
+#include "core/RecordedOperation.h"
 #include "core/RenameContext.h"
 #include "core/RenamePlanner.h"
 
@@ -47,9 +48,12 @@ class BatchRename {
                   const std::vector<platform::FileName>& files) const;
   Ending RenameAll(const QString& base, const BatchNaming* prepared, QString* lastNewName);
   Ending RenameAsNamed(const std::vector<platform::FileName>& files, const QString& base, FileRenamer& renamer,
-                       QString* lastNewName);
+                       RecordedOperation* recorded, QString* lastNewName);
+  std::vector<PlanStep> DescribePiece(const std::vector<NamedFile>& piece, FileRenamer& renamer) const;
+  Step Record(const std::vector<PlanStep>& steps, RecordedOperation& recorded);
   bool MustWait(const NamedFile& named, const FoldedNames& held, const FileRenamer& renamer) const;
-  Ending RenamePlanned(const BatchNaming& naming, FileRenamer& renamer, QString* lastNewName);
+  Ending RenamePlanned(const BatchNaming& naming, FileRenamer& renamer, RecordedOperation* recorded,
+                       QString* lastNewName);
   std::vector<PlannedTurn> Turns(const BatchNaming& naming, FileRenamer& renamer) const;
   Step TakeTurn(const std::vector<PlannedRename>& asides, const NamedFile& named, FileRenamer& renamer,
                 QString* lastNewName);

@@ -14,6 +14,10 @@ class OperationRecorder {
   // Makes the plan durable; 0 or an error number. On an error the operation
   // does not start: a change that could not be taken back is not made.
   virtual int Begin(const OperationPlan& plan) = 0;
+  // Adds steps to the plan begun, durable on return; 0 or an error number.
+  // An operation that works its steps out as it goes adds each batch of
+  // them before taking the first; on an error it takes none of them.
+  virtual int Extend(const std::vector<PlanStep>& steps) = 0;
   virtual void End() = 0;
 };
 

@@ -6,7 +6,7 @@ FileIdentity IdentityOf(platform::FileSystem& fs, const QByteArray& path, bool i
   FileIdentity identity;
   identity.inodeStable = inodeStable;
   platform::FileInfo info;
-  if (fs.Stat(path, &info) != 0 || info.isDir) return identity;
+  if (fs.StatIdentity(path, &info) != 0 || info.isDir) return identity;
   identity.size = info.size;
   identity.modifiedNs = info.modifiedNs;
   identity.device = info.device;

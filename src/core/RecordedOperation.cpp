@@ -3,14 +3,27 @@
 namespace renvale::core {
 
 RecordedOperation::RecordedOperation(OperationRecorder* recorder, const OperationPlan& plan)
-    : recorder_(plan.steps.empty() ? nullptr : recorder) {
-  if (recorder_ == nullptr) return;
+    : recorder_(recorder), start_{plan.kind, plan.folder, plan.started, {}} {
+  if (recorder_ == nullptr || plan.steps.empty()) return;
   error_ = recorder_->Begin(plan);
-  if (error_ != 0) recorder_ = nullptr;
+  begun_ = error_ == 0;
 }
 
 RecordedOperation::~RecordedOperation() {
-  if (recorder_ != nullptr) recorder_->End();
+  if (begun_) recorder_->End();
+}
+
+int RecordedOperation::Add(const std::vector<PlanStep>& steps) {
+  if (recorder_ == nullptr || steps.empty() || error_ != 0) return error_;
+  if (begun_) {
+    error_ = recorder_->Extend(steps);
+    return error_;
+  }
+  start_.steps = steps;
+  error_ = recorder_->Begin(start_);
+  start_.steps.clear();
+  begun_ = error_ == 0;
+  return error_;
 }
 
 }  // namespace renvale::core

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "core/OperationRecorder.h"
 
 namespace renvale::core {
@@ -8,6 +10,7 @@ namespace renvale::core {
 // tells it the end on every way out. With no recorder it does nothing.
 class RecordedOperation {
  public:
+  // A plan without steps yet begins with the first Add.
   RecordedOperation(OperationRecorder* recorder, const OperationPlan& plan);
   ~RecordedOperation();
   RecordedOperation(const RecordedOperation&) = delete;
@@ -16,8 +19,14 @@ class RecordedOperation {
   // 0, or why the plan could not be kept (then nothing may change).
   int Error() const { return error_; }
 
+  // Adds steps worked out on the way, durable before it returns; 0 or the
+  // error, after which none of them may be taken.
+  int Add(const std::vector<PlanStep>& steps);
+
  private:
   OperationRecorder* recorder_;
+  OperationPlan start_;  // the plan's kind, folder and time, until it begins
+  bool begun_ = false;
   int error_ = 0;
 };
 

@@ -1,6 +1,7 @@
 #include "fileops/Journal.h"
 
 #include <algorithm>
+#include <cerrno>
 
 #include "fileops/FileopsTexts.h"
 #include "fileops/JournalFormat.h"
@@ -77,9 +78,14 @@ int Journal::Begin(const core::OperationPlan& plan) {
     current_ = stem + Suffix(State::Open);
     running_.Acquire(current_);
     // The new name must outlive a power cut, not only the file's contents.
-    return fs_.FlushFileSystem(folder_);
+    return fs_.FlushFolder(folder_);
   }
   return platform::kFileAlreadyExists;
+}
+
+int Journal::Extend(const std::vector<core::PlanStep>& steps) {
+  if (current_.isEmpty()) return platform::ErrorNumberFromErrno(EINVAL);
+  return fs_.AppendToFile(current_, JournalFormat::Addition(steps));
 }
 
 void Journal::End() {
@@ -118,8 +124,8 @@ std::vector<JournalEntry> Journal::Entries(size_t most, bool undone) {
       SetAside(name, static_cast<int>(read.status));
       continue;
     }
-    entry.plan = read.plan;
-    entries.push_back(entry);
+    entry.plan = std::move(read.plan);
+    entries.push_back(std::move(entry));
   }
   return entries;
 }

@@ -22,7 +22,8 @@ struct JournalEntry {
 // The journals of the operations, one file each in a folder of this
 // computer, shared by every program that changes names for the person.
 // A plan is written under a temporary name, flushed, and named "*.open":
-// that rename is the moment it counts. At the end it is renamed "*.done"
+// that rename is the moment it counts. Steps added later are appended and
+// flushed, each addition before its steps are taken. At the end it is renamed "*.done"
 // with no flush, because the disk itself tells a finished plan. The files
 // carry the start time in their names, so their order is their age.
 class Journal : public core::OperationRecorder {
@@ -34,6 +35,7 @@ class Journal : public core::OperationRecorder {
   Journal(platform::FileSystem& fs, const QByteArray& folder, platform::MessagePort& messages);
 
   int Begin(const core::OperationPlan& plan) override;
+  int Extend(const std::vector<core::PlanStep>& steps) override;
   void End() override;
 
   // Every journal, newest first. One that cannot be read (cut short,

@@ -1,6 +1,7 @@
 #include "fileops/JournalFormat.h"
 
 #include <QList>
+#include <charconv>
 
 namespace renvale::fileops {
 
@@ -20,7 +21,55 @@ quint64 Checksum(const char* data, qint64 size) {
   return hash;
 }
 
-QByteArray Hex(const QByteArray& raw) { return raw.isEmpty() ? QByteArrayLiteral("-") : raw.toHex(); }
+// A batch writes ten thousand paths before its first rename: the fields
+// go straight into the one buffer, with no string made per field.
+void AppendHex(QByteArray& out, const QByteArray& raw) {
+  if (raw.isEmpty()) {
+    out += '-';
+    return;
+  }
+  static constexpr char kDigits[] = "0123456789abcdef";
+  const qsizetype at = out.size();
+  out.resize(at + 2 * raw.size());
+  char* p = out.data() + at;
+  for (const char c : raw) {
+    *p++ = kDigits[static_cast<unsigned char>(c) >> 4];
+    *p++ = kDigits[static_cast<unsigned char>(c) & 15];
+  }
+}
+
+template <typename Integer>
+void AppendNumber(QByteArray& out, Integer value) {
+  char digits[24];
+  const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+  out.append(digits, end - digits);
+}
+
+void AppendStep(QByteArray& out, const core::PlanStep& step) {
+  const core::FileIdentity& id = step.identity;
+  out += "step ";
+  out += static_cast<char>(step.kind);
+  out += ' ';
+  AppendHex(out, step.from);
+  out += ' ';
+  AppendHex(out, step.to);
+  for (const qint64 value : {id.size, id.modifiedNs}) {
+    out += ' ';
+    AppendNumber(out, value);
+  }
+  for (const quint64 value : {id.device, id.inode}) {
+    out += ' ';
+    AppendNumber(out, value);
+  }
+  out += id.inodeStable ? " 1\n" : " 0\n";
+}
+
+// Steps, then the checksum of everything from `start` on.
+void AppendSteps(QByteArray& out, qsizetype start, const std::vector<core::PlanStep>& steps) {
+  out.reserve(out.size() + static_cast<qsizetype>(steps.size()) * 160);
+  for (const core::PlanStep& step : steps) AppendStep(out, step);
+  out += kSum + QByteArray::number(Checksum(out.constData() + start, out.size() - start), 16) + '\n';
+}
 
 bool FromHex(const QByteArray& text, QByteArray* raw) {
   if (text == "-") {
@@ -87,21 +136,51 @@ bool ReadBody(const QList<QByteArray>& lines, core::OperationPlan* plan) {
   return true;
 }
 
+// The lines of every piece that ends in its checksum line, checked. After
+// the last one, only steps of an addition cut short may follow.
+JournalStatus ReadPieces(const QByteArray& bytes, qint64 version, QList<QByteArray>* lines) {
+  qsizetype pieceStart = 0;
+  qsizetype piecesRead = 0;
+  QList<QByteArray> piece;
+  for (qsizetype at = 0;;) {
+    const qsizetype end = bytes.indexOf('\n', at);
+    if (end < 0) break;
+    const QByteArray line = bytes.mid(at, end - at);
+    at = end + 1;
+    if (!line.startsWith(kSum)) {
+      piece.push_back(line);
+      continue;
+    }
+    const quint64 sum = Checksum(bytes.constData() + pieceStart, end - static_cast<qsizetype>(line.size()) - pieceStart);
+    if (line.mid(kSum.size()) != QByteArray::number(sum, 16)) return JournalStatus::Garbled;
+    if (piecesRead++ > 0 && version < 2) return JournalStatus::Garbled;
+    *lines += piece;
+    piece.clear();
+    pieceStart = at;
+  }
+  if (piecesRead == 0) return JournalStatus::Truncated;
+  for (const QByteArray& line : piece) {
+    core::PlanStep step;
+    if (!line.startsWith("step ") || !ReadStep(line.split(' '), &step)) return JournalStatus::Garbled;
+  }
+  return JournalStatus::Ok;
+}
+
 }  // namespace
 
 QByteArray JournalFormat::Write(const core::OperationPlan& plan) {
   QByteArray out = kMagic + QByteArray::number(kVersion) + '\n';
   out += "kind " + QByteArray(1, static_cast<char>(plan.kind)) + '\n';
-  out += "folder " + Hex(plan.folder) + '\n';
-  out += "started " + QByteArray::number(plan.started.toMSecsSinceEpoch()) + '\n';
-  for (const core::PlanStep& step : plan.steps) {
-    const core::FileIdentity& id = step.identity;
-    out += "step " + QByteArray(1, static_cast<char>(step.kind)) + ' ' + Hex(step.from) + ' ' + Hex(step.to) + ' ' +
-           QByteArray::number(id.size) + ' ' + QByteArray::number(id.modifiedNs) + ' ' +
-           QByteArray::number(id.device) + ' ' + QByteArray::number(id.inode) + ' ' +
-           (id.inodeStable ? "1" : "0") + '\n';
-  }
-  out += kSum + QByteArray::number(Checksum(out.constData(), out.size()), 16) + '\n';
+  out += "folder ";
+  AppendHex(out, plan.folder);
+  out += "\nstarted " + QByteArray::number(plan.started.toMSecsSinceEpoch()) + '\n';
+  AppendSteps(out, 0, plan.steps);
+  return out;
+}
+
+QByteArray JournalFormat::Addition(const std::vector<core::PlanStep>& steps) {
+  QByteArray out;
+  AppendSteps(out, 0, steps);
   return out;
 }
 
@@ -128,17 +207,11 @@ JournalRead JournalFormat::Read(const char* data, qint64 size) {
     result.status = JournalStatus::Newer;
     return result;
   }
-  const qsizetype sumStart = bytes.lastIndexOf('\n' + kSum) + 1;
-  if (sumStart <= 0 || !bytes.endsWith('\n')) {
-    result.status = JournalStatus::Truncated;
-    return result;
-  }
-  const QByteArray sumText = bytes.mid(sumStart + kSum.size()).chopped(1);
-  if (sumText != QByteArray::number(Checksum(data, sumStart), 16)) return result;
-  QList<QByteArray> lines = bytes.left(sumStart - 1).split('\n');
+  QList<QByteArray> lines;
+  result.status = ReadPieces(bytes, version, &lines);
+  if (result.status != JournalStatus::Ok) return result;
   lines.removeFirst();
-  if (!ReadBody(lines, &result.plan)) return result;
-  result.status = JournalStatus::Ok;
+  if (!ReadBody(lines, &result.plan)) result.status = JournalStatus::Garbled;
   return result;
 }
 

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -87,6 +88,22 @@ class FileSystem {
   // Writes a whole file (creating or truncating it), flushed before success.
   virtual int WriteWholeFile(const QByteArray& path, const QByteArray& contents) = 0;
   virtual int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) = 0;
+  // Adds `contents` at the end of an existing file, flushed before success:
+  // a kill or a power cut leaves the file as it was, or with a part of
+  // `contents` at its end. The default, for file systems held in memory,
+  // writes the whole file again.
+  virtual int AppendToFile(const QByteArray& path, const QByteArray& contents) {
+    QByteArray whole;
+    if (const int error = ReadWholeFile(path, INT32_MAX, &whole)) return error;
+    return WriteWholeFile(path, whole + contents);
+  }
+  // Stat without the dates and the access check: fills isDir, size,
+  // modifiedNs, device and inode only, for telling files apart at one
+  // system call per file.
+  virtual int StatIdentity(const QByteArray& path, FileInfo* info) { return Stat(path, info); }
+  // Makes the names in `folder` durable (a name just given there), not the
+  // whole file system's writes. The default flushes the file system.
+  virtual int FlushFolder(const QByteArray& folder) { return FlushFileSystem(folder); }
 };
 
 // The real file system (POSIX calls, GIO for the trash).

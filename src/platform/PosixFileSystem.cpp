@@ -173,6 +173,18 @@ int PosixFileSystem::Stat(const QByteArray& path, FileInfo* info) {
   return kNoError;
 }
 
+int PosixFileSystem::StatIdentity(const QByteArray& path, FileInfo* info) {
+  *info = FileInfo{};
+  struct stat st;
+  if (::stat(path.constData(), &st) != 0) return ErrorNumberFromErrno(errno);
+  info->isDir = S_ISDIR(st.st_mode);
+  info->size = st.st_size;
+  info->modifiedNs = static_cast<qint64>(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
+  info->device = st.st_dev;
+  info->inode = st.st_ino;
+  return kNoError;
+}
+
 bool PosixFileSystem::Exists(const QByteArray& path) {
   struct stat st;
   // A dangling symlink still takes up its name.
@@ -239,6 +251,25 @@ int PosixFileSystem::WriteWholeFile(const QByteArray& path, const QByteArray& co
   if (err == 0 && ::fsync(fd.get()) != 0) err = errno;
   if (::close(fd.Release()) != 0 && err == 0) err = errno;
   return ErrorNumberFromErrno(err);
+}
+
+// Only the data needs flushing: the name is already durable, and the new
+// size goes with the data.
+int PosixFileSystem::AppendToFile(const QByteArray& path, const QByteArray& contents) {
+  UniqueFd fd(::open(path.constData(), O_WRONLY | O_APPEND | O_CLOEXEC));
+  if (!fd.valid()) return ErrorNumberFromErrno(errno);
+  int err = WriteAll(fd.get(), contents.constData(), contents.size());
+  if (err == 0 && ::fdatasync(fd.get()) != 0) err = errno;
+  if (::close(fd.Release()) != 0 && err == 0) err = errno;
+  return ErrorNumberFromErrno(err);
+}
+
+// A folder's own flush commits its names without writing out what every
+// other program has pending on the same disk, as syncfs would.
+int PosixFileSystem::FlushFolder(const QByteArray& folder) {
+  UniqueFd fd(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!fd.valid()) return ErrorNumberFromErrno(errno, ErrnoContext::Folder);
+  return ::fsync(fd.get()) == 0 ? kNoError : ErrorNumberFromErrno(errno);
 }
 
 int PosixFileSystem::ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) {

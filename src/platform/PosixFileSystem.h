@@ -26,6 +26,9 @@ class PosixFileSystem : public FileSystem {
   int OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) override;
   bool ReadableFromAnyThread() const override { return true; }
   int WriteWholeFile(const QByteArray& path, const QByteArray& contents) override;
+  int AppendToFile(const QByteArray& path, const QByteArray& contents) override;
+  int FlushFolder(const QByteArray& folder) override;
+  int StatIdentity(const QByteArray& path, FileInfo* info) override;
   // A file longer than `maxBytes` gives kErrnoBase + EFBIG and no contents.
   int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) override;
 

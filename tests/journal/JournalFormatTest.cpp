@@ -37,9 +37,46 @@ TEST(JournalFormat, DamageIsToldApartAndNeverReadAsAPlan) {
     }
   }
   QByteArray newer = bytes;
-  newer.replace("RENVALE-JOURNAL 1\n", "RENVALE-JOURNAL 2\nwhatever\n");
+  newer.replace("RENVALE-JOURNAL 2\n", "RENVALE-JOURNAL 3\nwhatever\n");
   EXPECT_EQ(JournalFormat::Read(newer.constData(), newer.size()).status, JournalStatus::Newer);
   EXPECT_EQ(JournalFormat::Read("PK\x03\x04", 4).status, JournalStatus::Garbled);
+}
+
+// Steps added later read after the first ones. An addition cut short
+// anywhere is left out, its steps never taken, and the rest still reads;
+// anything but steps after the last checksum is damage.
+TEST(JournalFormat, AdditionsReadOnlyWhenWhole) {
+  core::OperationPlan plan = SamplePlan();
+  const core::PlanStep added = plan.steps.back();
+  plan.steps.pop_back();
+  const QByteArray first = JournalFormat::Write(plan);
+  const QByteArray whole = first + JournalFormat::Addition({added});
+  const JournalRead read = JournalFormat::Read(whole.constData(), whole.size());
+  ASSERT_EQ(read.status, JournalStatus::Ok);
+  plan.steps.push_back(added);
+  EXPECT_EQ(JournalFormat::Write(read.plan), JournalFormat::Write(plan));
+  for (qsizetype cut = first.size(); cut < whole.size(); ++cut) {
+    const JournalRead torn = JournalFormat::Read(whole.constData(), cut);
+    EXPECT_EQ(torn.status, JournalStatus::Ok) << cut;
+    EXPECT_EQ(torn.plan.steps.size(), 1u) << cut;
+  }
+  for (const QByteArray& damaged : {first + "kind b\n", first + "sum 0\n"}) {
+    EXPECT_EQ(JournalFormat::Read(damaged.constData(), damaged.size()).status, JournalStatus::Garbled) << damaged.constData();
+  }
+}
+
+// A journal of the first version, with its single checksum, still reads;
+// additions came later, so one in such a file is damage.
+TEST(JournalFormat, FirstVersionJournalsRead) {
+  const QByteArray old =
+      "RENVALE-JOURNAL 1\nkind b\nfolder 2f612f\nstarted 1764082800123\n"
+      "step R 2f612f78 2f612f79 12 1764082800123456789 2049 77 1\nsum e44aee04a9b5d782\n";
+  const JournalRead read = JournalFormat::Read(old.constData(), old.size());
+  ASSERT_EQ(read.status, JournalStatus::Ok);
+  ASSERT_EQ(read.plan.steps.size(), 1u);
+  EXPECT_EQ(read.plan.steps[0].to, "/a/y");
+  const QByteArray added = old + JournalFormat::Addition({read.plan.steps[0]});
+  EXPECT_EQ(JournalFormat::Read(added.constData(), added.size()).status, JournalStatus::Garbled);
 }
 
 }  // namespace

@@ -35,11 +35,13 @@ TEST_F(JournalStore, PlansAreListedNewestFirstWithTheirStates) {
   ASSERT_EQ(journal.Begin(Plan(2000)), 0);
   journal.End();
   ASSERT_EQ(journal.Begin(Plan(3000)), 0);  // a run that never ended
+  ASSERT_EQ(journal.Extend(Plan(0).steps), 0);
   Put("000000000001000-0000.tmp", "half");  // being written, or killed before its plan counted
   std::vector<JournalEntry> entries = journal.Entries();
   ASSERT_EQ(entries.size(), 2u);
   EXPECT_EQ(entries[0].state, State::Open);
   EXPECT_EQ(entries[0].plan.started.toMSecsSinceEpoch(), 3000);
+  EXPECT_EQ(entries[0].plan.steps.size(), 2u);
   EXPECT_EQ(entries[1].state, State::Done);
   EXPECT_EQ(journal.Mark(entries[1], State::Undone), 0);
   EXPECT_EQ(journal.Entries()[1].state, State::Undone);
@@ -61,7 +63,7 @@ TEST_F(JournalStore, AnUnreadableJournalIsToldAboutAndKeptAside) {
   } cases[] = {
       {good.left(good.size() - 3), "is incomplete: it was cut short while being written."},
       {QByteArray(good).replace("kind r", "kind b"), "is damaged."},
-      {QByteArray(good).replace("JOURNAL 1", "JOURNAL 7"), "was written by a newer version of Renvale."},
+      {QByteArray(good).replace("JOURNAL 2", "JOURNAL 7"), "was written by a newer version of Renvale."},
   };
   for (const auto& c : cases) {
     Put("000000000001000-0000.done", c.bytes);

@@ -1,8 +1,10 @@
+#include <QSet>
 #include <deque>
 
 #include "RenameFixture.h"
 #include "core/BatchNaming.h"
 #include "core/BatchRename.h"
+#include "core/OperationRecorder.h"
 
 namespace renvale::test {
 namespace {
@@ -10,7 +12,37 @@ namespace {
 using platform::MessageAnswer;
 using Files = std::map<QByteArray, QByteArray>;
 
-class NameSwapTest : public RenameFixture {};
+// Takes the plan as a journal would and notes every rename whose source
+// no step recorded so far leaves from.
+class CheckingRecorder : public core::OperationRecorder {
+ public:
+  explicit CheckingRecorder(FaultyFileSystem& fs) {
+    fs.beforeRename = [this](const QByteArray& from) {
+      if (!sources_.contains(from)) unrecorded.push_back(from);
+    };
+  }
+  int Begin(const core::OperationPlan& plan) override { return Extend(plan.steps); }
+  int Extend(const std::vector<core::PlanStep>& steps) override {
+    for (const core::PlanStep& step : steps) sources_.insert(step.from);
+    return 0;
+  }
+  void End() override {}
+  void Reset() {
+    sources_.clear();
+    unrecorded.clear();
+  }
+
+  std::vector<QByteArray> unrecorded;
+
+ private:
+  QSet<QByteArray> sources_;
+};
+
+class NameSwapTest : public RenameFixture {
+ protected:
+  NameSwapTest() { context.recorder = &recorder; }
+  CheckingRecorder recorder{fs};
+};
 
 // Files that trade names in one batch are renamed without a question and
 // without a loss; a file outside the batch is still asked about. Random
@@ -45,6 +77,7 @@ TEST_F(NameSwapTest, FilesTradingNamesAreNeitherAskedAboutNorLost) {
     // worked out beforehand.
     for (const bool beforehand : {false, true}) {
       Remake(row.files);
+      recorder.Reset();
       Select(row.selected);
       port.messages.clear();
       for (MessageAnswer answer : row.answers) port.Script(answer);
@@ -68,7 +101,40 @@ TEST_F(NameSwapTest, FilesTradingNamesAreNeitherAskedAboutNorLost) {
       EXPECT_EQ(Folder(), row.after) << *row.files.begin() << beforehand;
       EXPECT_EQ(static_cast<int>(port.messages.size()), row.questions);
       EXPECT_EQ(view.series, row.draws.empty() ? "05" : "02");
+      EXPECT_EQ(recorder.unrecorded, std::vector<QByteArray>{});
     }
+  }
+}
+
+// A batch long enough to record its plan in several pieces names every
+// file, files freeing each other's names included, and records each
+// rename before it is taken.
+TEST_F(NameSwapTest, ALongBatchRecordsEveryRenameBeforeTakingIt) {
+  constexpr int kFiles = 600;
+  settings.placeholders = 4;
+  for (const int shift : {0, 1}) {  // "f0000" -> "0001"; "0001" -> "0002", each waiting for the next
+    view.selected.clear();
+    for (int i = 0; i < kFiles; ++i) {
+      const QByteArray name = (shift == 0 ? "f" : "") + QByteArray::number(i + shift).rightJustified(4, '0') + ".dat";
+      fs.WriteWholeFile(Path(name), name);
+      view.selected.push_back(platform::FileName{name});
+    }
+    session.SelectedFileName = view.selected.front();
+    session.SelectedExt = ".dat";
+    session.SelectedCount = kFiles;
+    session.BatchMode = true;
+    view.series = QString::number(1 + shift);
+    view.newName = "%SERIES%";
+    recorder.Reset();
+    core::BatchRename(context).StartBatchRename();
+    const Files after = Folder();
+    ASSERT_EQ(after.size(), size_t{kFiles});
+    for (int i = 0; i < kFiles; ++i) {
+      const QByteArray name = QByteArray::number(i + 1 + shift).rightJustified(4, '0') + ".dat";
+      EXPECT_EQ(after.count(name) != 0 ? after.at(name) : QByteArray(), (shift == 0 ? "f" : "") + QByteArray::number(i + shift).rightJustified(4, '0') + ".dat");
+    }
+    EXPECT_EQ(recorder.unrecorded, std::vector<QByteArray>{});
+    Remake({});
   }
 }
 
