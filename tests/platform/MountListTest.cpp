@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <QList>
+
 #include "RawFiles.h"
 #include "platform/MountList.h"
+#include "platform/NetworkAddress.h"
+#include "platform/VideoDecoding.h"
 
 namespace renvale::test {
 namespace {
@@ -38,6 +42,62 @@ TEST(MountList, ReadabilityAndTheLiveList) {
   ASSERT_GE(volumes.size(), 2u);
   EXPECT_EQ(volumes[0].path, "/");
   EXPECT_EQ(volumes[1].path, qgetenv("HOME") + '/');
+}
+
+using platform::NetworkAddress;
+
+QByteArray Parse(const QByteArray& text) { return NetworkAddress::Parse(text.constData(), size_t(text.size())); }
+
+TEST(NetworkAddress, TypedAndPastedAddressesBecomeMountableUris) {
+  const struct {
+    QByteArray typed;
+    QByteArray uri;
+  } cases[] = {
+      {"smb://nas/photos", "smb://nas/photos"},
+      {"  SMB://nas/photos/2024\n", "smb://nas/photos/2024"},
+      {"sftp://ann@host:2222", "sftp://ann@host:2222"},
+      {"nfs://nas/export/pics", "nfs://nas/export/pics"},
+      {"davs://cloud.example/remote.php/webdav/", "davs://cloud.example/remote.php/webdav/"},
+      {"smb://nas/My Photos/%41", "smb://nas/My%20Photos/%41"},
+      {"\\\\nas\\photos", "smb://nas/photos"},
+      {"\\\\nas\\My Photos\\100% \xc3\xa9t\xc3\xa9", "smb://nas/My%20Photos/100%25%20%C3%A9t%C3%A9"},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Parse(c.typed), c.uri) << c.typed.constData();
+}
+
+TEST(NetworkAddress, WhatIsNoNetworkFolderIsRefused) {
+  const QByteArray refused[] = {
+      "",          "   ",           "/home/ann/Pictures", "file:///home/ann", "http://nas/photos",
+      "smb://nas", "smb://nas/",    "smb:///photos",      "nfs://nas",        "sftp://",
+      "smb:/nas",  "\\\\nas",       "\\\\nas\\",          "\\\\\\photos",     "\\\\nas\\\\photos",
+      "smb",       "(Please choose a network drive or folder)",
+  };
+  for (const QByteArray& text : refused) EXPECT_EQ(Parse(text), QByteArray()) << text.constData();
+  // The parser never reads past the length it is given.
+  EXPECT_EQ(NetworkAddress::Parse("smb://nas/photosXYZ", 16), "smb://nas/photos");
+  EXPECT_EQ(NetworkAddress::Parse(nullptr, 5), QByteArray());
+}
+
+using platform::VideoDecoding;
+
+TEST(VideoDecoding, TheWorkaroundRanksEveryHardwareDecoderOut) {
+  const QByteArray ranks = VideoDecoding::SoftwareOnlyRanks({});
+  for (const char* decoder : {"vah264dec", "vaapih264dec", "vaapidecodebin", "nvh264dec", "v4l2h264dec"}) {
+    EXPECT_TRUE(ranks.split(',').contains(QByteArray(decoder) + ":NONE")) << decoder;
+  }
+  EXPECT_FALSE(ranks.contains("avdec_")) << "software decoders stay";
+  EXPECT_FALSE(ranks.endsWith(','));
+  // A rank set on purpose comes last, so that it wins.
+  EXPECT_TRUE(VideoDecoding::SoftwareOnlyRanks(" vah264dec:PRIMARY ").endsWith(",vah264dec:PRIMARY"));
+
+  qunsetenv("GST_PLUGIN_FEATURE_RANK");
+  VideoDecoding::Choose(false);
+  EXPECT_FALSE(qEnvironmentVariableIsSet("GST_PLUGIN_FEATURE_RANK"));
+  qputenv("GST_PLUGIN_FEATURE_RANK", "mine:MAX");
+  VideoDecoding::Choose(true);
+  VideoDecoding::Choose(true);
+  EXPECT_EQ(qgetenv("GST_PLUGIN_FEATURE_RANK"), VideoDecoding::SoftwareOnlyRanks("mine:MAX"));
+  qunsetenv("GST_PLUGIN_FEATURE_RANK");
 }
 
 }  // namespace
