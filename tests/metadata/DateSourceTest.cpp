@@ -48,9 +48,7 @@ TEST(HeadScan, TakesTheSecondDateShapedText) {
       {QByteArray("1234:56:78 90:12:34"), "1234:56:78 90:12:34"},  // any digits match
   };
   for (const auto& c : cases) EXPECT_EQ(Scan(c.head), c.expected) << c.head.constData();
-}
-
-TEST(HeadScan, NeverLooksPastTheLengthGiven) {
+  // It never looks past the length given.
   const QByteArray bytes = QByteArray(kOne) + kTwo;
   EXPECT_EQ(ScanDateInHead(bytes.constData(), 19 + 18), kOne);
   EXPECT_EQ(ScanDateInHead(bytes.constData(), 0), "");
