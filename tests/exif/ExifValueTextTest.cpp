@@ -53,8 +53,9 @@ Case Text(const char* tag, Ifd ifd, quint16 number, const QByteArray& value, con
   return {tag, [=](TiffBuilder& t) { t.Ascii(ifd, number, value); }, expected};
 }
 
-TEST(ExifValueText, PhotographicValuesInTheUsualNotation) {
+TEST(ExifValueText, EachKindOfValueInItsOwnNotation) {
   RunCases({
+      // photographic values in the usual notation
       Rational("Fnumber", 0x829D, 56, 10, "f/5.6"),
       Rational("Fnumber", 0x829D, 14, 1, "f/14"),
       Rational("Fnumber", 0x829D, 168, 100, "f/1.7"),
@@ -78,11 +79,7 @@ TEST(ExifValueText, PhotographicValuesInTheUsualNotation) {
       Rational("FocalLength", 0x920A, 50, 1, "50 mm"),
       Rational("FocalLength", 0x920A, 74, 10, "7.4 mm"),
       Rational("FocalLength", 0x920A, 0, 1, ""),
-  });
-}
-
-TEST(ExifValueText, CodedValuesInWords) {
-  RunCases({
+      // coded values in words
       Short("Flash", Ifd::Exif, 0x9209, 0, "No flash"),
       Short("Flash", Ifd::Exif, 0x9209, 1, "Fired"),
       Short("Flash", Ifd::Exif, 0x9209, 5, "Fired, return not detected"),
@@ -97,11 +94,7 @@ TEST(ExifValueText, CodedValuesInWords) {
       Short("ExposureProgram", Ifd::Exif, 0x8822, 1, "Manual"),
       Short("ExposureProgram", Ifd::Exif, 0x8822, 8, "Landscape mode"),
       Short("ExposureProgram", Ifd::Exif, 0x8822, 9, "Unknown (9)"),
-  });
-}
-
-TEST(ExifValueText, NumbersAndTexts) {
-  RunCases({
+      // numbers and texts
       {"ImageNumber", [](TiffBuilder& t) { t.Long(Ifd::Exif, 0x9211, 0xFFFFFFFFu); }, "4294967295"},
       {"ImageNumber", [](TiffBuilder& t) { t.Long(Ifd::Zero, 0x9211, 1170123); }, "1170123"},  // TIFF/EP place
       Short("ExifImageWidth", Ifd::Exif, 0xA002, 640, "640"),

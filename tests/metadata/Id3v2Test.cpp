@@ -1,5 +1,5 @@
-// The ID3v2 reader on generated tags of each version and text encoding, and
-// its place behind the ID3v1 tag in names and the report.
+// The ID3v1 and ID3v2 readers on generated tags of each version and text
+// encoding, and the place of ID3v2 behind ID3v1 in names and the report.
 
 #include <gtest/gtest.h>
 
@@ -8,12 +8,69 @@
 #include "metadata/FileReport.h"
 #include "metadata/Id3v2Reader.h"
 #include "metadata/MemoryByteSource.h"
+#include "metadata/mdlID3.h"
+#include "platform/ErrorNumbers.h"
 #include "support/MemoryFileSystem.h"
 #include "support/SampleAudio.h"
 #include "support/SampleMedia.h"
 
 namespace renvale::test {
 namespace {
+
+using metadata::Id3Tag;
+using metadata::Id3Values;
+
+TEST(Id3Tag, OnlyTheLast128BytesStartingTagAreATag) {
+  Id3v1Fields fields{"  Silence  ", "piman", "Quod Libet Test Data", "2004", "a comment", 2, 50};
+  const QByteArray tag = MakeId3v1Tag(fields);
+  const struct {
+    const char* what;
+    QByteArray bytes;
+    bool found;
+  } cases[] = {
+      {"no tag", MakeMp3(nullptr), false},
+      {"too short", tag.left(127), false},
+      {"empty file", QByteArray(), false},
+      {"TAX", QByteArray(tag).replace(2, 1, "X"), false},
+      {"exactly a tag", tag, true},
+  };
+  for (const auto& c : cases) {
+    MemoryFileSystem fs;
+    fs.Add("/m/a.mp3", c.bytes);
+    Id3Tag read;
+    EXPECT_EQ(metadata::ReadId3Tag(fs, "/m/a.mp3", &read), c.found) << c.what;
+    EXPECT_EQ(read.artist, c.found ? "piman" : "") << c.what;
+  }
+  MemoryFileSystem fs;
+  fs.Add("/m/a.mp3", tag);
+  fs.FailOpen("/m/a.mp3", platform::kAccessViolation);
+  Id3Tag emptied;
+  emptied.title = "left over";
+  EXPECT_FALSE(metadata::ReadId3Tag(fs, "/m/a.mp3", &emptied));
+  EXPECT_EQ(emptied.title, "");
+  EXPECT_FALSE(metadata::ReadId3Tag(fs, "/m/missing.mp3", &emptied));
+}
+
+TEST(Id3FixedText, ConvertsBytesByItsRules) {
+  struct Case {
+    QByteArray bytes;
+    int mode;
+    bool stopAtZero;
+    QString expected;
+  } cases[] = {
+      {QByteArray("ab\0cd", 5), 0, true, "ab"},
+      {QByteArray("ab\0cd", 5), 0, false, QString::fromUtf16(u"ab\u0000cd", 5)},
+      {"a\rb\nc", 0, true, "ab\r\nc"},
+      {"\x80\x93\xE9\x9F\x81", 0, true, QString::fromUtf16(u"\u20AC\u201C\u00E9\u0178\u0081")},
+      {QByteArray("a\0b\0\0\0c\0", 8), 1, true, "ab"},  // low bytes of little-endian text
+      {QByteArray("\0a\0b", 4), 2, true, "ab"},         // and of big-endian text
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(metadata::Id3FixedText(c.bytes.constData(), c.bytes.size(), c.mode, c.stopAtZero),
+              c.expected)
+        << c.bytes.toHex().constData();
+  }
+}
 
 using metadata::Id3Tag;
 using metadata::Id3v2Reader;

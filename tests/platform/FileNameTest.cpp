@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <cstring>
+
+#include "platform/ErrorNumbers.h"
 #include "platform/FileName.h"
 
 namespace renvale::test {
@@ -37,6 +41,42 @@ TEST(FileNameText, EveryByteStringComesBackExactly) {
   QByteArray everyByte;
   for (int b = 1; b < 256; ++b) everyByte += static_cast<char>(b);
   EXPECT_EQ(FileName::FromDisplay(FileName{everyByte}.Display()).raw, everyByte);
+}
+
+using platform::ErrnoContext;
+
+// Each number describes itself with the system's text of the errno it
+// stands for (`describedBy`), not always the errno it came from.
+TEST(ErrorNumbers, FromErrnoAndDescribedByTheSystemText) {
+  const struct {
+    int errnum;
+    ErrnoContext context;
+    int expected;
+    int describedBy;
+  } cases[] = {
+      {0, ErrnoContext::File, 0, 0},
+      {EACCES, ErrnoContext::File, 70, EACCES},
+      {EPERM, ErrnoContext::Folder, 70, EACCES},
+      {EROFS, ErrnoContext::File, 75, EROFS},
+      {ETXTBSY, ErrnoContext::File, 75, EROFS},
+      {EBUSY, ErrnoContext::Folder, 75, EROFS},
+      {ENOENT, ErrnoContext::Folder, 76, ENOENT},
+      {ENOTDIR, ErrnoContext::Folder, 76, ENOENT},
+      {ENOTDIR, ErrnoContext::File, 76, ENOENT},
+      {ENOENT, ErrnoContext::File, 53, ENOENT},
+      {EEXIST, ErrnoContext::File, 58, EEXIST},
+      {ENOSPC, ErrnoContext::File, 1000 + ENOSPC, ENOSPC},
+      {EXDEV, ErrnoContext::Folder, 1000 + EXDEV, EXDEV},
+      {EIO, ErrnoContext::File, 1000 + EIO, EIO},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(testing::Message() << "errno " << c.errnum << " context " << int(c.context));
+    EXPECT_EQ(platform::ErrorNumberFromErrno(c.errnum, c.context), c.expected);
+    if (c.describedBy != 0) {
+      EXPECT_EQ(platform::ErrorDescription(c.expected), QString::fromLocal8Bit(std::strerror(c.describedBy)));
+    }
+  }
+  EXPECT_TRUE(platform::ErrorDescription(5).isEmpty());
 }
 
 }  // namespace
