@@ -77,6 +77,7 @@ int Journal::Begin(const core::OperationPlan& plan) {
     }
     current_ = stem + Suffix(State::Open);
     running_.Acquire(current_);
+    RememberWritten(current_, plan, bytes.size());
     // The new name must outlive a power cut, not only the file's contents.
     return fs_.FlushFolder(folder_);
   }
@@ -85,7 +86,27 @@ int Journal::Begin(const core::OperationPlan& plan) {
 
 int Journal::Extend(const std::vector<core::PlanStep>& steps) {
   if (current_.isEmpty()) return platform::ErrorNumberFromErrno(EINVAL);
-  return fs_.AppendToFile(current_, JournalFormat::Addition(steps));
+  const QByteArray addition = JournalFormat::Addition(steps);
+  const int error = fs_.AppendToFile(current_, addition);
+  if (error != 0 || written_.stem != Stem(current_)) {
+    written_ = {};
+    return error;
+  }
+  written_.size += addition.size();
+  written_.plan.steps.insert(written_.plan.steps.end(), steps.begin(), steps.end());
+  return 0;
+}
+
+void Journal::RememberWritten(const QByteArray& path, const core::OperationPlan& plan, qint64 size) {
+  written_ = {Stem(path), size, plan};
+}
+
+bool Journal::FromWritten(const QByteArray& path, core::OperationPlan* plan) {
+  if (written_.size < 0 || Stem(path) != written_.stem) return false;
+  platform::FileInfo info;
+  if (fs_.StatIdentity(path, &info) != 0 || info.size != written_.size) return false;
+  *plan = written_.plan;
+  return true;
 }
 
 void Journal::End() {
@@ -117,6 +138,10 @@ std::vector<JournalEntry> Journal::Entries(size_t most, bool undone) {
     JournalEntry entry;
     if (!StateOfName(name, &entry.state) || (!undone && entry.state == State::Undone)) continue;
     entry.path = folder_ + name;
+    if (FromWritten(entry.path, &entry.plan)) {
+      entries.push_back(std::move(entry));
+      continue;
+    }
     QByteArray bytes;
     const int error = fs_.ReadWholeFile(entry.path, kMaxJournalBytes, &bytes);
     const JournalRead read = JournalFormat::Read(bytes.constData(), bytes.size());

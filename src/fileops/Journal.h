@@ -57,10 +57,23 @@ class Journal : public core::OperationRecorder {
   void SetAside(const QByteArray& name, int status);
   void Prune();
 
+  bool FromWritten(const QByteArray& path, core::OperationPlan* plan);
+  void RememberWritten(const QByteArray& path, const core::OperationPlan& plan, qint64 size);
+
   platform::FileSystem& fs_;
   QByteArray folder_;
   platform::MessagePort& messages_;
   QByteArray current_;  // the open journal of the running operation
+  // The plan this journal wrote last, kept as written: the Undo caption asks
+  // for the newest plan after every operation, and reading back the
+  // megabyte a large batch wrote would cost a good part of the batch again.
+  // Whether its file is still the one written is told by its stem and size:
+  // journals are only ever appended to.
+  struct Written {
+    QByteArray stem;
+    qint64 size = -1;
+    core::OperationPlan plan;
+  } written_;
   // Held on `current_` while the operation runs, so that another program
   // sharing the journal does not take a running plan for one cut short.
   platform::FileLock running_;

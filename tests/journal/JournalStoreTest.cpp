@@ -42,6 +42,11 @@ TEST_F(JournalStore, PlansAreListedNewestFirstWithTheirStates) {
   EXPECT_EQ(entries[0].state, State::Open);
   EXPECT_EQ(entries[0].plan.started.toMSecsSinceEpoch(), 3000);
   EXPECT_EQ(entries[0].plan.steps.size(), 2u);
+  // What the writing journal keeps of its plan is what another one reads.
+  test::ScriptedMessagePort otherPort;
+  const std::vector<JournalEntry> read = Journal(platform::RealFileSystem(), folder, otherPort).Entries(1);
+  ASSERT_EQ(read.size(), 1u);
+  EXPECT_EQ(JournalFormat::Write(read[0].plan), JournalFormat::Write(entries[0].plan));
   EXPECT_EQ(entries[1].state, State::Done);
   EXPECT_EQ(journal.Mark(entries[1], State::Undone), 0);
   EXPECT_EQ(journal.Entries()[1].state, State::Undone);
