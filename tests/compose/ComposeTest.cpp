@@ -30,11 +30,6 @@ class ButtonTexts : public ComposeFixture {
     MakeFile(QStringLiteral("Beach.JPG"));
     Open();
   }
-  void StoreText(int editIndex, const QString& text) {
-    editor->Open(editIndex);
-    Ui().Text3->setText(text);
-    Ui().Command3->click();
-  }
 };
 
 TEST_F(ButtonTexts, RightClickOpensTheEditorWithItsPrompt) {
@@ -59,7 +54,9 @@ TEST_F(ButtonTexts, RightClickOpensTheEditorWithItsPrompt) {
 }
 
 TEST_F(ButtonTexts, CharactersNoFileNameCanHoldAreRefused) {
-  StoreText(5, QStringLiteral("a|b"));
+  editor->Open(5);
+  Ui().Text3->setText(QStringLiteral("a|b"));
+  Ui().Command3->click();
   EXPECT_TRUE(Ui().namebutton->isVisible()) << "the editor stays open";
   EXPECT_EQ(messages.Texts(), QStringList{core::texts::kInvalidFilenameChars});
   EXPECT_EQ(Ui().Command1[4]->text(), "Custom5");

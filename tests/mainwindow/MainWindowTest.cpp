@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include <QAbstractItemModel>
 #include <QAccessible>
 #include <QAction>
@@ -24,6 +26,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBrowser>
+#include <QTextDocument>
+#include <QThread>
 #include <QTimer>
 #include <QUrl>
 #include <algorithm>
@@ -38,6 +42,7 @@
 #include "mainwindow/MainWindowFixture.h"
 #include "platform/widgets/HelpWindow.h"
 #include "shell/AboutDialog.h"
+#include "shell/BackgroundTextDocument.h"
 #include "shell/BrowsePane.h"
 #include "shell/DropToggleButton.h"
 #include "shell/FileListModel.h"
@@ -519,8 +524,7 @@ class MainWindowSession : public MainWindowFixture {};
 TEST_F(MainWindowSession, SelectAllInAnEmptyFolderOnlyTellsSo) {
   shell::MainWindow& main = Open();
   main.Ui().Command14->click();
-  ASSERT_EQ(messages.messages.size(), 1u);
-  EXPECT_EQ(messages.Last().text, "There are no files in this folder to select!");
+  ASSERT_EQ(messages.Texts(), QStringList{"There are no files in this folder to select!"});
   EXPECT_EQ(messages.Last().title, "Renvale");
   EXPECT_FALSE(main.FileIsSelected());
 }
@@ -668,8 +672,7 @@ TEST_F(MainWindowSettings, ChooseFolderHandlesCancelVirtualPlacesAndRealFolders)
 
   pickerAnswer = "::smb://server/share";
   main.Ui().browse->Command15->click();
-  ASSERT_EQ(messages.messages.size(), 1u);
-  EXPECT_EQ(messages.Last().text, "An invalid folder was chosen.  Please choose an actual folder.");
+  ASSERT_EQ(messages.Texts(), QStringList{"An invalid folder was chosen.  Please choose an actual folder."});
 
   pickerAnswer = QFile::decodeName(Folder()) + "sub";
   main.Ui().browse->Command15->click();
@@ -868,6 +871,27 @@ TEST_F(NamePreviewWindow, ListsASwapAndADuplicateAndStartGivesTheNamesShown) {
   EXPECT_EQ(holds("2004-07-02.jpg"), TakenOn("2004:07:02 10:00:00"));
   EXPECT_EQ(holds("2004-07-01.jpg"), TakenOn("2004:07:01 10:00:00"));
   EXPECT_EQ(holds("c.jpg"), TakenOn("2004:07:01 11:00:00"));
+}
+
+// Pieces handed in one after another end up whole and in order in a
+// document that belongs to the taker's thread; one never taken is let go.
+TEST(BackgroundTextDocument, HoldsEveryPieceInOrderOnTheTakersThread) {
+  shell::BackgroundTextDocument pieces(QFont(QStringLiteral("Sans"), 13));
+  QString whole;
+  for (int i = 0; i < 300; ++i) {
+    const QString piece = QStringLiteral("\n\"IMG_%1.JPG\" was renamed to \"Pic_%1.JPG\"").arg(i);
+    pieces.Append(piece);
+    whole += piece;
+  }
+  EXPECT_TRUE(pieces.Continues(whole + "x"));
+  EXPECT_FALSE(pieces.Continues(QString(whole).replace(whole.size() - 3, 1, 'X')));
+  EXPECT_FALSE(pieces.Continues(whole.chopped(1)));
+  const std::unique_ptr<QTextDocument> document = pieces.Take();
+  EXPECT_EQ(document->thread(), QThread::currentThread());
+  EXPECT_EQ(document->toPlainText(), whole);
+  EXPECT_EQ(document->defaultFont().pointSize(), 13);
+  shell::BackgroundTextDocument abandoned{QFont()};
+  abandoned.Append(whole);
 }
 
 }  // namespace
