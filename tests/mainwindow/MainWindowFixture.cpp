@@ -3,6 +3,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -24,7 +26,7 @@ void MainWindowFixture::TearDown() { window.reset(); }
 
 QByteArray MainWindowFixture::Folder() const { return QFile::encodeName(dir.path()) + "/files/"; }
 
-shell::MainWindow& MainWindowFixture::Open(platform::FileSystem& fs) {
+shell::MainWindow& MainWindowFixture::Open(platform::FileSystem& fs, const QByteArray& startPath) {
   window.reset();
   shell::MainWindowServices services{
       fs, messages, *storage, tips,
@@ -36,7 +38,7 @@ shell::MainWindow& MainWindowFixture::Open(platform::FileSystem& fs) {
       [this] { return Folder(); },
       journal};
   window = std::make_unique<shell::MainWindow>(std::move(services));
-  window->Start();
+  window->Start(startPath);
   return *window;
 }
 
@@ -68,6 +70,19 @@ void MainWindowFixture::ClickRow(int row, Qt::KeyboardModifiers modifiers) {
   QListView* list = window->Ui().File1;
   const QRect rect = list->visualRect(window->Files().index(row));
   QTest::mouseClick(list->viewport(), Qt::LeftButton, modifiers, rect.center());
+}
+
+void MainWindowFixture::ShowActive() {
+  window->show();
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+}
+
+std::vector<QByteArray> MainWindowFixture::DiskNames() {
+  std::vector<QByteArray> names;
+  EXPECT_EQ(platform::RealFileSystem().ListFiles(Folder(), &names), 0);
+  std::sort(names.begin(), names.end());
+  return names;
 }
 
 }  // namespace renvale::test

@@ -29,13 +29,15 @@ class MainWindowFixture : public ::testing::Test {
   void TearDown() override;
 
   // Builds and starts a window; call again after Shutdown to reopen.
-  shell::MainWindow& Open(platform::FileSystem& fs = platform::RealFileSystem());
+  shell::MainWindow& Open(platform::FileSystem& fs = platform::RealFileSystem(), const QByteArray& startPath = {});
   void CloseWindow();
   void MakeFiles(const QStringList& names);
   void MakeFile(const QByteArray& rawName, const QByteArray& bytes = "x");
   QByteArray Folder() const;
   QStringList ListedNames();
   void ClickRow(int row, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+  void ShowActive();  // keys reach only an active window
+  std::vector<QByteArray> DiskNames();  // the folder's names as bytes, sorted
 
   QTemporaryDir dir;
   std::unique_ptr<platform::QtSettingsStorage> storage;

@@ -39,16 +39,11 @@ class QuickTipTest : public ::testing::Test {
 TEST_F(QuickTipTest, WhichTipsOpen) {
   struct Case { QStringList flags; int tip; bool opens; };
   const Case cases[] = {
-      {{}, 1, true},
-      {{"NoTip5"}, 5, false},
-      {{"NoTip5"}, 6, true},
+      {{}, 1, true}, {{"NoTip5"}, 5, false}, {{"NoTip5"}, 6, true},
       {{"NoTipsAtAll"}, 3, false},  // whatever the single flags say
       {{}, 18, true},
       {{}, 19, false},  // 19 and 20 have no text
-      {{}, 20, false},
-      {{}, 21, true},
-      {{}, 0, false},
-      {{}, 22, false},
+      {{}, 20, false}, {{}, 21, true}, {{}, 0, false}, {{}, 22, false},
   };
   for (const Case& c : cases) {
     for (const QString& flag : c.flags) storage->WriteSettingString(QString(), flag, "1");

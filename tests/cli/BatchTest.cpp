@@ -4,11 +4,68 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include "cli/BatchArguments.h"
 #include "cli/BatchCommand.h"
 #include "core/CoreTexts.h"
 
 namespace renvale::cli {
 namespace {
+
+std::vector<QByteArray> Args(std::initializer_list<const char*> words) {
+  return std::vector<QByteArray>(words.begin(), words.end());
+}
+
+TEST(BatchArguments, EachBadCommandLineGetsItsOwnOneLineReason) {
+  const struct {
+    std::vector<QByteArray> args;
+    const char* error;
+  } cases[] = {
+      {Args({"--nmae", "x", "a.jpg"}), "unknown option '--nmae' (see renvale-batch --help)"},
+      {Args({"a.jpg", "--name"}), "option '--name' needs a value"},
+      {Args({"--name", "a:b", "a.jpg"}),
+       "'a:b' holds a character that is not allowed in a file name:  \\ / : * ? \" < > |"},
+      {Args({"--replace", "a=b/c", "a.jpg"}),
+       "'b/c' holds a character that is not allowed in a file name:  \\ / : * ? \" < > |"},
+      {Args({"--name", "", "a.jpg"}), "the name given to '--name' is empty"},
+      {Args({"--name", "x"}), "no files given"},
+      {Args({"--series", "-3", "--name", "x", "a"}), "'--series' takes a whole number from 0 up, not '-3'"},
+      {Args({"--random-series", "--seed", "-1", "--name", "x", "a"}),
+       "'--seed' takes a whole number from 0 to 4294967295, not '-1'"},
+      {Args({"--seed", "4", "--name", "x", "a"}), "'--seed' is for '--random-series' only"},
+      {Args({"--replace", "=b", "a"}), "'--replace' takes SEARCH=REPLACEMENT with SEARCH not empty, not '=b'"},
+      {Args({"--on-clash=ask", "--name", "x", "a"}), "'--on-clash' takes 'skip' or 'fail', not 'ask'"},
+      {Args({"--name", "x", "--replace", "a=b", "a"}), "'--name' and '--replace' cannot be used together"},
+      {Args({"--history", "a.jpg"}), "'--history' takes no files ('a.jpg')"},
+      {Args({"a.jpg"}), "say what to do: --name, --replace, --history or --undo (see --help)"},
+      {Args({"--replace", "1=a", "--replace", "2=a", "--replace", "3=a", "--replace", "4=a", "--replace", "5=a",
+             "--replace", "6=a", "--replace", "7=a", "f"}),
+       "at most six '--replace' pairs can be chained"},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(ParseBatchArguments(c.args).error, QString::fromUtf8(c.error)) << c.args.front().constData();
+  }
+}
+
+TEST(BatchArguments, GoodCommandLinesKeepOrderBytesAndValues) {
+  const BatchArguments name = ParseBatchArguments(
+      Args({"--name=%DATE% %SERIES%", "--series", "7", "--on-clash=fail", "b.jpg", "--dry-run", "--", "--odd.jpg",
+            "caf\xe9.jpg"}));
+  EXPECT_EQ(name.error, QString());
+  EXPECT_EQ(name.action, Action::Name);
+  EXPECT_EQ(name.name, QStringLiteral("%DATE% %SERIES%"));
+  EXPECT_EQ(name.series, 7);
+  EXPECT_TRUE(name.failOnClash && name.dryRun && !name.json);
+  EXPECT_EQ(name.files, Args({"b.jpg", "--odd.jpg", "caf\xe9.jpg"}));
+
+  const BatchArguments replace = ParseBatchArguments(Args({"--replace", "IMG_=a=b", "--replace", "x=", "f"}));
+  ASSERT_EQ(replace.replacements.size(), 2u);
+  EXPECT_EQ(replace.replacements[0], std::make_pair(QStringLiteral("IMG_"), QStringLiteral("a=b")));
+  EXPECT_EQ(replace.replacements[1], std::make_pair(QStringLiteral("x"), QString()));
+
+  EXPECT_EQ(ParseBatchArguments(Args({"--undo", "0042-0001"})).undoId, QStringLiteral("0042-0001"));
+  const BatchArguments newest = ParseBatchArguments(Args({"--undo", "--json"}));
+  EXPECT_TRUE(newest.undoId.isEmpty() && newest.json && newest.error.isEmpty());
+}
 
 // Real files in a temporary folder, each holding its own first name, and a
 // journal beside them; the command runs in-process.
@@ -21,13 +78,12 @@ class BatchRun : public ::testing::Test {
     QByteArray bytes;
     return fs.ReadWholeFile(card + name, 1 << 10, &bytes) == 0 ? bytes : QByteArray("(none)");
   }
-  int Run(std::initializer_list<const char*> words) {
+  int Run(const std::vector<QByteArray>& words) {
     out.clear();
     err.clear();
     QTextStream outStream(&out);
     QTextStream errStream(&err);
-    const BatchArguments args = ParseBatchArguments(std::vector<QByteArray>(words.begin(), words.end()));
-    return BatchCommand(BatchServices{fs, settings, &journal, card}, outStream, errStream).Run(args);
+    return BatchCommand(BatchServices{fs, settings, &journal, card}, outStream, errStream).Run(ParseBatchArguments(words));
   }
 
   QTemporaryDir dir;
@@ -92,19 +148,12 @@ TEST_F(BatchRun, ASeededRandomSeriesRunsAsItsDryRunShowedOverTwoFolders) {
   QDir().mkpath(QFile::decodeName(card) + "sub");
   const char* files[] = {"a.jpg", "b.jpg", "c.jpg", "d.jpg", "sub/e.jpg", "sub/f.jpg"};
   for (const char* name : files) Make(name);
-  const auto run = [&](bool dry) {
-    std::vector<QByteArray> args{"--name", "S %SERIES%", "--series", "5", "--random-series", "--seed", "11"};
-    if (dry) args.emplace_back("--dry-run");
-    args.insert(args.end(), std::begin(files), std::end(files));
-    out.clear();
-    QTextStream outStream(&out);
-    QTextStream errStream(&err);
-    return BatchCommand(BatchServices{fs, settings, &journal, card}, outStream, errStream)
-        .Run(ParseBatchArguments(args));
-  };
-  EXPECT_EQ(run(true), kEveryFileNamed);
+  std::vector<QByteArray> args{"--name", "S %SERIES%", "--series", "5", "--random-series", "--seed", "11", "--dry-run"};
+  args.insert(args.end(), std::begin(files), std::end(files));
+  EXPECT_EQ(Run(args), kEveryFileNamed);
   const QString shown = out;
-  EXPECT_EQ(run(false), kEveryFileNamed);
+  args.erase(args.begin() + 7);
+  EXPECT_EQ(Run(args), kEveryFileNamed);
   EXPECT_EQ(out, shown);
   QStringList numbers;
   for (const QString& line : shown.split('\n', Qt::SkipEmptyParts)) numbers << line.right(6).left(2);
@@ -130,15 +179,9 @@ TEST_F(BatchRun, ManyFilesOfOneFolderAreReportedAsTheyEnded) {
   args.insert(args.end(), {"x.jpg", "y.jpg"});
   std::vector<QByteArray> missing = args;
   missing.emplace_back("gone.jpg");
-  QTextStream outStream(&out);
-  QTextStream errStream(&err);
-  BatchCommand command(BatchServices{fs, settings, &journal, card}, outStream, errStream);
-  EXPECT_EQ(BatchCommand(BatchServices{fs, settings, &journal, card}, outStream, errStream)
-                .Run(ParseBatchArguments(missing)),
-            kFailed);
-  EXPECT_EQ(err, QStringLiteral("renvale-batch: no such file: 'gone.jpg'\n"));
-  err.clear();
-  EXPECT_EQ(command.Run(ParseBatchArguments(args)), kSomeSkipped);
+  EXPECT_EQ(Run(missing), kFailed);
+  EXPECT_EQ(out + err, QStringLiteral("renvale-batch: no such file: 'gone.jpg'\n"));
+  EXPECT_EQ(Run(args), kSomeSkipped);
   EXPECT_EQ(err, QStringLiteral("renvale-batch: skipped 'x.jpg': 'Trip 34.jpg' is already taken\n"));
   EXPECT_EQ(out.count(QLatin1Char('\n')), 33);  // Trip 17 keeps its name
   EXPECT_TRUE(out.startsWith(QStringLiteral("Trip 33.jpg \u2192 Trip 01.jpg\n")));

@@ -1,6 +1,3 @@
-// Decoding for the preview: scaled while decoding, turned by the EXIF
-// orientation, RAW files through their embedded JPEG.
-
 #include <gtest/gtest.h>
 
 #include <QFile>
@@ -8,7 +5,9 @@
 #include <QTemporaryDir>
 
 #include "platform/FileSystem.h"
+#include "shell/MediaControlRules.h"
 #include "shell/PreviewDecoder.h"
+#include "shell/PreviewKind.h"
 #include "support/SampleImages.h"
 #include "support/SampleRaw.h"
 #include "support/SampleRawFiles.h"
@@ -16,6 +15,60 @@
 namespace renvale::test {
 namespace {
 
+using platform::MediaState;
+using shell::MediaControlRules;
+
+TEST(MediaControlRules, SecondsInTheHashHashHashPointZeroZeroLayout) {
+  const struct {
+    qint64 ms;
+    const char* text;
+  } rows[] = {{0, ".00"},        {4, ".00"},           {5, ".01"},         {500, ".50"},  {1234, "1.23"},
+              {59999, "60.00"},  {123456, "123.46"},  {3600000, "3600.00"}, {-40, ".00"}};
+  for (const auto& row : rows) EXPECT_EQ(MediaControlRules::SecondsText(row.ms), row.text) << row.ms;
+}
+
+TEST(MediaControlRules, WhichControlsWork) {
+  // play, pause, stop, step back, step forward, volume, position
+  const struct {
+    MediaState state;
+    bool seekable, audio;
+    qint64 position;
+    const char* expected;
+  } rows[] = {
+      {MediaState::Empty, true, true, 0, "-------"},    {MediaState::Loading, true, true, 0, "-------"},
+      {MediaState::Failed, true, true, 0, "-------"},   {MediaState::Stopped, true, true, 0, "P---FVS"},
+      {MediaState::Playing, true, true, 500, "-PSBFVS"}, {MediaState::Paused, true, false, 1000, "P-SB--S"},
+      {MediaState::Paused, false, true, 500, "P-S--V-"},
+  };
+  for (const auto& row : rows) {
+    const shell::MediaControls c = MediaControlRules::ControlsFor(
+        {row.state, row.seekable, row.audio, false, row.position, 1000, 0});
+    const char got[] = {c.play ? 'P' : '-',     c.pause ? 'P' : '-',       c.stop ? 'S' : '-',
+                        c.stepBack ? 'B' : '-', c.stepForward ? 'F' : '-', c.volume ? 'V' : '-',
+                        c.position ? 'S' : '-', '\0'};
+    EXPECT_STREQ(got, row.expected) << static_cast<int>(row.state) << " at " << row.position;
+  }
+}
+
+TEST(MediaControlRules, AStepIsAFrameOfVideoOrASecondOfSound) {
+  const struct {
+    bool video;
+    double rate;
+    qint64 position;
+    int direction;
+    qint64 target;
+  } rows[] = {
+      {true, 0, 1000, 1, 1040},   {true, 30, 1000, 1, 1033}, {true, 30, 1000, -1, 967},
+      {false, 30, 1000, 1, 2000}, {false, 0, 500, -1, 0},    {false, 0, 9500, 1, 10000},
+  };
+  for (const auto& row : rows) {
+    const shell::MediaFacts facts{MediaState::Paused, true, true, row.video, row.position, 10000, row.rate};
+    EXPECT_EQ(MediaControlRules::StepTarget(facts, row.direction), row.target) << row.position << row.direction;
+  }
+}
+
+// Decoding for the preview: scaled while decoding, turned by the EXIF
+// orientation, RAW files through their embedded JPEG.
 using metadata::PreviewTurn;
 using shell::PreviewDecoder;
 
@@ -101,6 +154,32 @@ TEST_F(PreviewDecoderTest, WhatIsNoPictureDecodesToNothing) {
   EXPECT_TRUE(Decode("cut.jpg", TurnedJpeg(80, 40, 1).left(30)).image.isNull());
   EXPECT_TRUE(PreviewDecoder::Decode(platform::RealFileSystem(), dir.filePath("gone.jpg").toUtf8(), {9, 9}, true)
                   .image.isNull());
+}
+
+using shell::PreviewKind;
+
+TEST(PreviewKind, ByTheLastFourThenThreeCharacters) {
+  constexpr PreviewKind M = PreviewKind::Media, N = PreviewKind::Notice, P = PreviewKind::Picture;
+  const struct {
+    const char* name;
+    PreviewKind withBoth, withNeither;
+  } rows[] = {
+      {"clip.AVI", M, M},     {"clip.mpeg", M, M},     {"clipmpeg", M, M},  // four characters, no dot needed
+      {"clip.MOV", M, N},     {"phone.3gp", M, N},     {"song.Mp3", M, M},
+      {"song.wma", M, M},     {"song.ram", M, N},      {"song.rm", M, N},
+      {"song.RA", M, N},      {"tune.mid", M, M},      {"x.wm", M, M},
+      {"notes.txt", N, N},    {"setup.EXE", N, N},     {"slides.ppt", N, N},
+      {"IMG_0001.JPG", P, P}, {"README", P, P},        {"photo.cr2", P, P},
+      {"a.rmvb", P, P},       {"a.movie", P, P},       {"x.mp4", P, P},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    EXPECT_EQ(shell::PreviewKindFor(row.name, true, true), row.withBoth);
+    EXPECT_EQ(shell::PreviewKindFor(row.name, false, false), row.withNeither);
+  }
+  // Each switch governs only its own kinds.
+  EXPECT_EQ(shell::PreviewKindFor("clip.mov", true, false), M);
+  EXPECT_EQ(shell::PreviewKindFor("song.rm", false, true), M);
 }
 
 }  // namespace
