@@ -168,6 +168,8 @@ class Parser {
         }
         break;
       case Action::Replace:
+        // Search and replace hands out no numbers: saying it would be a silent no.
+        if (out_.randomSeries || out_.seed) Fail(texts::kRandomWithoutName);
         for (const auto& [search, replacement] : out_.replacements) {
           if (core::HasInvalidFilenameChars(replacement)) Fail(texts::kForbiddenCharacter.arg(replacement));
         }

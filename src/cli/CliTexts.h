@@ -15,6 +15,7 @@ inline const QString kNeedsValue = QStringLiteral("option '%1' needs a value");
 inline const QString kBadSeries = QStringLiteral("'--series' takes a whole number from 0 up, not '%1'");
 inline const QString kBadSeed = QStringLiteral("'--seed' takes a whole number from 0 to 4294967295, not '%1'");
 inline const QString kSeedWithoutRandom = QStringLiteral("'--seed' is for '--random-series' only");
+inline const QString kRandomWithoutName = QStringLiteral("'--random-series' and '--seed' are for '--name' only");
 inline const QString kBadReplace = QStringLiteral("'--replace' takes SEARCH=REPLACEMENT with SEARCH not empty, not '%1'");
 inline const QString kTooManyReplace = QStringLiteral("at most six '--replace' pairs can be chained");
 inline const QString kBadOnClash = QStringLiteral("'--on-clash' takes 'skip' or 'fail', not '%1'");

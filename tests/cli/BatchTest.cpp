@@ -32,6 +32,7 @@ TEST(BatchArguments, EachBadCommandLineGetsItsOwnOneLineReason) {
       {Args({"--random-series", "--seed", "-1", "--name", "x", "a"}),
        "'--seed' takes a whole number from 0 to 4294967295, not '-1'"},
       {Args({"--seed", "4", "--name", "x", "a"}), "'--seed' is for '--random-series' only"},
+      {Args({"--random-series", "--replace", "a=b", "a"}), "'--random-series' and '--seed' are for '--name' only"},
       {Args({"--replace", "=b", "a"}), "'--replace' takes SEARCH=REPLACEMENT with SEARCH not empty, not '=b'"},
       {Args({"--on-clash=ask", "--name", "x", "a"}), "'--on-clash' takes 'skip' or 'fail', not 'ask'"},
       {Args({"--name", "x", "--replace", "a=b", "a"}), "'--name' and '--replace' cannot be used together"},
