@@ -9,14 +9,6 @@ int FaultyFileSystem::Injected(Change change, const QByteArray& path, const QByt
   return 0;
 }
 
-int FaultyFileSystem::ListFiles(const QByteArray& folder, std::vector<QByteArray>* names) {
-  return inner_.ListFiles(folder, names);
-}
-
-int FaultyFileSystem::ListFolders(const QByteArray& folder, std::vector<QByteArray>* names) {
-  return inner_.ListFolders(folder, names);
-}
-
 int FaultyFileSystem::RenameNoReplace(const QByteArray& from, const QByteArray& to) {
   if (beforeRename) beforeRename(from);
   if (const int error = Injected(Change::Rename, from, to)) return error;
@@ -27,10 +19,6 @@ int FaultyFileSystem::RenameNoReplace(const QByteArray& from, const QByteArray& 
 int FaultyFileSystem::RemoveFile(const QByteArray& path) {
   if (const int error = Injected(Change::Remove, path)) return error;
   return inner_.RemoveFile(path);
-}
-
-int FaultyFileSystem::CopyFile(const QByteArray& from, const QByteArray& to, bool replace) {
-  return inner_.CopyFile(from, to, replace);
 }
 
 int FaultyFileSystem::RenameReplacing(const QByteArray& from, const QByteArray& to) {
@@ -57,17 +45,9 @@ int FaultyFileSystem::MoveToTrash(const QByteArray& path) {
   return inner_.MoveToTrash(path);
 }
 
-int FaultyFileSystem::OpenForRead(const QByteArray& path, std::unique_ptr<platform::ReadableFile>* file) {
-  return inner_.OpenForRead(path, file);
-}
-
 int FaultyFileSystem::WriteWholeFile(const QByteArray& path, const QByteArray& contents) {
   if (const int error = Injected(Change::Write, path)) return error;
   return inner_.WriteWholeFile(path, contents);
-}
-
-int FaultyFileSystem::ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) {
-  return inner_.ReadWholeFile(path, maxBytes, contents);
 }
 
 }  // namespace renvale::test

@@ -35,21 +35,31 @@ class FaultyFileSystem : public platform::FileSystem {
   std::function<void(const QByteArray&)> beforeRename;
   void ClearFaults() { faults_.clear(); }
 
-  int ListFiles(const QByteArray& folder, std::vector<QByteArray>* names) override;
-  int ListFolders(const QByteArray& folder, std::vector<QByteArray>* names) override;
+  int ListFiles(const QByteArray& folder, std::vector<QByteArray>* names) override {
+    return inner_.ListFiles(folder, names);
+  }
+  int ListFolders(const QByteArray& folder, std::vector<QByteArray>* names) override {
+    return inner_.ListFolders(folder, names);
+  }
   int Stat(const QByteArray& path, platform::FileInfo* info) override { return inner_.Stat(path, info); }
   bool Exists(const QByteArray& path) override { return inner_.Exists(path); }
   int RenameNoReplace(const QByteArray& from, const QByteArray& to) override;
   int RemoveFile(const QByteArray& path) override;
-  int CopyFile(const QByteArray& from, const QByteArray& to, bool replace) override;
+  int CopyFile(const QByteArray& from, const QByteArray& to, bool replace) override {
+    return inner_.CopyFile(from, to, replace);
+  }
   int RenameReplacing(const QByteArray& from, const QByteArray& to) override;
   int CopyToTemporary(const QByteArray& from, const QByteArray& folder, QByteArray* temporary) override;
   int FlushFileSystem(const QByteArray& folder) override { return inner_.FlushFileSystem(folder); }
   int WriteProbeFile(const QByteArray& path, const QByteArray& contents) override;
   int MoveToTrash(const QByteArray& path) override;
-  int OpenForRead(const QByteArray& path, std::unique_ptr<platform::ReadableFile>* file) override;
+  int OpenForRead(const QByteArray& path, std::unique_ptr<platform::ReadableFile>* file) override {
+    return inner_.OpenForRead(path, file);
+  }
   int WriteWholeFile(const QByteArray& path, const QByteArray& contents) override;
-  int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) override;
+  int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) override {
+    return inner_.ReadWholeFile(path, maxBytes, contents);
+  }
 
  private:
   enum class Change { Rename, RenameFrom, Remove, Trash, Write, Copy };

@@ -116,13 +116,8 @@ int MemoryFileSystem::Stat(const QByteArray& path, platform::FileInfo* info) {
 bool MemoryFileSystem::Exists(const QByteArray& path) { return Find(path) != nullptr; }
 
 int MemoryFileSystem::RenameNoReplace(const QByteArray& from, const QByteArray& to) {
-  Entry* e = Find(from);
-  if (e == nullptr) return platform::kFileNotFound;
-  if (Find(to) != nullptr) return platform::kFileAlreadyExists;
-  Entry moved = *e;
-  files_.erase(Key(from));
-  files_[Key(to)] = moved;
-  return platform::kNoError;
+  if (Find(from) != nullptr && Find(to) != nullptr) return platform::kFileAlreadyExists;
+  return RenameReplacing(from, to);
 }
 
 int MemoryFileSystem::RemoveFile(const QByteArray& path) {
@@ -133,8 +128,7 @@ int MemoryFileSystem::CopyFile(const QByteArray& from, const QByteArray& to, boo
   const Entry* e = Find(from);
   if (e == nullptr) return platform::kFileNotFound;
   if (!replace && Find(to) != nullptr) return platform::kFileAlreadyExists;
-  const Entry copy = *e;
-  files_[Key(to)] = copy;
+  files_[Key(to)] = Entry(*e);
   return platform::kNoError;
 }
 
@@ -153,13 +147,6 @@ int MemoryFileSystem::CopyToTemporary(const QByteArray& from, const QByteArray& 
   if (err != 0) temporary->clear();
   return err;
 }
-
-int MemoryFileSystem::WriteProbeFile(const QByteArray& path, const QByteArray& contents) {
-  Add(path, contents);
-  return platform::kNoError;
-}
-
-int MemoryFileSystem::MoveToTrash(const QByteArray& path) { return RemoveFile(path); }
 
 int MemoryFileSystem::OpenForRead(const QByteArray& path,
                                   std::unique_ptr<platform::ReadableFile>* file) {

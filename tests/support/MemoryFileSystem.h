@@ -43,8 +43,10 @@ class MemoryFileSystem : public platform::FileSystem {
   int RenameReplacing(const QByteArray& from, const QByteArray& to) override;
   int CopyToTemporary(const QByteArray& from, const QByteArray& folder, QByteArray* temporary) override;
   int FlushFileSystem(const QByteArray&) override { return platform::kNoError; }
-  int WriteProbeFile(const QByteArray& path, const QByteArray& contents) override;
-  int MoveToTrash(const QByteArray& path) override;
+  int WriteProbeFile(const QByteArray& path, const QByteArray& contents) override {
+    return WriteWholeFile(path, contents);
+  }
+  int MoveToTrash(const QByteArray& path) override { return RemoveFile(path); }
   int OpenForRead(const QByteArray& path, std::unique_ptr<platform::ReadableFile>* file) override;
   int WriteWholeFile(const QByteArray& path, const QByteArray& contents) override;
   int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) override;

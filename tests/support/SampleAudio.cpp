@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "support/Bytes.h"
+
 namespace renvale::test {
 namespace {
 
@@ -48,18 +50,12 @@ QByteArray MakeWav(int ms) {
   constexpr int kRate = 8000;
   QByteArray samples;
   for (int i = 0; i < kRate * ms / 1000; ++i) {
-    const auto value = static_cast<qint16>(8000 * std::sin(2 * M_PI * 440 * i / kRate));
-    samples += char(value & 0xFF);
-    samples += char((value >> 8) & 0xFF);
+    samples += Bytes(static_cast<qint16>(8000 * std::sin(2 * M_PI * 440 * i / kRate)), false);
   }
-  auto le = [](quint32 v, int bytes) {
-    QByteArray out;
-    for (int i = 0; i < bytes; ++i) out += char((v >> (8 * i)) & 0xFF);
-    return out;
-  };
   const auto size = static_cast<quint32>(samples.size());
-  return "RIFF" + le(36 + size, 4) + "WAVEfmt " + le(16, 4) + le(1, 2) + le(1, 2) + le(kRate, 4) + le(kRate * 2, 4) +
-         le(2, 2) + le(16, 2) + "data" + le(size, 4) + samples;
+  // PCM, one channel, 2 bytes a sample, 16 bits.
+  return "RIFF" + Le32(36 + size) + "WAVEfmt " + Le32(16) + Le16(1) + Le16(1) + Le32(kRate) + Le32(kRate * 2) +
+         Le16(2) + Le16(16) + "data" + Le32(size) + samples;
 }
 
 }  // namespace renvale::test

@@ -7,6 +7,7 @@
 #include <QPair>
 #include <mutex>
 
+#include "support/Bytes.h"
 #include "support/TiffBuilder.h"
 
 namespace renvale::test {
@@ -72,25 +73,11 @@ QByteArray CachedJpeg(int width, int height) {
 }  // namespace
 
 ExifFields TypicalExifFields() {
-  ExifFields exif;
-  exif.dateTimeOriginal = "2004:07:15 18:03:09";
-  exif.dateTime = "2004:07:16 09:00:00";
-  exif.make = "Canon";
-  exif.model = "Canon EOS 10D";
-  exif.orientation = 1;
-  exif.imageNumber = 1234567;
-  exif.exifVersion = "0221";
-  exif.pixelWidth = 3072;
-  exif.pixelHeight = 2048;
-  exif.iso = 400;
-  exif.exposureProgram = 2;
-  exif.flash = 16;
-  exif.fNumber = ExifRatio{56, 10};
-  exif.apertureValue = ExifRatio{497, 100};
-  exif.shutterSpeedValue = ExifRatio{8, 1};
-  exif.exposureBias = ExifRatio{-2, 3};
-  exif.focalLength = ExifRatio{50, 1};
-  return exif;
+  return {.dateTimeOriginal = "2004:07:15 18:03:09", .dateTime = "2004:07:16 09:00:00", .make = "Canon",
+          .model = "Canon EOS 10D", .orientation = 1, .imageNumber = 1234567, .exifVersion = "0221",
+          .pixelWidth = 3072, .pixelHeight = 2048, .iso = 400, .exposureProgram = 2, .flash = 16,
+          .fNumber = ExifRatio{56, 10}, .apertureValue = ExifRatio{497, 100}, .shutterSpeedValue = ExifRatio{8, 1},
+          .exposureBias = ExifRatio{-2, 3}, .focalLength = ExifRatio{50, 1}};
 }
 
 TiffBuilder ExifTiffBuilder(const ExifFields& exif, bool bigEndian) {
@@ -106,13 +93,7 @@ QByteArray MakeExifJpeg(const ExifFields* exif, int width, int height, bool bigE
   QByteArray jpeg = CachedJpeg(width, height);
   if (exif == nullptr || jpeg.size() < 2) return jpeg;
   const QByteArray payload = QByteArray("Exif\0\0", 6) + MakeExifTiff(*exif, bigEndian);
-  const int length = int(payload.size()) + 2;
-  QByteArray segment("\xFF\xE1", 2);
-  segment.append(char(length >> 8));
-  segment.append(char(length & 0xFF));
-  segment += payload;
-  jpeg.insert(2, segment);
-  return jpeg;
+  return jpeg.insert(2, QByteArray("\xFF\xE1", 2) + Be16(quint16(payload.size() + 2)) + payload);
 }
 
 bool WriteFile(const QString& path, const QByteArray& bytes) {

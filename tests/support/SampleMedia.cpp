@@ -1,28 +1,12 @@
 #include "support/SampleMedia.h"
 
-#include <QtEndian>
+#include "support/Bytes.h"
 
 namespace renvale::test {
 namespace {
 
-QByteArray Be32(quint32 value) {
-  QByteArray bytes(4, '\0');
-  qToBigEndian(value, bytes.data());
-  return bytes;
-}
-
-QByteArray Le32(quint32 value) {
-  QByteArray bytes(4, '\0');
-  qToLittleEndian(value, bytes.data());
-  return bytes;
-}
-
 QByteArray SyncSafe(quint32 value) {
   return Be32((value & 0x7F) | (value << 1 & 0x7F00) | (value << 2 & 0x7F0000) | (value << 3 & 0x7F000000));
-}
-
-QByteArray Box(const char* type, const QByteArray& content) {
-  return Be32(quint32(content.size() + 8)) + type + content;
 }
 
 QByteArray Chunk(const char* id, const QByteArray& content) {

@@ -1,7 +1,6 @@
 #include "support/SampleRaw.h"
 
-#include <QtEndian>
-
+#include "support/Bytes.h"
 #include "support/SampleImages.h"
 
 namespace renvale::test {
@@ -11,10 +10,6 @@ constexpr int kHeaderLength = 26;
 constexpr int kTextStart = 100;
 constexpr int kTextSpacing = 100;
 
-void PutLe32(QByteArray* bytes, int at, quint32 value) {
-  qToLittleEndian(value, bytes->data() + at);
-}
-
 }  // namespace
 
 QByteArray MakeCrw(const QStringList& texts, int heapSize) {
@@ -22,16 +17,16 @@ QByteArray MakeCrw(const QStringList& texts, int heapSize) {
   const int heap = std::max(heapSize, needed);
   QByteArray crw(kHeaderLength + heap, '\0');
   crw.replace(0, 2, "II");
-  PutLe32(&crw, 2, kHeaderLength);
+  crw.replace(2, 4, Le32(kHeaderLength));
   crw.replace(6, 8, "HEAPCCDR");
-  PutLe32(&crw, 14, 0x00010002);
+  crw.replace(14, 4, Le32(0x00010002));
   for (int i = 0; i < texts.size(); ++i) {
     const QByteArray text = texts[i].toLatin1().left(kTextSpacing - 1);
     crw.replace(kHeaderLength + kTextStart + i * kTextSpacing, text.size(), text);
   }
   // The record table (count 0) sits at the heap's end; the heap's last four
   // bytes give its offset from the heap start.
-  PutLe32(&crw, crw.size() - 4, quint32(heap - 6));
+  crw.replace(crw.size() - 4, 4, Le32(quint32(heap - 6)));
   return crw;
 }
 

@@ -1,26 +1,10 @@
 #include "support/SampleRawFiles.h"
 
+#include "support/Bytes.h"
+
 namespace renvale::test {
 
 namespace {
-
-QByteArray Be32(quint32 value) {
-  QByteArray out(4, '\0');
-  for (int i = 0; i < 4; ++i) out[i] = char(value >> (24 - 8 * i));
-  return out;
-}
-
-QByteArray Be16(quint16 value) { return Be32(value).right(2); }
-
-QByteArray Le32(quint32 value) {
-  QByteArray out(4, '\0');
-  for (int i = 0; i < 4; ++i) out[i] = char(value >> (8 * i));
-  return out;
-}
-
-QByteArray Box(const char* type, const QByteArray& content) {
-  return Be32(quint32(8 + content.size())) + QByteArray(type, 4) + content;
-}
 
 QByteArray FullBox(const char* type, quint8 version, const QByteArray& content) {
   return Box(type, QByteArray(1, char(version)) + QByteArray(3, '\0') + content);

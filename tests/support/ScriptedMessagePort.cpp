@@ -15,13 +15,8 @@ platform::MessageAnswer ScriptedMessagePort::Show(const platform::Message& messa
     answers_.pop_front();
     return answer;
   }
-  switch (message.buttons) {
-    case MessageButtons::YesNo:
-    case MessageButtons::YesNoCancel:
-      return MessageAnswer::Yes;
-    default:
-      return MessageAnswer::Ok;
-  }
+  const bool asks = message.buttons == MessageButtons::YesNo || message.buttons == MessageButtons::YesNoCancel;
+  return asks ? MessageAnswer::Yes : MessageAnswer::Ok;
 }
 
 QStringList ScriptedMessagePort::Texts() const {

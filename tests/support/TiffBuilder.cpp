@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "support/Bytes.h"
+
 namespace renvale::test {
 
 namespace {
@@ -16,18 +18,9 @@ constexpr quint16 kExifIfdPointer = 0x8769;
 
 TiffBuilder::TiffBuilder(bool bigEndian, quint16 magic) : bigEndian_(bigEndian), magic_(magic) {}
 
-QByteArray TiffBuilder::U16(quint16 value) const {
-  QByteArray out(2, '\0');
-  const int hi = bigEndian_ ? 0 : 1;
-  out[hi] = char(value >> 8);
-  out[1 - hi] = char(value & 0xFF);
-  return out;
-}
+QByteArray TiffBuilder::U16(quint16 value) const { return Bytes(value, bigEndian_); }
 
-QByteArray TiffBuilder::U32(quint32 value) const {
-  return bigEndian_ ? U16(quint16(value >> 16)) + U16(quint16(value & 0xFFFF))
-                    : U16(quint16(value & 0xFFFF)) + U16(quint16(value >> 16));
-}
+QByteArray TiffBuilder::U32(quint32 value) const { return Bytes(value, bigEndian_); }
 
 void TiffBuilder::Add(Ifd ifd, quint16 tag, quint16 type, quint32 count, const QByteArray& value) {
   auto& list = ifd == Ifd::Zero ? ifd0_ : exif_;
