@@ -8,14 +8,13 @@
 #include <QDateTime>
 #include <ctime>
 
-#include "metadata/AviDateReader.h"
 #include "metadata/DateSource.h"
 #include "metadata/FileDates.h"
 #include "metadata/HeadScan.h"
 #include "metadata/MemoryByteSource.h"
 #include "metadata/VideoDateReader.h"
+#include "support/Bytes.h"
 #include "support/MemoryFileSystem.h"
-#include "support/SampleImages.h"
 #include "support/SampleMedia.h"
 #include "support/SampleRaw.h"
 
@@ -32,13 +31,8 @@ const char kThree[] = "2005:12:31 23:59:59";
 QString Scan(const QByteArray& head) { return ScanDateInHead(head.constData(), head.size()); }
 
 TEST(HeadScan, TakesTheSecondDateShapedText) {
-  struct Case {
-    QByteArray head;
-    QString expected;
-  } cases[] = {
-      {"", ""},
-      {"no dates here: 12:34", ""},
-      {QByteArray("x") + kOne + "y", kOne},
+  struct Case { QByteArray head; QString expected; } cases[] = {
+      {"", ""}, {"no dates here: 12:34", ""}, {QByteArray("x") + kOne + "y", kOne},
       {QByteArray(kOne) + kTwo, kTwo},                             // back to back
       {QByteArray(kOne) + "\0" + kTwo + "\0" + kThree, kTwo},      // three: the second
       {QByteArray("2004:07:15 18:03:0") + "x " + kThree, kThree},  // near miss, then one
@@ -60,8 +54,7 @@ TEST(ThmCompanion, UpperCasePartnerDependsOnTheFileSystem) {
     MemoryFileSystem fs(foldCase);
     fs.Add("/p/IMG_1.CRW", MakeCrw());
     fs.Add("/p/IMG_1.THM", MakeThm(kTwo, kOne));
-    EXPECT_EQ(metadata::ThmCompanionName(fs, "/p", "IMG_1.CRW"),
-              foldCase ? "IMG_1.thm" : "IMG_1.CRW");
+    EXPECT_EQ(metadata::ThmCompanionName(fs, "/p", "IMG_1.CRW"), foldCase ? "IMG_1.thm" : "IMG_1.CRW");
     EXPECT_EQ(metadata::ScanExifDateInHead(fs, "/p", "IMG_1.CRW"), foldCase ? kTwo : "");
   }
 }
@@ -95,12 +88,7 @@ TEST(DateSource, FallsBackFromExifToScanToFileDatesAndSaysWhichWasUsed) {
   const int offset = metadata::LocalClockOffsetHours();
   const QString own = metadata::FileTimeText(modified, offset);
   const QString older = metadata::FileTimeText(modified.addDays(-1), offset);
-  const struct {
-    const char* name;
-    const char* original;
-    QString when;
-    DateOrigin origin;
-  } rows[] = {
+  const struct { const char* name; const char* original; QString when; DateOrigin origin; } rows[] = {
       {"scan.jpg", kTwo, kTwo, DateOrigin::ExifOriginal},
       {"scan.jpg", "", kThree, DateOrigin::FileHead},
       {"IMG_1.CRW", "", kTwo, DateOrigin::ThmPartner},
@@ -175,9 +163,7 @@ TEST(DateSource, VideoFilesTakeTheirRecordedDateFirst) {
   // A 3 GB recording before its "moov": only the boxes on the way are read.
   const qint64 mdat = qint64(3) << 30;
   fs.Add("/p/big.mov", QByteArray("\0\0\0\x01mdat", 8), mdat + movie.size());
-  QByteArray largeSize(8, '\0');
-  for (int i = 0; i < 8; ++i) largeSize[i] = char(mdat >> (56 - 8 * i));
-  fs.Put("/p/big.mov", 8, largeSize);
+  fs.Put("/p/big.mov", 8, Bytes(quint64(mdat), true));
   fs.Put("/p/big.mov", mdat, movie);
   const QDateTime modified(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC);
   for (const char* path : {"/p/clip.jpg", "/p/unset.mp4"}) fs.SetTimes(path, modified, modified);

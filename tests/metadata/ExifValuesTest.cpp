@@ -45,8 +45,6 @@ class ExifValuesTest : public ::testing::Test {
     exif.imageNumber = -1;
     fs.Add("/p/noserial.jpg", MakeExifJpeg(&exif));
     fs.Add("/p/plain.jpg", MakeExifJpeg(nullptr));
-    fs.SetTimes("/p/plain.jpg", QDateTime(QDate(2001, 2, 3), QTime(4, 5, 6), Qt::UTC),
-                QDateTime(QDate(2002, 2, 3), QTime(4, 5, 6), Qt::UTC));
     fs.Add("/p/locked.jpg", MakeExifJpeg(&exif));
     fs.FailOpen("/p/locked.jpg", platform::kAccessViolation);
   }
@@ -95,23 +93,13 @@ TEST_F(ExifValuesTest, ReaderErrorIsShownAndGivesNothing) {
 }
 
 TEST(PreviewTurn, FirstThreeLettersOfTheWordDecide) {
-  const struct {
-    const char* word;
-    PreviewTurn turn;
-  } cases[] = {
-      {"", PreviewTurn::None},
-      {"Normal", PreviewTurn::None},
-      {"Nor", PreviewTurn::None},
-      {"Counter-clockwise quarter turn", PreviewTurn::QuarterCounterClockwise},
-      {"Clockwise quarter turn", PreviewTurn::QuarterClockwise},
-      {"normal", PreviewTurn::Half},  // case matters
-      {"No", PreviewTurn::Half},
-      {"Mirrored left to right", PreviewTurn::Half},
-      {"Upside down", PreviewTurn::Half},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(metadata::PreviewTurnForOrientation(c.word), c.turn) << c.word;
-  }
+  using T = PreviewTurn;
+  const std::pair<const char*, PreviewTurn> cases[] = {
+      {"", T::None}, {"Normal", T::None}, {"Nor", T::None}, {"No", T::Half}, {"Upside down", T::Half},
+      {"normal", T::Half},  // case matters
+      {"Counter-clockwise quarter turn", T::QuarterCounterClockwise},
+      {"Clockwise quarter turn", T::QuarterClockwise}, {"Mirrored left to right", T::Half}};
+  for (const auto& [word, turn] : cases) EXPECT_EQ(metadata::PreviewTurnForOrientation(word), turn) << word;
 }
 
 using metadata::ExifDateTimeText;
@@ -123,12 +111,7 @@ const QDate kDate(2004, 7, 15);
 const QTime kTime(18, 3, 9);
 
 TEST(DateTimePicture, PicturesComeOutExactly) {
-  const struct {
-    const char* picture;
-    const char* expected;
-    QDate date = kDate;
-    QTime time = kTime;
-  } cases[] = {
+  const struct { const char *picture, *expected; QDate date = kDate; QTime time = kTime; } cases[] = {
       // the patterns of the option lists
       {"yyyy-mm-dd", "2004-07-15"}, {"yyyy.mm.dd", "2004.07.15"}, {"yyyymmdd", "20040715"},
       {"yy-mm-dd", "04-07-15"},     {"yy.mm.dd", "04.07.15"},     {"yymmdd", "040715"},
@@ -140,26 +123,19 @@ TEST(DateTimePicture, PicturesComeOutExactly) {
       {"mm-ss", "03-09"},                 // minute before a second
       {"h:m:s", "18:3:9"},                // minute after an hour, no zeros
       {"mm hh mm", "07 18 03"},           // only the one after the hour is a minute
-      {"yyyy-mm-dd hh-nn", "2004-07-15 18-03"},
       {"d-m-y", "15-7-197"},              // y alone is the day of the year
       {"yyy", "04197"},                   // runs split greedily
-      {"ddd dddd mmm mmmm", "Thu Thursday Jul July"},
-      {"w ww q", "5 29 3"},
-      {"hh AM/PM h a/p", "06 PM 6 p"},
       {"YYYY-MM-DD", "2004-07-15"},       // codes in either case
-      {"\\y\\y \"dd mm\" yyyy", "yy dd mm 2004"},
       {"x_yyyy#", "x_2004#"},             // other characters stay
-      {"ttttt", "18:03:09"},
-      {"c", "7/15/2004 18:03:09"},
-      {"dddddd", "Thursday, July 15, 2004"},
-      {"", ""},
+      {"yyyy-mm-dd hh-nn", "2004-07-15 18-03"}, {"ddd dddd mmm mmmm", "Thu Thursday Jul July"},
+      {"w ww q", "5 29 3"}, {"hh AM/PM h a/p", "06 PM 6 p"}, {"\\y\\y \"dd mm\" yyyy", "yy dd mm 2004"},
+      {"ttttt", "18:03:09"}, {"c", "7/15/2004 18:03:09"}, {"dddddd", "Thursday, July 15, 2004"}, {"", ""},
       // week one holds the first of January and starts on Sunday
       {"ww", "1", QDate(2004, 1, 3)},  // Saturday
       {"ww", "2", QDate(2004, 1, 4)},  // Sunday
       {"ww", "1", QDate(2006, 1, 1)},  // a Sunday itself
       // the twelve-hour clock around midnight and noon
-      {"h AM/PM", "12 AM", kDate, QTime(0, 5)},
-      {"h AM/PM", "12 PM", kDate, QTime(12, 5)},
+      {"h AM/PM", "12 AM", kDate, QTime(0, 5)}, {"h AM/PM", "12 PM", kDate, QTime(12, 5)},
       {"hh:nn AMPM", "09:05 AM", kDate, QTime(9, 5)},
   };
   for (const auto& c : cases) {
@@ -169,19 +145,10 @@ TEST(DateTimePicture, PicturesComeOutExactly) {
 }
 
 TEST(ExifDateTimeText, FormsCarryOnlyTheirOwnHalf) {
-  const struct {
-    int form;
-    const char* dateFormat;
-    const char* timeFormat;
-    const char* expected;
-  } cases[] = {
-      {1, "yyyy-mm-dd", "hh.mm.ss", "2004-07-15"},
-      {2, "yyyy-mm-dd", "hh.mm.ss", "18.03.09"},
-      {3, "yyyy-mm-dd", "hh.mm.ss", "2004-07-15 18.03.09"},
-      {4, "yyyy-mm-dd", "hh.mm.ss", ""},
-      {1, "yyyy hh-nn", "hh", "2004 00-00"},
-      {2, "yyyy", "yyyy-mm-dd hh", "1899-12-30 18"},
-  };
+  const struct { int form; const char* dateFormat; const char* timeFormat; const char* expected; } cases[] = {
+      {1, "yyyy-mm-dd", "hh.mm.ss", "2004-07-15"}, {2, "yyyy-mm-dd", "hh.mm.ss", "18.03.09"},
+      {3, "yyyy-mm-dd", "hh.mm.ss", "2004-07-15 18.03.09"}, {4, "yyyy-mm-dd", "hh.mm.ss", ""},
+      {1, "yyyy hh-nn", "hh", "2004 00-00"}, {2, "yyyy", "yyyy-mm-dd hh", "1899-12-30 18"}};
   for (const auto& c : cases) {
     EXPECT_EQ(ExifDateTimeText("2004:07:15 18:03:09", c.form, c.dateFormat, c.timeFormat), c.expected)
         << c.form << " " << c.dateFormat << " / " << c.timeFormat;
@@ -191,11 +158,7 @@ TEST(ExifDateTimeText, FormsCarryOnlyTheirOwnHalf) {
 using metadata::MissingExifFacts;
 
 TEST(ReportFormat, SizesInKilobytesAndMegabytes) {
-  const struct {
-    qint64 bytes;
-    const char* kb;
-    const char* mb;
-  } cases[] = {
+  const struct { qint64 bytes; const char* kb; const char* mb; } cases[] = {
       {0, "0", "."},           {1535, "1", "."},          {1536, "2", "."},
       {2560, "2", "."},        {3584, "4", "."},          {5242, "5", "."},
       {5243, "5", ".01"},      {524288, "512", ".5"},     {1258291, "1229", "1.2"},
@@ -219,18 +182,16 @@ TEST(ReportFormat, ExifVersionAndDimensions) {
 }
 
 const QString kFileSetNotes =
-    "NOTE: When renaming CRW or THM files, Renvale will rename BOTH files using the SAME "
-    "filename, so long as they are both selected and they have the same filename to begin "
-    "with.\nNOTE: Batch-renaming using RANDOM series #s does not work correctly with file sets, "
-    "and is therefore not recommended.\n";
+    "NOTE: When renaming CRW or THM files, Renvale will rename BOTH files using the SAME filename, so long "
+    "as they are both selected and they have the same filename to begin with.\nNOTE: Batch-renaming using "
+    "RANDOM series #s does not work correctly with file sets, and is therefore not recommended.\n";
 const QString kCrwLines =
-    " is a Canon 10D RAW File.  This file does not contain any EXIF data, but the camera "
-    "produces THM files for each CRW file.  The THM file contains EXIF data, as well as a JPG "
-    "thumbnail of the CRW image.\nIf a Canon 10D THM file with the same filename is in this "
-    "same folder, the EXIF Date and/or Time will be extracted from that file and used when "
-    "renaming this file.  If there is no THM file in the same folder with the same filename, "
-    "this file's Created or Modified Date/Time (whichever is oldest) will be used instead of "
-    "the actual EXIF Date/Time.\n";
+    " is a Canon 10D RAW File.  This file does not contain any EXIF data, but the camera produces THM files "
+    "for each CRW file.  The THM file contains EXIF data, as well as a JPG thumbnail of the CRW image.\nIf a "
+    "Canon 10D THM file with the same filename is in this same folder, the EXIF Date and/or Time will be "
+    "extracted from that file and used when renaming this file.  If there is no THM file in the same folder "
+    "with the same filename, this file's Created or Modified Date/Time (whichever is oldest) will be used "
+    "instead of the actual EXIF Date/Time.\n";
 const QString kDateOnly =
     "Renvale can extract the EXIF Exposure Date & Time from this file, but currently cannot "
     "provide any other EXIF data.\nEXIF Exposure Date & Time: 2004:07:15 18:03:09\n";
@@ -241,50 +202,38 @@ TEST(FileReport, ExplanationByScanResultAndExtension) {
       " does not contain any EXIF data, or this filetype is unsupported.\nIf EXIF Date and/or Time "
       "from this file is inserted into the new filename, the file's Created or Modified Date/Time "
       "(whichever is oldest) will be used instead.\nCreated Date & Time: C\nModified Date & Time: M\n";
-  const struct {
-    const char* name;
-    QString scan;
-    QString expected;
-  } cases[] = {
-      {"a.jpg", "", "a.jpg" + noExif},
-      {"a.THM", "", "a.THM" + noExif},
+  const struct { const char* name; QString scan; QString expected; } cases[] = {
+      {"a.jpg", "", "a.jpg" + noExif}, {"a.THM", "", "a.THM" + noExif},
       {"a.CRW", "",
-       "a.CRW" + kCrwLines +
-           "> A THM file by the same name as this file was NOT found in this folder. <\n" +
+       "a.CRW" + kCrwLines + "> A THM file by the same name as this file was NOT found in this folder. <\n" +
            kFileSetNotes},
       {"a.crw", scan,
-       "a.crw" + kCrwLines + "A THM file by the same name as this file WAS found in this "
-       "folder.\nEXIF Exposure Date & Time: 2004:07:15 18:03:09\n" + kFileSetNotes},
+       "a.crw" + kCrwLines + "A THM file by the same name as this file WAS found in this folder.\n"
+       "EXIF Exposure Date & Time: 2004:07:15 18:03:09\n" + kFileSetNotes},
       {"a.thm", scan,
-       "a.thm is a Canon 10D Thumbnail File.  This file contains EXIF data and a JPG thumbnail "
-       "image for a CRW file by the same name.\nIf a Canon 10D CRW file with the same filename "
-       "is in this same folder, the EXIF Date and/or Time will be extracted from this file and "
-       "used when renaming that file.\nEXIF Exposure Date & Time: 2004:07:15 18:03:09\n" +
-           kFileSetNotes},
+       "a.thm is a Canon 10D Thumbnail File.  This file contains EXIF data and a JPG thumbnail image for a CRW "
+       "file by the same name.\nIf a Canon 10D CRW file with the same filename is in this same folder, the EXIF "
+       "Date and/or Time will be extracted from this file and used when renaming that file.\n"
+       "EXIF Exposure Date & Time: 2004:07:15 18:03:09\n" + kFileSetNotes},
       {"a.Cr2", scan, "a.Cr2 is a Canon 20D RAW File.\n" + kDateOnly},
       {"a.tif", scan,
-       "a.tif appears to contain EXIF data, but Renvale was unable to extract *all* EXIF data "
-       "from the file.\n" + kDateOnly},
+       "a.tif appears to contain EXIF data, but Renvale was unable to extract *all* EXIF data from the file.\n" +
+           kDateOnly},
       {"a.jpeg", scan,
-       "a.jpeg appears to contain EXIF data, and also appears to be a proprietary RAW image "
-       "format created by a digital camera.\n" + kDateOnly},
+       "a.jpeg appears to contain EXIF data, and also appears to be a proprietary RAW image format created by a "
+       "digital camera.\n" + kDateOnly},
   };
   for (const auto& c : cases) {
-    EXPECT_EQ(metadata::ExplainMissingExif(MissingExifFacts{c.name, c.scan, "C", "M"}),
-              c.expected)
-        << c.name;
+    EXPECT_EQ(metadata::ExplainMissingExif(MissingExifFacts{c.name, c.scan, "C", "M"}), c.expected) << c.name;
   }
 }
 
 class FileReportTest : public ::testing::Test {
  protected:
-  QString Local(const QDateTime& utc) {
-    return metadata::FileTimeText(utc, metadata::LocalClockOffsetHours());
-  }
-  QString GeneralHead(qint64 kb, const QString& mb, bool readOnly = false) {
-    return "File Size: " + QString::number(kb) + " KB (" + mb + " MB)\r\nCreated on: " +
-           Local(created) + "\r\nLast Modified on: " + Local(modified) + "\r\nRead Only: " +
-           (readOnly ? "YES (File is write-protected)" : "No") + "\r\n";
+  QString Local(const QDateTime& utc) { return metadata::FileTimeText(utc, metadata::LocalClockOffsetHours()); }
+  QString GeneralHead(bool readOnly = false) {
+    return "File Size: 4 KB (. MB)\r\nCreated on: " + Local(created) + "\r\nLast Modified on: " + Local(modified) +
+           "\r\nRead Only: " + (readOnly ? "YES (File is write-protected)" : "No") + "\r\n";
   }
   void Add(const QByteArray& path, const QByteArray& bytes) {
     fs.Add(path, bytes);
@@ -301,20 +250,17 @@ TEST_F(FileReportTest, GeneralInfoOfMp3FilesWithAndWithoutTag) {
   const Id3v1Fields tag{"Silence\x01", " piman", "Album", "2004", "line\nfeed", 7, 50};
   Add("/p/t.MP3", MakeMp3(&tag, 10));  // 4170 + 128 bytes
   EXPECT_EQ(metadata::BuildGeneralInfo(fs, "/p/t.MP3"),
-            GeneralHead(4, ".") +
-                "---ID3 Data...\r\n---Tag: ID3v1\r\n---Title: Silence\r\n---Artist: piman\r\n---Album: "
-                "Album\r\n---Track #: 07\r\n---Year: 2004\r\n---Comment: linefeed\r\n");
+            GeneralHead() + "---ID3 Data...\r\n---Tag: ID3v1\r\n---Title: Silence\r\n---Artist: piman\r\n"
+                            "---Album: Album\r\n---Track #: 07\r\n---Year: 2004\r\n---Comment: linefeed\r\n");
   Add("/p/n.mp3", MakeMp3(nullptr, 10));
   fs.SetWritable("/p/n.mp3", false);
   EXPECT_EQ(metadata::BuildGeneralInfo(fs, "/p/n.mp3"),
-            GeneralHead(4, ".", true) +
-                "---ID3 Data...\r\n** Could not retrieve ID3 info from the file. **\r\n");
+            GeneralHead(true) + "---ID3 Data...\r\n** Could not retrieve ID3 info from the file. **\r\n");
   Id3v1Fields empty;
   Add("/p/e.mp3", MakeMp3(&empty, 10));  // a tag whose fields are all empty
   EXPECT_EQ(metadata::BuildGeneralInfo(fs, "/p/e.mp3"),
-            GeneralHead(4, ".") +
-                "---ID3 Data...\r\n---Tag: ID3v1\r\n---Title: \r\n---Artist: \r\n---Album: \r\n---Track #: "
-                "\r\n---Year: \r\n---Comment: \r\n");
+            GeneralHead() + "---ID3 Data...\r\n---Tag: ID3v1\r\n---Title: \r\n---Artist: \r\n---Album: \r\n"
+                            "---Track #: \r\n---Year: \r\n---Comment: \r\n");
 }
 
 TEST_F(FileReportTest, ExifReportOfAPictureWithExif) {
@@ -326,14 +272,12 @@ TEST_F(FileReportTest, ExifReportOfAPictureWithExif) {
   reader.Load(fs, "/p/IMG_0001.JPG");
   const auto tag = [&reader](const char* name) { return reader.Tag(name); };
   const QString expected =
-      "EXIF data for \"IMG_0001.JPG\":\n\nEXIF Version: 2.21\nCamera Make: Canon\nCamera "
-      "Model: Canon EOS 10D\nCamera Orientation: " + tag("Orientation") +
-      "\nDimensions: \nExposure Date & Time: 2004:07:15 18:03:09\nImage Number (Serial): "
-      "1234567\nAperture: " + tag("ApertureValue") + "\nShutter Speed: " +
-      tag("ShutterSpeedValue") + "\nFocal Length: " + tag("FocalLength") + "\nISO: 400\n"
-      "Exposure Bias: " + tag("ExposureBiasValue") + "\nExposure Program: " +
-      tag("ExposureProgram") + "\nF Number: " + tag("Fnumber") + "\nFlash: " + tag("Flash") +
-      "\n\nDate source: the EXIF DateTimeOriginal\n";
+      "EXIF data for \"IMG_0001.JPG\":\n\nEXIF Version: 2.21\nCamera Make: Canon\nCamera Model: Canon EOS 10D\n"
+      "Camera Orientation: " + tag("Orientation") + "\nDimensions: \nExposure Date & Time: 2004:07:15 18:03:09\n"
+      "Image Number (Serial): 1234567\nAperture: " + tag("ApertureValue") + "\nShutter Speed: " +
+      tag("ShutterSpeedValue") + "\nFocal Length: " + tag("FocalLength") + "\nISO: 400\nExposure Bias: " +
+      tag("ExposureBiasValue") + "\nExposure Program: " + tag("ExposureProgram") + "\nF Number: " +
+      tag("Fnumber") + "\nFlash: " + tag("Flash") + "\n\nDate source: the EXIF DateTimeOriginal\n";
   EXPECT_EQ(metadata::BuildExifReport(fs, messages, "/p/", "IMG_0001.JPG"), expected);
   EXPECT_TRUE(messages.messages.empty());
 }
@@ -342,22 +286,19 @@ TEST_F(FileReportTest, ExifReportExplainsAFileSet) {
   Add("/p/CRW_1.CRW", MakeCrw());
   Add("/p/CRW_1.thm", MakeThm("2004:07:15 18:03:09", "2004:07:16 09:00:00"));
   Add("/p/CRW_2.CRW", MakeCrw());
-  EXPECT_EQ(metadata::BuildExifReport(fs, messages, "/p/", "CRW_1.CRW"),
-            "EXIF data for \"CRW_1.CRW\":\n\nCRW_1.CRW" + kCrwLines +
-                "A THM file by the same name as this file WAS found in this folder.\n"
-                "EXIF Exposure Date & Time: 2004:07:15 18:03:09\n" + kFileSetNotes +
-                "\nDate source: the THM partner's date\n");
-  EXPECT_TRUE(metadata::BuildExifReport(fs, messages, "/p/", "CRW_2.CRW")
-                  .contains("was NOT found in this folder."));
+  const auto report = [this](const char* name) { return metadata::BuildExifReport(fs, messages, "/p/", name); };
+  EXPECT_EQ(report("CRW_1.CRW"), "EXIF data for \"CRW_1.CRW\":\n\nCRW_1.CRW" + kCrwLines +
+                                     "A THM file by the same name as this file WAS found in this folder.\n"
+                                     "EXIF Exposure Date & Time: 2004:07:15 18:03:09\n" + kFileSetNotes +
+                                     "\nDate source: the THM partner's date\n");
+  EXPECT_TRUE(report("CRW_2.CRW").contains("was NOT found in this folder."));
   Add("/p/plain.jpg", MakeExifJpeg(nullptr));
-  EXPECT_TRUE(metadata::BuildExifReport(fs, messages, "/p/", "plain.jpg")
-                  .endsWith("Created Date & Time: " + Local(created) +
-                            "\nModified Date & Time: " + Local(modified) +
-                            "\n\nDate source: the file's creation time\n"));
+  EXPECT_TRUE(report("plain.jpg").endsWith("Created Date & Time: " + Local(created) + "\nModified Date & Time: " +
+                                          Local(modified) + "\n\nDate source: the file's creation time\n"));
   EXPECT_TRUE(messages.messages.empty());
   // A file the reader cannot open gives no report, only the reader's error.
   fs.FailOpen("/p/plain.jpg", platform::kAccessViolation);
-  EXPECT_EQ(metadata::BuildExifReport(fs, messages, "/p/", "plain.jpg"), "");
+  EXPECT_EQ(report("plain.jpg"), "");
   ASSERT_EQ(messages.messages.size(), 1u);
   EXPECT_TRUE(messages.Last().text.startsWith("EXIF Error: "));
 }

@@ -18,22 +18,13 @@ namespace renvale::test {
 namespace {
 
 using metadata::Id3Tag;
-using metadata::Id3Values;
 
 TEST(Id3Tag, OnlyTheLast128BytesStartingTagAreATag) {
   Id3v1Fields fields{"  Silence  ", "piman", "Quod Libet Test Data", "2004", "a comment", 2, 50};
   const QByteArray tag = MakeId3v1Tag(fields);
-  const struct {
-    const char* what;
-    QByteArray bytes;
-    bool found;
-  } cases[] = {
-      {"no tag", MakeMp3(nullptr), false},
-      {"too short", tag.left(127), false},
-      {"empty file", QByteArray(), false},
-      {"TAX", QByteArray(tag).replace(2, 1, "X"), false},
-      {"exactly a tag", tag, true},
-  };
+  const struct { const char* what; QByteArray bytes; bool found; } cases[] = {
+      {"no tag", MakeMp3(nullptr), false}, {"too short", tag.left(127), false}, {"empty file", QByteArray(), false},
+      {"TAX", QByteArray(tag).replace(2, 1, "X"), false}, {"exactly a tag", tag, true}};
   for (const auto& c : cases) {
     MemoryFileSystem fs;
     fs.Add("/m/a.mp3", c.bytes);
@@ -52,27 +43,19 @@ TEST(Id3Tag, OnlyTheLast128BytesStartingTagAreATag) {
 }
 
 TEST(Id3FixedText, ConvertsBytesByItsRules) {
-  struct Case {
-    QByteArray bytes;
-    int mode;
-    bool stopAtZero;
-    QString expected;
-  } cases[] = {
-      {QByteArray("ab\0cd", 5), 0, true, "ab"},
-      {QByteArray("ab\0cd", 5), 0, false, QString::fromUtf16(u"ab\u0000cd", 5)},
+  struct Case { QByteArray bytes; int mode; bool stopAtZero; QString expected; } cases[] = {
+      {QByteArray("ab\0cd", 5), 0, true, "ab"}, {QByteArray("ab\0cd", 5), 0, false, QString::fromUtf16(u"ab\u0000cd", 5)},
       {"a\rb\nc", 0, true, "ab\r\nc"},
       {"\x80\x93\xE9\x9F\x81", 0, true, QString::fromUtf16(u"\u20AC\u201C\u00E9\u0178\u0081")},
       {QByteArray("a\0b\0\0\0c\0", 8), 1, true, "ab"},  // low bytes of little-endian text
       {QByteArray("\0a\0b", 4), 2, true, "ab"},         // and of big-endian text
   };
   for (const auto& c : cases) {
-    EXPECT_EQ(metadata::Id3FixedText(c.bytes.constData(), c.bytes.size(), c.mode, c.stopAtZero),
-              c.expected)
+    EXPECT_EQ(metadata::Id3FixedText(c.bytes.constData(), c.bytes.size(), c.mode, c.stopAtZero), c.expected)
         << c.bytes.toHex().constData();
   }
 }
 
-using metadata::Id3Tag;
 using metadata::Id3v2Reader;
 
 Id3Tag Parse(const QByteArray& bytes, int* version) {
@@ -118,12 +101,8 @@ TEST(Id3v2, UnsynchronisationExtendedHeadersAndPlainSizes) {
   const QByteArray titleFrame3 = Frame(3, "TIT2", Id3v2TextContent(0, title));
   // 256 bytes: a plain size whose bytes would also pass for a sync-safe 128.
   const QByteArray long4 = Id3v2TextContent(0, QByteArray(255, 'a'));
-  struct Case {
-    const char* what;
-    QByteArray tag;
-    QString title;
-    int version;  // 0: no tag at all
-  } cases[] = {
+  // A version of 0: no tag at all.
+  struct Case { const char* what; QByteArray tag; QString title; int version; } cases[] = {
       {"2.3 unsynchronised", MakeId3v2Tag(3, 0x80, Unsynchronised(titleFrame3)), QString::fromLatin1(title), 3},
       {"2.4 frame unsynchronised, data length",
        MakeId3v2Tag(4, 0, Frame(4, "TIT2", QByteArray("\0\0\0\x04", 4) + Unsynchronised(QByteArray(1, '\0') + title), 0x0003)),
