@@ -30,11 +30,8 @@ void Load(ExifReader* reader, const QByteArray& bytes) {
 TEST(ExifHostile, LoopsAndImpossibleEntries) {
   const QByteArray text = QByteArray("Canon", 6);
   const quint32 textAt = 8 + 2 + 6 * 12 + 4;
-  const struct {
-    const char* name;
-    QByteArray bytes;
-    std::vector<std::pair<const char*, const char*>> tags;
-  } cases[] = {
+  using Tags = std::vector<std::pair<const char*, const char*>>;
+  const struct { const char* name; QByteArray bytes; Tags tags; } cases[] = {
       // IFD0 at 8: Make inline "Abc", Exif pointer to 8 (itself); next IFD 8.
       {"Exif pointer back to IFD0",
        Header() + Le16(2) + Entry(0x010F, 2, 4, 0x00636241) + Entry(0x8769, 4, 1, 8) + Le32(8), {{"Make", "Abc"}}},
@@ -66,10 +63,7 @@ TEST(ExifHostile, LoopsAndImpossibleEntries) {
 }
 
 TEST(ExifHostile, BoxAndSegmentSizesThatLie) {
-  const struct {
-    const char* name;
-    QByteArray bytes;
-  } cases[] = {
+  const struct { const char* name; QByteArray bytes; } cases[] = {
       {"BMFF box of size 0 and 1", QByteArray("\0\0\0\x10" "ftypheic\0\0\0\0" "\0\0\0\0meta" "\0\0\0\x01iinf"
                                                "\xFF\xFF\xFF\xFF\xFF\xFF\xFF\xFF", 40)},
       {"BMFF 64-bit size smaller than its header",
@@ -99,10 +93,7 @@ TEST(ExifHostile, ReadsReachTheLastByteOfTheViewOnly) {
   EXPECT_TRUE(view.Ok());
 }
 
-struct Sample {
-  const char* name;
-  QByteArray bytes;
-};
+struct Sample { const char* name; QByteArray bytes; };
 
 std::vector<Sample> Samples() {
   const ExifFields fields = TypicalExifFields();

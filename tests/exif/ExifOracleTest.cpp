@@ -5,8 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QHash>
-#include <QStringList>
 #include <cmath>
 
 #include "metadata/ExifReader.h"
@@ -19,9 +17,7 @@ namespace {
 using metadata::ExifReader;
 
 // Files where our answer differs from ExifTool's on purpose, with the reason.
-struct Deliberate {
-  const char *file, *column, *ours, *reason;
-} constexpr kDeliberate[] = {
+struct Deliberate { const char *file, *column, *ours, *reason; } constexpr kDeliberate[] = {
     {"camera/libexif_fuji_makernote_variant_1.jpg", "Flash", "On, fired, red-eye reduction",
      "value 73 has the fired bit set; ExifTool's wording for 73 leaves it out"},
     {"camera/libexif_olympus_makernote_variant_4.jpg", "Flash", "On, did not fire, red-eye reduction",

@@ -4,12 +4,11 @@
 
 #include "metadata/ExifReader.h"
 #include "metadata/ExifTagTable.h"
+#include "support/Bytes.h"
 
 namespace renvale::test {
 
 // Little-endian TIFF pieces written by hand, for layouts no encoder makes.
-inline QByteArray Le16(quint16 v) { return QByteArray(1, char(v & 0xFF)) + char(v >> 8); }
-inline QByteArray Le32(quint32 v) { return Le16(quint16(v & 0xFFFF)) + Le16(quint16(v >> 16)); }
 inline QByteArray Entry(quint16 tag, quint16 type, quint32 count, quint32 value) {
   return Le16(tag) + Le16(type) + Le32(count) + Le32(value);
 }

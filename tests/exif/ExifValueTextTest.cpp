@@ -15,11 +15,7 @@ namespace {
 using metadata::ExifReader;
 using Ifd = TiffBuilder::Ifd;
 
-struct Case {
-  const char* tag;
-  std::function<void(TiffBuilder&)> store;
-  const char* expected;
-};
+struct Case { const char* tag; std::function<void(TiffBuilder&)> store; const char* expected; };
 
 void RunCases(const std::vector<Case>& cases) {
   for (const bool bigEndian : {false, true}) {
@@ -54,43 +50,40 @@ Case Text(const char* tag, Ifd ifd, quint16 number, const QByteArray& value, con
 }
 
 TEST(ExifValueText, EachKindOfValueInItsOwnNotation) {
+  const auto fNumber = [](quint32 num, quint32 den, const char* text) {
+    return Rational("Fnumber", 0x829D, num, den, text);
+  };
+  const auto shutter = [](qint32 num, qint32 den, const char* text) {
+    return SRational("ShutterSpeedValue", 0x9201, num, den, text);
+  };
+  const auto bias = [](qint32 num, qint32 den, const char* text) {
+    return SRational("ExposureBiasValue", 0x9204, num, den, text);
+  };
+  const auto flash = [](quint16 value, const char* words) { return Short("Flash", Ifd::Exif, 0x9209, value, words); };
+  const auto model = [](const QByteArray& written, const char* text) {
+    return Text("Model", Ifd::Zero, 0x0110, written, text);
+  };
+  const auto date = [](const QByteArray& written, const char* text) {
+    return Text("DateTimeOriginal", Ifd::Exif, 0x9003, written, text);
+  };
   RunCases({
       // photographic values in the usual notation
-      Rational("Fnumber", 0x829D, 56, 10, "f/5.6"),
-      Rational("Fnumber", 0x829D, 14, 1, "f/14"),
-      Rational("Fnumber", 0x829D, 168, 100, "f/1.7"),
-      Rational("Fnumber", 0x829D, 0, 0, ""),  // "unknown" in EXIF
-      Rational("ApertureValue", 0x9202, 6, 1, "f/8"),
-      Rational("ApertureValue", 0x9202, 497, 100, "f/5.6"),
-      SRational("ShutterSpeedValue", 0x9201, 8, 1, "1/256 s"),
-      SRational("ShutterSpeedValue", 0x9201, 7965784, 1000000, "1/250 s"),
-      SRational("ShutterSpeedValue", 0x9201, 2, 1, "1/4 s"),
-      SRational("ShutterSpeedValue", 0x9201, 1, 1, "0.5 s"),
-      SRational("ShutterSpeedValue", 0x9201, 0, 1, "1 s"),
-      SRational("ShutterSpeedValue", 0x9201, -5, 1, "32 s"),
-      SRational("ShutterSpeedValue", 0x9201, 1000, 1, ""),  // no camera is that fast
-      SRational("ShutterSpeedValue", 0x9201, INT32_MIN, -1, ""),
-      SRational("ExposureBiasValue", 0x9204, -2, 3, "-0.67 EV"),
-      SRational("ExposureBiasValue", 0x9204, 1, 3, "+0.33 EV"),
-      SRational("ExposureBiasValue", 0x9204, 7, 10, "+0.7 EV"),
-      SRational("ExposureBiasValue", 0x9204, 0, 1, "0 EV"),
-      SRational("ExposureBiasValue", 0x9204, -1, 1000, "0 EV"),  // no "-0"
-      SRational("ExposureBiasValue", 0x9204, 1, 0, ""),
-      Rational("FocalLength", 0x920A, 50, 1, "50 mm"),
-      Rational("FocalLength", 0x920A, 74, 10, "7.4 mm"),
+      fNumber(56, 10, "f/5.6"), fNumber(14, 1, "f/14"), fNumber(168, 100, "f/1.7"),
+      fNumber(0, 0, ""),  // "unknown" in EXIF
+      Rational("ApertureValue", 0x9202, 6, 1, "f/8"), Rational("ApertureValue", 0x9202, 497, 100, "f/5.6"),
+      shutter(8, 1, "1/256 s"), shutter(7965784, 1000000, "1/250 s"), shutter(2, 1, "1/4 s"), shutter(1, 1, "0.5 s"),
+      shutter(0, 1, "1 s"), shutter(-5, 1, "32 s"), shutter(INT32_MIN, -1, ""),
+      shutter(1000, 1, ""),  // no camera is that fast
+      bias(-2, 3, "-0.67 EV"), bias(1, 3, "+0.33 EV"), bias(7, 10, "+0.7 EV"), bias(0, 1, "0 EV"), bias(1, 0, ""),
+      bias(-1, 1000, "0 EV"),  // no "-0"
+      Rational("FocalLength", 0x920A, 50, 1, "50 mm"), Rational("FocalLength", 0x920A, 74, 10, "7.4 mm"),
       Rational("FocalLength", 0x920A, 0, 1, ""),
       // coded values in words
-      Short("Flash", Ifd::Exif, 0x9209, 0, "No flash"),
-      Short("Flash", Ifd::Exif, 0x9209, 1, "Fired"),
-      Short("Flash", Ifd::Exif, 0x9209, 5, "Fired, return not detected"),
-      Short("Flash", Ifd::Exif, 0x9209, 7, "Fired, return detected"),
-      Short("Flash", Ifd::Exif, 0x9209, 16, "Off, did not fire"),
-      Short("Flash", Ifd::Exif, 0x9209, 24, "Auto, did not fire"),
-      Short("Flash", Ifd::Exif, 0x9209, 32, "No flash function"),
-      Short("Flash", Ifd::Exif, 0x9209, 73, "On, fired, red-eye reduction"),
-      Short("Flash", Ifd::Exif, 0x9209, 0x5F, "Auto, fired, return detected, red-eye reduction"),
-      Short("Flash", Ifd::Exif, 0x9209, 0x80, "Unknown"),  // undefined bits set
-      Short("Flash", Ifd::Exif, 0x9209, 0xFF41, "Unknown"),
+      flash(0, "No flash"), flash(1, "Fired"), flash(5, "Fired, return not detected"),
+      flash(7, "Fired, return detected"), flash(16, "Off, did not fire"), flash(24, "Auto, did not fire"),
+      flash(32, "No flash function"), flash(73, "On, fired, red-eye reduction"),
+      flash(0x5F, "Auto, fired, return detected, red-eye reduction"),
+      flash(0x80, "Unknown"), flash(0xFF41, "Unknown"),  // undefined bits set
       Short("ExposureProgram", Ifd::Exif, 0x8822, 1, "Manual"),
       Short("ExposureProgram", Ifd::Exif, 0x8822, 8, "Landscape mode"),
       Short("ExposureProgram", Ifd::Exif, 0x8822, 9, "Unknown (9)"),
@@ -102,24 +95,18 @@ TEST(ExifValueText, EachKindOfValueInItsOwnNotation) {
       Short("ISOSpeedRatings", Ifd::Exif, 0x8827, 12800, "12800"),
       {"ExifVersion", [](TiffBuilder& t) { t.Undefined(Ifd::Exif, 0x9000, "0232"); }, "0232"},
       {"ExifVersion", [](TiffBuilder& t) { t.Undefined(Ifd::Exif, 0x9000, QByteArray("02\0\0", 4)); }, ""},
-      Text("Model", Ifd::Zero, 0x0110, "EOS 10D   ", "EOS 10D"),
-      Text("Model", Ifd::Zero, 0x0110, QByteArray("EOS\0junk", 8), "EOS"),
-      Text("Model", Ifd::Zero, 0x0110, "Tab\there", "Tabhere"),
-      Text("Model", Ifd::Zero, 0x0110, "\xC3\x91ikon", "Ñikon"),     // UTF-8
-      Text("Model", Ifd::Zero, 0x0110, "\xD1ikon", "Ñikon"),         // Latin-1
-      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2004:07:15 18:03:09", "2004:07:15 18:03:09"),
-      // Unknown dates are written as blanks and colons; no digit, no date.
-      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "    :  :     :  :  ", ""),
-      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "0000:00:00 00:00:00", "0000:00:00 00:00:00"),
+      model("EOS 10D   ", "EOS 10D"), model(QByteArray("EOS\0junk", 8), "EOS"), model("Tab\there", "Tabhere"),
+      model("\xC3\x91ikon", "Ñikon"), model("\xD1ikon", "Ñikon"),  // UTF-8, Latin-1
+      date("2004:07:15 18:03:09", "2004:07:15 18:03:09"), date("0000:00:00 00:00:00", "0000:00:00 00:00:00"),
       Text("DateTimeOriginal", Ifd::Zero, 0x9003, "2001:02:03 04:05:06", "2001:02:03 04:05:06"),
+      // Unknown dates are written as blanks and colons; no digit, no date.
+      date("    :  :     :  :  ", ""),
       // Phones and editors that write other separators, and blanks around.
-      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2020-04-24 17:44:15 ", "2020:04:24 17:44:15"),
-      Text("DateTimeOriginal", Ifd::Exif, 0x9003, " 2020/04/24  17:44:15", "2020:04:24 17:44:15"),
-      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2020.04.24 17:44:15", "2020:04:24 17:44:15"),
+      date("2020-04-24 17:44:15 ", "2020:04:24 17:44:15"), date(" 2020/04/24  17:44:15", "2020:04:24 17:44:15"),
+      date("2020.04.24 17:44:15", "2020:04:24 17:44:15"),
       // Still no date: left as written, for the date source to pass over.
-      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2020-02-30 17:44:15", "2020-02-30 17:44:15"),
-      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2020-04-24 17.44.15", "2020-04-24 17.44.15"),
-      Text("DateTimeOriginal", Ifd::Exif, 0x9003, "2020-04-24 17:44:15 x", "2020-04-24 17:44:15 x"),
+      date("2020-02-30 17:44:15", "2020-02-30 17:44:15"), date("2020-04-24 17.44.15", "2020-04-24 17.44.15"),
+      date("2020-04-24 17:44:15 x", "2020-04-24 17:44:15 x"),
       // A number where text belongs is not taken for text.
       Short("Model", Ifd::Zero, 0x0110, 7, ""),
       // Only the sixteen names answer, spelled exactly.
