@@ -21,7 +21,6 @@ TEST_F(DeleteToTrashRun, SeveralSelectedGoToTheTrashAfterOneQuestionAndTheListIs
   Make({"keep.jpg", "del\xff" "1.jpg", "del2.jpg"});
   Select({"del\xff" "1.jpg", "del2.jpg"});
   session.PreviewedPath = Path("del2.jpg");
-  settings.autoPreview = false;
   fs.FailTrash(Path("del2.jpg"), platform::ErrorNumberFromErrno(EOPNOTSUPP));
   Delete();
   EXPECT_EQ(port.Texts(), (QStringList{"Are you sure you want to move all selected files to the Recycle Bin?",
@@ -36,7 +35,6 @@ TEST_F(DeleteToTrashRun, SeveralSelectedGoToTheTrashAfterOneQuestionAndTheListIs
   EXPECT_TRUE(session.PreviewedPath.isEmpty());
   EXPECT_EQ(view.listed, (std::vector<QByteArray>{"del2.jpg", "keep.jpg"}));
   EXPECT_EQ(view.labels.last(), "( No File Selected )");
-  EXPECT_EQ(view.previewCaptions.last(), "Auto-Preview is disabled.  See 'Options' menu.");
 }
 
 // Yes where the file system has no trash (GIO refuses system mounts such as

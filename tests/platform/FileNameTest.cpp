@@ -14,10 +14,7 @@ using platform::FileName;
 // Every name must come back byte for byte from its text, whatever a camera
 // or an old tool wrote; valid UTF-8 must read as the characters it spells.
 TEST(FileNameText, EveryByteStringComesBackExactly) {
-  struct Row {
-    QByteArray name;
-    QString shown;
-  };
+  struct Row { QByteArray name; QString shown; };
   const QString e = QString(QChar(0xE9));
   const std::vector<Row> rows = {
       {"IMG_0001.JPG", "IMG_0001.JPG"},
@@ -48,12 +45,7 @@ using platform::ErrnoContext;
 // Each number describes itself with the system's text of the errno it
 // stands for (`describedBy`), not always the errno it came from.
 TEST(ErrorNumbers, FromErrnoAndDescribedByTheSystemText) {
-  const struct {
-    int errnum;
-    ErrnoContext context;
-    int expected;
-    int describedBy;
-  } cases[] = {
+  const struct { int errnum; ErrnoContext context; int expected; int describedBy; } cases[] = {
       {0, ErrnoContext::File, 0, 0},
       {EACCES, ErrnoContext::File, 70, EACCES},
       {EPERM, ErrnoContext::Folder, 70, EACCES},

@@ -117,7 +117,6 @@ TEST(FileSystemTrash, MovesTheFileIntoTheUserTrashWithAnEscapedPath) {
   const QByteArray info = ReadRaw(trash + "info/" + name + ".trashinfo");
   const QByteArray escaped = (folder / name).toPercentEncoding("/");
   EXPECT_TRUE(info.contains("\nPath=" + escaped + "\n")) << info.constData();
-  EXPECT_TRUE(escaped.endsWith("a%20b%25%E9.jpg"));
   EXPECT_EQ(RealFileSystem().MoveToTrash(folder / "absent.jpg"), platform::kFileNotFound);
 }
 

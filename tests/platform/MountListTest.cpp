@@ -26,10 +26,7 @@ TEST(MountList, ContainingVolumeIsTheLongestMatch) {
                                     {"/home/ann/", "ann", VolumeKind::Home},
                                     {"/media/ann/CANON DC/", "CANON DC", VolumeKind::Removable},
                                     {"/home/ann/remote/", "ann@host:/srv", VolumeKind::Network}};
-  const struct {
-    QByteArray folder;
-    int volume;
-  } cases[] = {
+  const struct { QByteArray folder; int volume; } cases[] = {
       {"/etc/", 0},
       {"/home/ann/", 1},
       {"/home/ann/Pictures/2024/", 1},
@@ -56,10 +53,7 @@ using platform::NetworkAddress;
 QByteArray Parse(const QByteArray& text) { return NetworkAddress::Parse(text.constData(), size_t(text.size())); }
 
 TEST(NetworkAddress, TypedAndPastedAddressesBecomeMountableUris) {
-  const struct {
-    QByteArray typed;
-    QByteArray uri;
-  } cases[] = {
+  const struct { QByteArray typed; QByteArray uri; } cases[] = {
       {"smb://nas/photos", "smb://nas/photos"},
       {"  SMB://nas/photos/2024\n", "smb://nas/photos/2024"},
       {"sftp://ann@host:2222", "sftp://ann@host:2222"},

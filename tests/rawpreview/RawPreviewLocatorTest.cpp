@@ -9,6 +9,7 @@
 
 #include "metadata/MemoryByteSource.h"
 #include "metadata/RawPreviewLocator.h"
+#include "support/Bytes.h"
 #include "support/SampleImages.h"
 #include "support/SampleRawFiles.h"
 
@@ -18,11 +19,8 @@ namespace {
 using metadata::EmbeddedJpeg;
 using metadata::RawPreviewLocator;
 
-QByteArray U16(quint16 v, bool be) {
-  const char bytes[2] = {char(be ? v >> 8 : v), char(be ? v : v >> 8)};
-  return QByteArray(bytes, 2);
-}
-QByteArray U32(quint32 v, bool be) { return be ? U16(quint16(v >> 16), be) + U16(quint16(v), be) : U16(quint16(v), be) + U16(quint16(v >> 16), be); }
+QByteArray U16(quint16 v, bool be) { return Bytes(v, be); }
+QByteArray U32(quint32 v, bool be) { return Bytes(v, be); }
 
 struct Tag { quint16 tag, type; quint32 count, value; };
 
