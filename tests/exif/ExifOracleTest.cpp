@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QHash>
+#include <QStringList>
 #include <cmath>
 
 #include "metadata/ExifReader.h"
@@ -24,27 +26,16 @@ struct Deliberate { const char *file, *column, *ours, *reason; } constexpr kDeli
      "value 72 (0x48) is a valid bit field; ExifTool names only the usual combinations"},
 };
 
-const Deliberate* FindDeliberate(const QString& file, const QString& column) {
-  for (const Deliberate& d : kDeliberate) {
-    if (file == QLatin1String(d.file) && column == QLatin1String(d.column)) return &d;
-  }
-  return nullptr;
-}
-
 // The first three letters of our orientation word carry its meaning for
 // the preview: upright, a quarter turn either way, or anything else.
 QString OrientationMeaning(const QString& number) {
-  if (number.isEmpty()) return {};
-  if (number == "1") return "Nor";
-  if (number == "6") return "Clo";
-  if (number == "8") return "Cou";
-  return "other";
+  static const QHash<QString, QString> kMeaning{{"1", "Nor"}, {"6", "Clo"}, {"8", "Cou"}};
+  return number.isEmpty() ? QString() : kMeaning.value(number, "other");
 }
 
 QString OurOrientationMeaning(const QString& word) {
-  if (word.isEmpty()) return {};
   const QString head = word.left(3);
-  return head == "Nor" || head == "Clo" || head == "Cou" ? head : QString("other");
+  return word.isEmpty() || QStringList{"Nor", "Clo", "Cou"}.contains(head) ? head : QString("other");
 }
 
 // Our "f/5.6" against ExifTool's 5.6 (we round to one place).
@@ -70,8 +61,9 @@ class OracleTest : public ::testing::Test {
   void Expect(const QString& file, const QString& column, const QString& ours, const QString& oracle,
               bool same) const {
     if (same) return;
-    const Deliberate* d = FindDeliberate(file, column);
-    if (d != nullptr && ours == QLatin1String(d->ours)) return;
+    for (const Deliberate& d : kDeliberate) {
+      if (file == QLatin1String(d.file) && column == QLatin1String(d.column) && ours == QLatin1String(d.ours)) return;
+    }
     ADD_FAILURE() << file.toStdString() << " " << column.toStdString() << ": ours \"" << ours.toStdString()
                   << "\", ExifTool \"" << oracle.toStdString() << "\"";
   }

@@ -17,19 +17,15 @@ TEST(FileNameText, EveryByteStringComesBackExactly) {
   struct Row { QByteArray name; QString shown; };
   const QString e = QString(QChar(0xE9));
   const std::vector<Row> rows = {
-      {"IMG_0001.JPG", "IMG_0001.JPG"},
-      {"caf\xc3\xa9.jpg", "caf" + e + ".jpg"},
+      {"IMG_0001.JPG", "IMG_0001.JPG"}, {"caf\xc3\xa9.jpg", "caf" + e + ".jpg"}, {"", ""},
       {"caf\xe9.jpg", "caf" + QString(QChar(0xF7E9)) + ".jpg"},
-      {"\xff", QString(QChar(0xF7FF))},
-      {"\x80", QString(QChar(0xF780))},
+      {"\xff", QString(QChar(0xF7FF))}, {"\x80", QString(QChar(0xF780))},
       {"\xc3", QString(QChar(0xF7C3))},                                       // cut short
       {"\xc0\xaf", QString(QChar(0xF7C0)) + QChar(0xF7AF)},                   // overlong
       {"\xed\xa0\x80", QString(QChar(0xF7ED)) + QChar(0xF7A0) + QChar(0xF780)},  // surrogate
       {"\xef\x9f\xa9", QString(QChar(0xF7EF)) + QChar(0xF79F) + QChar(0xF7A9)},  // U+F7E9 itself
       {"\xef\x9c\x80", QString(QChar(0xF700))},                               // just below the escapes
-      {"\xf0\x9f\x93\xb7.jpg", QString::fromUtf8("\xf0\x9f\x93\xb7.jpg")},
-      {"", ""},
-  };
+      {"\xf0\x9f\x93\xb7.jpg", QString::fromUtf8("\xf0\x9f\x93\xb7.jpg")}};
   for (const Row& row : rows) {
     const QString shown = FileName::NameToText(row.name);
     EXPECT_EQ(shown, row.shown) << row.name.toHex().constData();
@@ -46,21 +42,13 @@ using platform::ErrnoContext;
 // stands for (`describedBy`), not always the errno it came from.
 TEST(ErrorNumbers, FromErrnoAndDescribedByTheSystemText) {
   const struct { int errnum; ErrnoContext context; int expected; int describedBy; } cases[] = {
-      {0, ErrnoContext::File, 0, 0},
-      {EACCES, ErrnoContext::File, 70, EACCES},
-      {EPERM, ErrnoContext::Folder, 70, EACCES},
-      {EROFS, ErrnoContext::File, 75, EROFS},
-      {ETXTBSY, ErrnoContext::File, 75, EROFS},
-      {EBUSY, ErrnoContext::Folder, 75, EROFS},
-      {ENOENT, ErrnoContext::Folder, 76, ENOENT},
-      {ENOTDIR, ErrnoContext::Folder, 76, ENOENT},
-      {ENOTDIR, ErrnoContext::File, 76, ENOENT},
-      {ENOENT, ErrnoContext::File, 53, ENOENT},
-      {EEXIST, ErrnoContext::File, 58, EEXIST},
-      {ENOSPC, ErrnoContext::File, 1000 + ENOSPC, ENOSPC},
-      {EXDEV, ErrnoContext::Folder, 1000 + EXDEV, EXDEV},
-      {EIO, ErrnoContext::File, 1000 + EIO, EIO},
-  };
+      {0, ErrnoContext::File, 0, 0}, {EACCES, ErrnoContext::File, 70, EACCES},
+      {EPERM, ErrnoContext::Folder, 70, EACCES}, {EROFS, ErrnoContext::File, 75, EROFS},
+      {ETXTBSY, ErrnoContext::File, 75, EROFS}, {EBUSY, ErrnoContext::Folder, 75, EROFS},
+      {ENOENT, ErrnoContext::Folder, 76, ENOENT}, {ENOTDIR, ErrnoContext::Folder, 76, ENOENT},
+      {ENOTDIR, ErrnoContext::File, 76, ENOENT}, {ENOENT, ErrnoContext::File, 53, ENOENT},
+      {EEXIST, ErrnoContext::File, 58, EEXIST}, {ENOSPC, ErrnoContext::File, 1000 + ENOSPC, ENOSPC},
+      {EXDEV, ErrnoContext::Folder, 1000 + EXDEV, EXDEV}, {EIO, ErrnoContext::File, 1000 + EIO, EIO}};
   for (const auto& c : cases) {
     SCOPED_TRACE(testing::Message() << "errno " << c.errnum << " context " << int(c.context));
     EXPECT_EQ(platform::ErrorNumberFromErrno(c.errnum, c.context), c.expected);

@@ -26,15 +26,13 @@ TEST(MountList, ContainingVolumeIsTheLongestMatch) {
                                     {"/home/ann/", "ann", VolumeKind::Home},
                                     {"/media/ann/CANON DC/", "CANON DC", VolumeKind::Removable},
                                     {"/home/ann/remote/", "ann@host:/srv", VolumeKind::Network}};
-  const struct { QByteArray folder; int volume; } cases[] = {
-      {"/etc/", 0},
-      {"/home/ann/", 1},
-      {"/home/ann/Pictures/2024/", 1},
-      {"/home/ann/remote/x/", 3},
+  const std::pair<QByteArray, int> cases[] = {
+      {"/etc/", 0}, {"/home/ann/", 1}, {"/home/ann/Pictures/2024/", 1}, {"/home/ann/remote/x/", 3},
       {"/home/annex/", 0},  // a name that merely starts like the home folder
-      {"/media/ann/CANON DC", 2},
-  };
-  for (const auto& c : cases) EXPECT_EQ(MountList::ContainingVolume(volumes, c.folder), c.volume) << c.folder.constData();
+      {"/media/ann/CANON DC", 2}};
+  for (const auto& [folder, volume] : cases) {
+    EXPECT_EQ(MountList::ContainingVolume(volumes, folder), volume) << folder.constData();
+  }
   EXPECT_EQ(MountList::ContainingVolume({}, "/x/"), -1);
 }
 
@@ -53,17 +51,16 @@ using platform::NetworkAddress;
 QByteArray Parse(const QByteArray& text) { return NetworkAddress::Parse(text.constData(), size_t(text.size())); }
 
 TEST(NetworkAddress, TypedAndPastedAddressesBecomeMountableUris) {
-  const struct { QByteArray typed; QByteArray uri; } cases[] = {
-      {"smb://nas/photos", "smb://nas/photos"},
-      {"  SMB://nas/photos/2024\n", "smb://nas/photos/2024"},
-      {"sftp://ann@host:2222", "sftp://ann@host:2222"},
-      {"nfs://nas/export/pics", "nfs://nas/export/pics"},
-      {"davs://cloud.example/remote.php/webdav/", "davs://cloud.example/remote.php/webdav/"},
-      {"smb://nas/My Photos/%41", "smb://nas/My%20Photos/%41"},
+  // Addresses that need no change come back as they were typed.
+  for (const char* same : {"smb://nas/photos", "sftp://ann@host:2222", "nfs://nas/export/pics",
+                                 "davs://cloud.example/remote.php/webdav/"}) {
+    EXPECT_EQ(Parse(same), same) << same;
+  }
+  const std::pair<QByteArray, QByteArray> cases[] = {
+      {"  SMB://nas/photos/2024\n", "smb://nas/photos/2024"}, {"smb://nas/My Photos/%41", "smb://nas/My%20Photos/%41"},
       {"\\\\nas\\photos", "smb://nas/photos"},
-      {"\\\\nas\\My Photos\\100% \xc3\xa9t\xc3\xa9", "smb://nas/My%20Photos/100%25%20%C3%A9t%C3%A9"},
-  };
-  for (const auto& c : cases) EXPECT_EQ(Parse(c.typed), c.uri) << c.typed.constData();
+      {"\\\\nas\\My Photos\\100% \xc3\xa9t\xc3\xa9", "smb://nas/My%20Photos/100%25%20%C3%A9t%C3%A9"}};
+  for (const auto& [typed, uri] : cases) EXPECT_EQ(Parse(typed), uri) << typed.constData();
 }
 
 TEST(NetworkAddress, WhatIsNoNetworkFolderIsRefused) {

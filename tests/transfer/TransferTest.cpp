@@ -115,12 +115,22 @@ TEST_F(TransferTest, PoliciesAndAnswers) {
   }
 }
 
+// "Beach.jpg" gets the name "Beach 01.jpg", free when found but claimed by
+// the selection's own "Beach 01.jpg" before either is named: one more clash
+// for the later one, never a loss.
 TEST_F(TransferTest, SmartNameFindsTheNextFreeNameAndReportsIt) {
   Source("IMG_0012.jpg", "new");
-  ASSERT_TRUE(WriteRaw(destination_ + "IMG_0012.jpg", "old"));
-  ASSERT_TRUE(WriteRaw(destination_ + "IMG_010012.jpg", "older"));
+  Source("Beach.jpg", "new beach");
+  Source("Beach 01.jpg", "first");
+  for (const char* taken : {"IMG_0012.jpg", "IMG_010012.jpg", "Beach.jpg"}) {
+    ASSERT_TRUE(WriteRaw(destination_ + taken, "old"));
+  }
   Run(fileops::kMoveMode, fileops::OverwritePolicy::SmartName);
   EXPECT_EQ(At("IMG_020012.jpg"), "new");
+  EXPECT_EQ(At("Beach.jpg"), "old");
+  EXPECT_EQ(At("Beach 01.jpg"), "new beach");
+  EXPECT_EQ(At("Beach 0101.jpg"), "first");
+  EXPECT_EQ(DestinationNames().size(), 6u);
   EXPECT_EQ(port_.Texts(),
             (QStringList{"SmartName changed the names of some of the files because the destination\rfolder contained "
                          "identical filename(s).  Click OK for results.",
@@ -128,21 +138,8 @@ TEST_F(TransferTest, SmartNameFindsTheNextFreeNameAndReportsIt) {
                          "destination folder contained identical filename(s) (SmartName)."}));
   EXPECT_EQ(view_.report, "SmartName made the following changes to filenames while moving them to the destination "
                           "folder:\n\nDestination Folder: '" + QString::fromUtf8(destination_) +
-                              "'\n\n'IMG_0012.jpg' was changed to 'IMG_020012.jpg'.");
-}
-
-// SmartName gives "Beach.jpg" the name "Beach 01.jpg", free when found but
-// claimed by the selection's own "Beach 01.jpg" before either is named:
-// one more clash for the later one, never a loss.
-TEST_F(TransferTest, SmartNameTakenWithinTheRunIsTheNextClash) {
-  Source("Beach.jpg", "new beach");
-  Source("Beach 01.jpg", "first");
-  ASSERT_TRUE(WriteRaw(destination_ + "Beach.jpg", "old"));
-  Run(fileops::kCopyMode, fileops::OverwritePolicy::SmartName);
-  EXPECT_EQ(At("Beach.jpg"), "old");
-  EXPECT_EQ(At("Beach 01.jpg"), "new beach");
-  EXPECT_EQ(At("Beach 0101.jpg"), "first");
-  EXPECT_EQ(DestinationNames().size(), 3u);
+                              "'\n\n'IMG_0012.jpg' was changed to 'IMG_020012.jpg'.\n'Beach.jpg' was changed to "
+                              "'Beach 01.jpg'.\n'Beach 01.jpg' was changed to 'Beach 0101.jpg'.");
 }
 
 TEST_F(TransferTest, CancelLetsTheFileInHandFinish) {
