@@ -59,24 +59,12 @@ void MemoryFileSystem::Add(const QByteArray& path, const QByteArray& contents, q
   files_[Key(path)] = entry;
 }
 
-void MemoryFileSystem::Put(const QByteArray& path, qint64 offset, const QByteArray& bytes) {
-  if (Entry* e = Find(path)) e->placed.emplace_back(offset, bytes);
-}
-
 void MemoryFileSystem::SetTimes(const QByteArray& path, const QDateTime& createdUtc,
                                 const QDateTime& modifiedUtc) {
   if (Entry* e = Find(path)) {
     e->info.created = createdUtc;
     e->info.modified = modifiedUtc;
   }
-}
-
-void MemoryFileSystem::SetWritable(const QByteArray& path, bool writable) {
-  if (Entry* e = Find(path)) e->info.isWritable = writable;
-}
-
-void MemoryFileSystem::FailOpen(const QByteArray& path, int errorNumber) {
-  if (Entry* e = Find(path)) e->openError = errorNumber;
 }
 
 MemoryFileSystem::Entry* MemoryFileSystem::Find(const QByteArray& path) {

@@ -22,11 +22,17 @@ class MemoryFileSystem : public platform::FileSystem {
   // A `size` beyond the contents makes a sparse file of that size: reads
   // past the contents give zeros, except where Put placed bytes.
   void Add(const QByteArray& path, const QByteArray& contents, qint64 size = -1);
-  void Put(const QByteArray& path, qint64 offset, const QByteArray& bytes);
+  void Put(const QByteArray& path, qint64 offset, const QByteArray& bytes) {
+    if (Entry* e = Find(path)) e->placed.emplace_back(offset, bytes);
+  }
   void SetTimes(const QByteArray& path, const QDateTime& createdUtc, const QDateTime& modifiedUtc);
-  void SetWritable(const QByteArray& path, bool writable);
+  void SetWritable(const QByteArray& path, bool writable) {
+    if (Entry* e = Find(path)) e->info.isWritable = writable;
+  }
   // Makes opening `path` fail with `errorNumber`.
-  void FailOpen(const QByteArray& path, int errorNumber);
+  void FailOpen(const QByteArray& path, int errorNumber) {
+    if (Entry* e = Find(path)) e->openError = errorNumber;
+  }
   // ReadAt calls over all opened files, the bytes they gave, and the call
   // (counted from 0) that fails with EIO.
   int readCalls = 0;

@@ -8,17 +8,7 @@
 namespace renvale::test {
 
 namespace {
-
-std::string& UserFoldersRoot() {
-  static std::string root;
-  return root;
-}
-
-void RemoveUserFolders() {
-  std::error_code ignored;
-  std::filesystem::remove_all(UserFoldersRoot(), ignored);
-}
-
+std::string userFoldersRoot;
 }  // namespace
 
 void IsolateUserFolders() {
@@ -29,8 +19,11 @@ void IsolateUserFolders() {
     std::abort();
   }
   const std::string base(root);
-  UserFoldersRoot() = base;
-  std::atexit(RemoveUserFolders);
+  userFoldersRoot = base;
+  std::atexit([] {
+    std::error_code ignored;
+    std::filesystem::remove_all(userFoldersRoot, ignored);
+  });
   setenv("HOME", base.c_str(), 1);
   setenv("XDG_CONFIG_HOME", (base + "/config").c_str(), 1);
   setenv("XDG_DATA_HOME", (base + "/data").c_str(), 1);

@@ -16,8 +16,6 @@ constexpr quint16 kTypeSRational = 10;
 constexpr quint16 kExifIfdPointer = 0x8769;
 }  // namespace
 
-TiffBuilder::TiffBuilder(bool bigEndian, quint16 magic) : bigEndian_(bigEndian), magic_(magic) {}
-
 QByteArray TiffBuilder::U16(quint16 value) const { return Bytes(value, bigEndian_); }
 
 QByteArray TiffBuilder::U32(quint32 value) const { return Bytes(value, bigEndian_); }
@@ -80,7 +78,7 @@ QByteArray TiffBuilder::BuildIfd(std::vector<Entry> entries, quint32 start) cons
 
 QByteArray TiffBuilder::Build() const {
   QByteArray out = bigEndian_ ? QByteArray("MM") : QByteArray("II");
-  out += U16(magic_) + U32(8);
+  out += U16(42) + U32(8);
   std::vector<Entry> ifd0 = ifd0_;
   if (!exif_.empty()) ifd0.push_back(Entry{kExifIfdPointer, kTypeLong, 1, U32(0)});
   const quint32 exifStart = 8 + IfdSize(ifd0);
@@ -92,7 +90,7 @@ QByteArray TiffBuilder::Build() const {
 
 QByteArray TiffBuilder::BuildSingle(Ifd ifd) const {
   QByteArray out = bigEndian_ ? QByteArray("MM") : QByteArray("II");
-  out += U16(magic_) + U32(8);
+  out += U16(42) + U32(8);
   return out + BuildIfd(ifd == Ifd::Zero ? ifd0_ : exif_, 8);
 }
 

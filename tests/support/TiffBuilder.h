@@ -14,9 +14,7 @@ class TiffBuilder {
  public:
   enum class Ifd { Zero, Exif };
 
-  // `magic` is the number after the byte-order mark: 42 for TIFF, 0x4F52
-  // ("RO") for Olympus ORF, 0x55 for Panasonic RW2.
-  explicit TiffBuilder(bool bigEndian, quint16 magic = 42);
+  explicit TiffBuilder(bool bigEndian) : bigEndian_(bigEndian) {}
 
   void Ascii(Ifd ifd, quint16 tag, const QByteArray& text);  // adds the NUL
   void Short(Ifd ifd, quint16 tag, quint16 value);
@@ -47,7 +45,6 @@ class TiffBuilder {
   static quint32 IfdSize(const std::vector<Entry>& entries);
 
   bool bigEndian_;
-  quint16 magic_;
   std::vector<Entry> ifd0_;
   std::vector<Entry> exif_;
 };
