@@ -44,8 +44,8 @@ TEST(Id3Tag, OnlyTheLast128BytesStartingTagAreATag) {
 
 TEST(Id3FixedText, ConvertsBytesByItsRules) {
   struct Case { QByteArray bytes; int mode; bool stopAtZero; QString expected; } cases[] = {
-      {QByteArray("ab\0cd", 5), 0, true, "ab"}, {QByteArray("ab\0cd", 5), 0, false, QString::fromUtf16(u"ab\u0000cd", 5)},
-      {"a\rb\nc", 0, true, "ab\r\nc"},
+      {QByteArray("ab\0cd", 5), 0, true, "ab"}, {"a\rb\nc", 0, true, "ab\r\nc"},
+      {QByteArray("ab\0cd", 5), 0, false, QString::fromUtf16(u"ab\u0000cd", 5)},
       {"\x80\x93\xE9\x9F\x81", 0, true, QString::fromUtf16(u"\u20AC\u201C\u00E9\u0178\u0081")},
       {QByteArray("a\0b\0\0\0c\0", 8), 1, true, "ab"},  // low bytes of little-endian text
       {QByteArray("\0a\0b", 4), 2, true, "ab"},         // and of big-endian text

@@ -57,7 +57,8 @@ TEST(NetworkAddress, TypedAndPastedAddressesBecomeMountableUris) {
     EXPECT_EQ(Parse(same), same) << same;
   }
   const std::pair<QByteArray, QByteArray> cases[] = {
-      {"  SMB://nas/photos/2024\n", "smb://nas/photos/2024"}, {"smb://nas/My Photos/%41", "smb://nas/My%20Photos/%41"},
+      {"  SMB://nas/photos/2024\n", "smb://nas/photos/2024"},
+      {"smb://nas/My Photos/%41", "smb://nas/My%20Photos/%41"},
       {"\\\\nas\\photos", "smb://nas/photos"},
       {"\\\\nas\\My Photos\\100% \xc3\xa9t\xc3\xa9", "smb://nas/My%20Photos/100%25%20%C3%A9t%C3%A9"}};
   for (const auto& [typed, uri] : cases) EXPECT_EQ(Parse(typed), uri) << typed.constData();

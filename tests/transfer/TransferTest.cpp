@@ -297,11 +297,7 @@ TEST(SmartName, Candidates) {
 }
 
 TEST(FolderHistory, NewestFirstWithoutDuplicatesAtMostFifteen) {
-  FolderHistory::Stored stored;
-  stored[0] = "/a/";
-  stored[2] = "/b/";
-  stored[3] = "/a/";
-  FolderHistory history = FolderHistory::FromStored(stored);
+  FolderHistory history = FolderHistory::FromStored({"/a/", "", "/b/", "/a/"});
   EXPECT_EQ(history.Entries(), (QStringList{"/a/", "/b/"}));
   history.Add("/b/");
   EXPECT_EQ(history.Entries(), (QStringList{"/b/", "/a/"}));
