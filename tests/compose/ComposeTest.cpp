@@ -106,8 +106,13 @@ class Compose : public ComposeFixture {
   }
 };
 
-TEST_F(Compose, EveryInsertNeedsASelectedFile) {
-  OpenWithPictures();
+// Every insert needs a selected file; ID3 values come from the selected MP3.
+TEST_F(Compose, EveryInsertNeedsASelectedFileAndId3ValuesComeFromTheSelectedMp3) {
+  Id3v1Fields tag;
+  tag.title = "Song";
+  tag.track = 7;
+  MakeFile(QStringLiteral("a.mp3"), MakeMp3(&tag));
+  Open();
   SetNewName(QStringLiteral("kept"));
   const std::vector<QPushButton*> buttons = {Ui().OrigFN,      Ui().exif,        Ui().Command5,
                                              Ui().Command6,    Ui().Command1[0], Ui().Command9[2]};
@@ -118,6 +123,13 @@ TEST_F(Compose, EveryInsertNeedsASelectedFile) {
   EXPECT_EQ(messages.Texts(), QStringList(6, "Please select a file to rename first."));
   EXPECT_EQ(NewName(), "kept");
   EXPECT_TRUE(tips.offered.empty());
+
+  Select({0});
+  SetNewName({});
+  for (const char* entry : {"ID3> Insert Title", "ID3> Insert Album", "ID3> Insert Track #"}) {
+    Trigger(compose->PrepareExifMenu(), entry);
+  }
+  EXPECT_EQ(NewName(), "SongAlbum07");
 }
 
 TEST_F(Compose, ValuesInIndividualModeAndTokensInBatchMode) {
@@ -175,20 +187,6 @@ TEST_F(Compose, MenusHoldTheirEntriesAndInsertAtTheCaret) {
   Trigger(compose->PrepareExifMenu(), "-Cancel-");
   EXPECT_EQ(NewName(), " at .JPG");
   EXPECT_EQ(tips.offered, std::vector<int>({2, 4, 4, 4, 4, 4, 4, 4, 4, 4, 4, 2}));
-}
-
-TEST_F(Compose, Id3ValuesComeFromTheSelectedMp3) {
-  Id3v1Fields tag;
-  tag.title = "Song";
-  tag.track = 7;
-  MakeFile(QStringLiteral("a.mp3"), MakeMp3(&tag));
-  Open();
-  Select({0});
-  SetNewName({});
-  for (const char* entry : {"ID3> Insert Title", "ID3> Insert Album", "ID3> Insert Track #"}) {
-    Trigger(compose->PrepareExifMenu(), entry);
-  }
-  EXPECT_EQ(NewName(), "SongAlbum07");
 }
 
 TEST_F(Compose, SeriesNumbersInIndividualModeAndTheBoxResetByADoubleClick) {
