@@ -60,8 +60,8 @@ namespace {
 
 using MainWindowFileOps = MainWindowFixture;
 
-// Terms typed in the dialog rename the selection, and the results list each rename.
-TEST_F(MainWindowFileOps, SearchAndReplaceThroughTheDialogRenamesAndListsTheSelection) {
+// Terms typed in the dialog rename the selection and are listed; then "DEL" trashes one.
+TEST_F(MainWindowFileOps, SearchAndReplaceThroughTheDialogThenDelTrashesTheSelection) {
   MakeFiles({"IMG_1.jpg", "IMG_2.jpg", "IMG_3.jpg"});
   shell::MainWindow& main = Open();
   main.Ui().FSR->trigger();
@@ -90,7 +90,10 @@ TEST_F(MainWindowFileOps, SearchAndReplaceThroughTheDialogRenamesAndListsTheSele
   EXPECT_EQ(results, "\n\"IMG_1.jpg\" was renamed to \"Pic_1.jpg\"\n\"IMG_2.jpg\" was renamed to \"Pic_2.jpg\"");
   EXPECT_EQ(ListedNames(), (QStringList{"IMG_3.jpg", "Pic_1.jpg", "Pic_2.jpg"}));
   EXPECT_EQ(main.Ui().selectionLabel->text(), "( No File Selected )");
-  EXPECT_EQ(tips.offered, std::vector<int>{17});
+  ClickRow(0);
+  main.Ui().Command4->click();
+  EXPECT_EQ(ListedNames(), (QStringList{"Pic_1.jpg", "Pic_2.jpg"}));
+  EXPECT_EQ(tips.offered, (std::vector<int>{17, 6}));
 }
 
 TEST(AboutVersion, RevisionShowsOnlyWhenNotZero) {
