@@ -92,9 +92,7 @@ TEST(FileNameRules, SplitsAtLastDotKeepingTheDot) {
     EXPECT_EQ(split.base, QString::fromUtf8(c.base)) << c.name;
     EXPECT_EQ(split.extension, QString::fromUtf8(c.ext)) << c.name;
   }
-}
-
-TEST(FileNameRules, ForcedCaseLowersOnlyFromTheLastDot) {
+  // Forcing the case of a whole name lowers only from the last dot.
   EXPECT_EQ(core::ApplyForcedExtensionCase("My.Trip.JPG", true), "My.Trip.jpg");
   EXPECT_EQ(core::ApplyForcedExtensionCase("NO DOT", true), "NO DOT");
 }
@@ -218,24 +216,23 @@ std::vector<RenameMove> Moves(const char* text) {
 // must end where the moves said.
 void ExpectSafeAndComplete(const std::vector<RenameMove>& moves, const core::RenamePlan& plan,
                            const std::set<QByteArray>& others) {
-  std::set<QByteArray> present;
-  for (const QByteArray& other : others) present.insert((other));
+  std::set<QByteArray> present = others;
   for (const RenameMove& move : moves) {
-    present.insert((move.head.from));
-    for (const NamePair& c : move.companions) present.insert((c.from));
+    present.insert(move.head.from);
+    for (const NamePair& c : move.companions) present.insert(c.from);
   }
   for (const core::PlannedRename& step : plan) {
     std::vector<NamePair> members{step.head};
     members.insert(members.end(), step.companions.begin(), step.companions.end());
     for (const NamePair& pair : members) {
-      ASSERT_EQ(present.erase((pair.from)), 1u) << pair.from.toStdString();
+      ASSERT_EQ(present.erase(pair.from), 1u) << pair.from.toStdString();
       if (others.count(pair.to) == 0) {
-        ASSERT_EQ(present.count((pair.to)), 0u) << pair.to.toStdString();
+        ASSERT_EQ(present.count(pair.to), 0u) << pair.to.toStdString();
       }
-      present.insert((pair.to));
+      present.insert(pair.to);
     }
   }
-  for (const RenameMove& move : moves) EXPECT_EQ(present.count((move.head.to)), 1u);
+  for (const RenameMove& move : moves) EXPECT_EQ(present.count(move.head.to), 1u);
   const auto temporaries = [](const std::set<QByteArray>& names) {
     return std::count_if(names.begin(), names.end(), [](const QByteArray& n) { return n.startsWith(".renvale-swap-"); });
   };
