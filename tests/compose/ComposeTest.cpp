@@ -26,7 +26,7 @@ class ButtonTexts : public ComposeFixture {
  protected:
   void SetUp() override {
     ComposeFixture::SetUp();
-    MakeFile(QStringLiteral("Beach.JPG"));
+    MakeFile("Beach.JPG");
     Open();
   }
 };
@@ -97,9 +97,9 @@ class Compose : public ComposeFixture {
     ExifFields fields;
     fields.dateTimeOriginal = QStringLiteral("2004:05:01 13:14:15");
     fields.imageNumber = 1234567;
-    MakeFile(QStringLiteral("IMG_0001.JPG"), MakeExifJpeg(&fields));
+    MakeFile("IMG_0001.JPG", MakeExifJpeg(&fields));
     fields.imageNumber = -1;
-    MakeFile(QStringLiteral("IMG_0002.JPG"), MakeExifJpeg(&fields));
+    MakeFile("IMG_0002.JPG", MakeExifJpeg(&fields));
     Open();
   }
 };
@@ -109,7 +109,7 @@ TEST_F(Compose, EveryInsertNeedsASelectedFileAndId3ValuesComeFromTheSelectedMp3)
   Id3v1Fields tag;
   tag.title = "Song";
   tag.track = 7;
-  MakeFile(QStringLiteral("a.mp3"), MakeMp3(&tag));
+  MakeFile("a.mp3", MakeMp3(&tag));
   Open();
   SetNewName(QStringLiteral("kept"));
   const std::vector<QPushButton*> buttons = {Ui().OrigFN,      Ui().exif,        Ui().Command5,
