@@ -277,13 +277,13 @@ TEST_F(MainWindowOptions, EveryChoiceActsDoneAppliesTheRestAndReopeningShowsTheS
   EXPECT_TRUE(messages.messages.empty());
 }
 
-// The preview pane in the real window without automatic preview, and its buttons.
 using platform::DefaultApplication;
 
 using MainWindowPreview = MainWindowFixture;
 
-// Without automatic preview only the button shows; the external preview
-// says when no application opens the file, and only then.
+// The preview pane in the real window: without automatic preview only the
+// button shows; the external preview says when no application opens the
+// file, and only then.
 TEST_F(MainWindowPreview, WithoutAutoPreviewOnlyTheButtonShowsAndExternalPreviewTellsWhatFailed) {
   MakeFile("a.jpg", MakeExifJpeg(nullptr, 20, 10));
   MakeFiles({"a.xyz"});
@@ -325,8 +325,6 @@ TEST_F(MainWindowPreview, WithoutAutoPreviewOnlyTheButtonShowsAndExternalPreview
   EXPECT_EQ(opened, Folder() + "a.xyz");
   EXPECT_TRUE(messages.Texts().isEmpty());
 }
-
-using platform::MessageAnswer;
 
 using MainWindowRename = MainWindowFixture;
 
