@@ -13,8 +13,13 @@ platform::FileName Name(const char* raw) { return platform::FileName{QByteArray(
 TEST(FileSelection, TheCountGivesTheModeAndTheCurrentFileFillsTheSession) {
   const platform::FileName file = Name("a.b.TAR");
   const QString noAutoPreview = "Auto-Preview is disabled.  See 'Tools|Program Options' menu.";
-  struct Row { int count; bool forceLower, autoPreview; WindowMode mode; const char *label, *base, *ext, *newName;
-               QString caption; };
+  struct Row {
+    int count;
+    bool forceLower, autoPreview;
+    WindowMode mode;
+    const char *label, *base, *ext, *newName;
+    QString caption;
+  };
   const Row rows[] = {
       {0, false, true, WindowMode::NoSelection, "(No File Selected)", "", "", "", ""},
       {1, true, true, WindowMode::Individual, "a.b.TAR", "a.b", ".tar", "a.b.tar", "a.b.TAR"},

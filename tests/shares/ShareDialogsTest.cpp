@@ -206,7 +206,8 @@ class SambaShare : public ::testing::Test {
     ASSERT_EQ(fs.WriteWholeFile(QFile::encodeName(root + "/share/IMG_0001.JPG"), "picture"), platform::kNoError);
     port = Loopback(0);
     user = QString::fromLocal8Bit(::getpwuid(::getuid())->pw_name);
-    ASSERT_EQ(fs.WriteWholeFile(QFile::encodeName(root + "/smb.conf"), SambaConfig(root).toUtf8()), platform::kNoError);
+    const QByteArray config = SambaConfig(root).toUtf8();
+    ASSERT_EQ(fs.WriteWholeFile(QFile::encodeName(root + "/smb.conf"), config), platform::kNoError);
     QProcess addUser;
     addUser.start(smbpasswd, {"-c", root + "/smb.conf", "-s", "-a", user});
     addUser.write("secret\nsecret\n");
