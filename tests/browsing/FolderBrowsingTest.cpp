@@ -10,24 +10,15 @@
 namespace renvale::shell {
 namespace {
 
-class FolderDrops : public ::testing::Test {
- protected:
-  void SetUp() override {
-    root = QFile::encodeName(dir.path()) + '/';
-    ASSERT_EQ(platform::RealFileSystem().WriteWholeFile(root + "a.jpg", "x"), platform::kNoError);
-  }
-  QUrl Local(const char* relative) { return QUrl::fromLocalFile(QFile::decodeName(root) + relative); }
-
+TEST(FolderDrops, NearestExistingFolderWalksUp) {
   QTemporaryDir dir;
-  QByteArray root;
-};
-
-TEST_F(FolderDrops, NearestExistingFolderWalksUp) {
-  EXPECT_EQ(NearestExistingFolder(platform::RealFileSystem(), root + "x/y/z"), root);
-  EXPECT_EQ(NearestExistingFolder(platform::RealFileSystem(), root), root);
-  EXPECT_EQ(NearestExistingFolder(platform::RealFileSystem(), root + "a.jpg/"), root)
-      << "a file is no folder";
-  EXPECT_EQ(NearestExistingFolder(platform::RealFileSystem(), "/no-such-root/at/all/"), "/");
+  const QByteArray root = QFile::encodeName(dir.path()) + '/';
+  platform::FileSystem& fs = platform::RealFileSystem();
+  ASSERT_EQ(fs.WriteWholeFile(root + "a.jpg", "x"), platform::kNoError);
+  EXPECT_EQ(NearestExistingFolder(fs, root + "x/y/z"), root);
+  EXPECT_EQ(NearestExistingFolder(fs, root), root);
+  EXPECT_EQ(NearestExistingFolder(fs, root + "a.jpg/"), root) << "a file is no folder";
+  EXPECT_EQ(NearestExistingFolder(fs, "/no-such-root/at/all/"), "/");
 }
 
 }  // namespace

@@ -14,7 +14,6 @@ namespace renvale::test {
 class ComposeFixture : public MainWindowFixture {
  protected:
   shell::MainWindow& Open();
-  void MakeFile(const QString& name, const QByteArray& bytes = "x") { MainWindowFixture::MakeFile(name.toUtf8(), bytes); }
   // Selects the listed files at `rows`, the last one becoming current.
   void Select(std::initializer_list<int> rows);
   shell::MainWindowUi& Ui() { return window->Ui(); }

@@ -4,7 +4,6 @@
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMenu>
 #include <QPushButton>
 #include <QStandardPaths>
 #include <QTest>
@@ -27,21 +26,19 @@ class ButtonTexts : public ComposeFixture {
  protected:
   void SetUp() override {
     ComposeFixture::SetUp();
-    MakeFile(QStringLiteral("Beach.JPG"));
+    MakeFile("Beach.JPG");
     Open();
   }
 };
 
-TEST_F(ButtonTexts, RightClickOpensTheEditorWithItsPrompt) {
-  struct Case {
-    QPushButton* button;
-    QString prompt;
-    int editIndex;
-    QString text;
-  };
+// A right click opens the editor with its prompt and inserts nothing. The
+// editor refuses characters no file name can hold and stays open; a double
+// click empties its box, and an empty text is kept.
+TEST_F(ButtonTexts, RightClickOpensTheEditorWhichRefusesForbiddenCharactersAndKeepsAnEmptyText) {
+  struct Case { QPushButton* button; QString prompt; int editIndex; QString text; };
   Ui().Command9[0]->setText(QStringLiteral("R&&D"));
-  const Case cases[] = {{Ui().Command1[8], "Enter new text for Button # 9", 9, "Custom9"},
-                        {Ui().Command9[0], "Enter new text for Temp # 1", 20, "R&D"}};
+  const Case cases[] = {{Ui().Command9[0], "Enter new text for Temp # 1", 20, "R&D"},
+                        {Ui().Command1[8], "Enter new text for Button # 9", 9, "Custom9"}};
   for (const Case& c : cases) {
     QTest::mouseClick(c.button, Qt::RightButton);
     EXPECT_TRUE(Ui().namebutton->isVisible());
@@ -51,27 +48,29 @@ TEST_F(ButtonTexts, RightClickOpensTheEditorWithItsPrompt) {
     EXPECT_EQ(Ui().Text3->selectedText(), c.text);
   }
   EXPECT_TRUE(messages.messages.empty()) << "a right click inserts nothing";
-}
 
-TEST_F(ButtonTexts, CharactersNoFileNameCanHoldAreRefused) {
-  editor->Open(5);
   Ui().Text3->setText(QStringLiteral("a|b"));
   Ui().Command3->click();
-  EXPECT_TRUE(Ui().namebutton->isVisible()) << "the editor stays open";
+  EXPECT_TRUE(Ui().namebutton->isVisible());
   EXPECT_EQ(messages.Texts(), QStringList{core::texts::kInvalidFilenameChars});
-  EXPECT_EQ(Ui().Command1[4]->text(), "Custom5");
-}
-
-TEST_F(ButtonTexts, DoubleClickEmptiesTheBoxAndAnEmptyTextIsKept) {
-  editor->Open(3);
+  EXPECT_EQ(Ui().Command1[8]->text(), "Custom9");
   QTest::mouseDClick(Ui().Text3, Qt::LeftButton);
   EXPECT_EQ(Ui().Text3->text(), "");
   Ui().Command3->click();
-  EXPECT_EQ(Ui().Command1[2]->text(), "");
-  EXPECT_EQ(window->Settings().customCaptions[2], "");
+  EXPECT_EQ(Ui().Command1[8]->text(), "");
+  EXPECT_EQ(window->Settings().customCaptions[8], "");
 }
 
-TEST_F(ButtonTexts, FilenameAsTempDropsTheSelectedExtension) {
+TEST_F(ButtonTexts, FilenameAsTempDropsTheSelectedExtensionAndNeedsAUsableName) {
+  // An empty name, or one no file can have, is refused.
+  SetNewName({});
+  Ui().Command10->click();
+  SetNewName(QStringLiteral("a?b"));
+  Ui().Command10->click();
+  EXPECT_EQ(messages.Texts(), QStringList({core::texts::kNoTempFilename, core::texts::kInvalidFilenameChars}));
+  EXPECT_EQ(tips.offered, std::vector<int>({9, 9}));
+  EXPECT_EQ(Ui().Command9[0]->text(), "Temp1");
+  messages.Clear();
   Select({0});
   ASSERT_EQ(window->Session().SelectedExt, ".JPG");
   EXPECT_EQ(Captions(tempSaver->PrepareMenu()), QStringList({"Temp1", "Temp2", "Temp3", "-Cancel-"}));
@@ -91,16 +90,6 @@ TEST_F(ButtonTexts, FilenameAsTempDropsTheSelectedExtension) {
   EXPECT_TRUE(messages.messages.empty());
 }
 
-TEST_F(ButtonTexts, FilenameAsTempNeedsAUsableName) {
-  SetNewName({});
-  Ui().Command10->click();
-  SetNewName(QStringLiteral("a?b"));
-  Ui().Command10->click();
-  EXPECT_EQ(messages.Texts(), QStringList({core::texts::kNoTempFilename, core::texts::kInvalidFilenameChars}));
-  EXPECT_EQ(tips.offered, std::vector<int>({9, 9}));
-  EXPECT_EQ(Ui().Command9[0]->text(), "Temp1");
-}
-
 class Compose : public ComposeFixture {
  protected:
   // Two pictures taken 2004-05-01 13:14:15, the first with a serial number.
@@ -108,15 +97,20 @@ class Compose : public ComposeFixture {
     ExifFields fields;
     fields.dateTimeOriginal = QStringLiteral("2004:05:01 13:14:15");
     fields.imageNumber = 1234567;
-    MakeFile(QStringLiteral("IMG_0001.JPG"), MakeExifJpeg(&fields));
+    MakeFile("IMG_0001.JPG", MakeExifJpeg(&fields));
     fields.imageNumber = -1;
-    MakeFile(QStringLiteral("IMG_0002.JPG"), MakeExifJpeg(&fields));
+    MakeFile("IMG_0002.JPG", MakeExifJpeg(&fields));
     Open();
   }
 };
 
-TEST_F(Compose, EveryInsertNeedsASelectedFile) {
-  OpenWithPictures();
+// Every insert needs a selected file; ID3 values come from the selected MP3.
+TEST_F(Compose, EveryInsertNeedsASelectedFileAndId3ValuesComeFromTheSelectedMp3) {
+  Id3v1Fields tag;
+  tag.title = "Song";
+  tag.track = 7;
+  MakeFile("a.mp3", MakeMp3(&tag));
+  Open();
   SetNewName(QStringLiteral("kept"));
   const std::vector<QPushButton*> buttons = {Ui().OrigFN,      Ui().exif,        Ui().Command5,
                                              Ui().Command6,    Ui().Command1[0], Ui().Command9[2]};
@@ -127,14 +121,18 @@ TEST_F(Compose, EveryInsertNeedsASelectedFile) {
   EXPECT_EQ(messages.Texts(), QStringList(6, "Please select a file to rename first."));
   EXPECT_EQ(NewName(), "kept");
   EXPECT_TRUE(tips.offered.empty());
+
+  Select({0});
+  SetNewName({});
+  for (const char* entry : {"ID3> Insert Title", "ID3> Insert Album", "ID3> Insert Track #"}) {
+    Trigger(compose->PrepareExifMenu(), entry);
+  }
+  EXPECT_EQ(NewName(), "SongAlbum07");
 }
 
 TEST_F(Compose, ValuesInIndividualModeAndTokensInBatchMode) {
   OpenWithPictures();
-  struct Case {
-    std::function<void()> insert;
-    QString individual, batch;
-  };
+  struct Case { std::function<void()> insert; QString individual, batch; };
   const std::vector<Case> cases = {
       {[&] { Ui().OrigFN->click(); }, "IMG_0001", "%ORIGFN%"},
       {[&] { Trigger(compose->PrepareExifMenu(), "Insert Date"); }, "2004-05-01", "%DATE%"},
@@ -189,21 +187,7 @@ TEST_F(Compose, MenusHoldTheirEntriesAndInsertAtTheCaret) {
   EXPECT_EQ(tips.offered, std::vector<int>({2, 4, 4, 4, 4, 4, 4, 4, 4, 4, 4, 2}));
 }
 
-TEST_F(Compose, Id3ValuesComeFromTheSelectedMp3) {
-  Id3v1Fields tag;
-  tag.title = "Song";
-  tag.track = 7;
-  MakeFile(QStringLiteral("a.mp3"), MakeMp3(&tag));
-  Open();
-  Select({0});
-  SetNewName({});
-  for (const char* entry : {"ID3> Insert Title", "ID3> Insert Album", "ID3> Insert Track #"}) {
-    Trigger(compose->PrepareExifMenu(), entry);
-  }
-  EXPECT_EQ(NewName(), "SongAlbum07");
-}
-
-TEST_F(Compose, SeriesNumbersInIndividualMode) {
+TEST_F(Compose, SeriesNumbersInIndividualModeAndTheBoxResetByADoubleClick) {
   OpenWithPictures();
   window->Settings().seriesSpacing = QStringLiteral("-");
   Select({0});
@@ -216,28 +200,20 @@ TEST_F(Compose, SeriesNumbersInIndividualMode) {
   EXPECT_EQ(Ui().Text2->text(), "03");
   EXPECT_TRUE(window->Session().SeriesUsed);
   EXPECT_EQ(tips.offered, std::vector<int>({5, 5}));
-}
-
-TEST_F(Compose, DoubleClickResetsTheSeriesBoxToOne) {
-  OpenWithPictures();
+  // A double click sets the box back to one.
   window->Settings().placeholders = 4;
-  Ui().Text2->setText(QStringLiteral("57"));
   QTest::mouseDClick(Ui().Text2, Qt::LeftButton);
   EXPECT_EQ(Ui().Text2->text(), "0001");
-}
 
-// The click on a button takes the focus, and with it the box's selection;
-// the insert still replaces what was selected.
-TEST_F(Compose, SelectionLostToAButtonIsStillReplaced) {
-  OpenWithPictures();
-  Select({0});
+  // The click on a button takes the focus, and with it the box's selection;
+  // the insert still replaces what was selected.
   SetNewName(QStringLiteral("IMG_0001.JPG"));
   Ui().Text1->setSelection(0, 8);
   QFocusEvent out(QEvent::FocusOut, Qt::MouseFocusReason);
   QApplication::sendEvent(Ui().Text1, &out);
   ASSERT_FALSE(Ui().Text1->hasSelectedText());
   Ui().Command6->click();
-  EXPECT_EQ(NewName(), "01 .JPG");
+  EXPECT_EQ(NewName(), "0001-.JPG");
 }
 
 using platform::MessageAnswer;
@@ -277,7 +253,14 @@ class Templates : public ::testing::Test {
   shell::TemplateManager::Captions captions{"Kids && Pets", "B2", "B3", "B4", "B5", "B6", "B7", "B8", "B9"};
 };
 
+// A save that cannot write ends silently; only a missing name is told.
 TEST_F(Templates, SaveNamesTheFileAndAsksOnlyForAListedName) {
+  EXPECT_FALSE(manager.Save("", {}, captions));
+  fs.FailWrite(QFile::encodeName(dir.filePath("Locked.rnt")), platform::kAccessViolation);
+  EXPECT_FALSE(manager.Save("Locked", {}, captions));
+  EXPECT_FALSE(manager.Save("a/b", {}, captions));
+  EXPECT_EQ(messages.Texts(), QStringList({"Please enter a filename."}));
+  messages.Clear();
   EXPECT_TRUE(manager.Save("Kids", {}, captions));
   EXPECT_EQ(Read("Kids.rnt"), Nine("\"Kids && Pets\"\r\n"));
   EXPECT_TRUE(manager.Save("Kids.RNT", {}, captions));
@@ -297,16 +280,6 @@ TEST_F(Templates, SaveNamesTheFileAndAsksOnlyForAListedName) {
   EXPECT_EQ(question.title, "File Exists");
   EXPECT_EQ(question.buttons, platform::MessageButtons::YesNo);
   EXPECT_EQ(question.icon, platform::MessageIcon::Question);
-}
-
-TEST_F(Templates, SaveFailuresEndSilently) {
-  EXPECT_FALSE(manager.Save("", {}, captions));
-  EXPECT_EQ(messages.Texts(), QStringList({"Please enter a filename."}));
-  messages.Clear();
-  fs.FailWrite(QFile::encodeName(dir.filePath("Locked.rnt")), platform::kAccessViolation);
-  EXPECT_FALSE(manager.Save("Locked", {}, captions));
-  EXPECT_FALSE(manager.Save("a/b", {}, captions));
-  EXPECT_TRUE(messages.messages.empty());
 }
 
 TEST_F(Templates, OpenReadsQuotedAndUnquotedFields) {

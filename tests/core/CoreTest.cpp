@@ -27,12 +27,7 @@ namespace {
 using core::BatchBaseIssue;
 
 TEST(BatchBaseCheck, IssuesInTheirOrder) {
-  struct Case {
-    const char* base;
-    const char* selected;
-    const char* timePattern;
-    BatchBaseIssue issue;
-  };
+  struct Case { const char* base; const char* selected; const char* timePattern; BatchBaseIssue issue; };
   const Case cases[] = {
       {"img_0001.JPG", "IMG_0001.jpg", "hh-mm-ss", BatchBaseIssue::NoBaseName},
       {"", "", "hh-mm-ss", BatchBaseIssue::NoBaseName},  // own name checked before emptiness
@@ -97,9 +92,7 @@ TEST(FileNameRules, SplitsAtLastDotKeepingTheDot) {
     EXPECT_EQ(split.base, QString::fromUtf8(c.base)) << c.name;
     EXPECT_EQ(split.extension, QString::fromUtf8(c.ext)) << c.name;
   }
-}
-
-TEST(FileNameRules, ForcedCaseLowersOnlyFromTheLastDot) {
+  // Forcing the case of a whole name lowers only from the last dot.
   EXPECT_EQ(core::ApplyForcedExtensionCase("My.Trip.JPG", true), "My.Trip.jpg");
   EXPECT_EQ(core::ApplyForcedExtensionCase("NO DOT", true), "NO DOT");
 }
@@ -223,24 +216,23 @@ std::vector<RenameMove> Moves(const char* text) {
 // must end where the moves said.
 void ExpectSafeAndComplete(const std::vector<RenameMove>& moves, const core::RenamePlan& plan,
                            const std::set<QByteArray>& others) {
-  std::set<QByteArray> present;
-  for (const QByteArray& other : others) present.insert((other));
+  std::set<QByteArray> present = others;
   for (const RenameMove& move : moves) {
-    present.insert((move.head.from));
-    for (const NamePair& c : move.companions) present.insert((c.from));
+    present.insert(move.head.from);
+    for (const NamePair& c : move.companions) present.insert(c.from);
   }
   for (const core::PlannedRename& step : plan) {
     std::vector<NamePair> members{step.head};
     members.insert(members.end(), step.companions.begin(), step.companions.end());
     for (const NamePair& pair : members) {
-      ASSERT_EQ(present.erase((pair.from)), 1u) << pair.from.toStdString();
+      ASSERT_EQ(present.erase(pair.from), 1u) << pair.from.toStdString();
       if (others.count(pair.to) == 0) {
-        ASSERT_EQ(present.count((pair.to)), 0u) << pair.to.toStdString();
+        ASSERT_EQ(present.count(pair.to), 0u) << pair.to.toStdString();
       }
-      present.insert((pair.to));
+      present.insert(pair.to);
     }
   }
-  for (const RenameMove& move : moves) EXPECT_EQ(present.count((move.head.to)), 1u);
+  for (const RenameMove& move : moves) EXPECT_EQ(present.count(move.head.to), 1u);
   const auto temporaries = [](const std::set<QByteArray>& names) {
     return std::count_if(names.begin(), names.end(), [](const QByteArray& n) { return n.startsWith(".renvale-swap-"); });
   };
@@ -258,11 +250,8 @@ QByteArray Shown(const core::RenamePlan& plan) {
 }
 
 TEST(RenamePlanner, FreesEachNameBeforeItIsTakenAndStepsAsideOnlyInCycles) {
-  const struct {
-    const char* moves;
-    std::set<QByteArray> others;  // names in the folder outside the moves
-    const char* plan;
-  } rows[] = {
+  // `others`: names in the folder outside the moves.
+  const struct { const char* moves; std::set<QByteArray> others; const char* plan; } rows[] = {
       // Independent moves, and a target held outside the batch, keep list
       // order: the batch asks about that one at its turn.
       {"a.jpg>x.jpg b.jpg>c.jpg", {"x.jpg"}, "a.jpg>x.jpg b.jpg>c.jpg"},
@@ -324,25 +313,16 @@ TEST(SeriesFormat, PatternsPrintAsTheOptionsShow) {
   }
 }
 
-std::vector<qint64> DrawAll(core::RandomSeriesPool& pool) {
-  std::vector<qint64> drawn;
-  while (auto value = pool.Draw()) drawn.push_back(*value);
-  return drawn;
-}
-
 TEST(RandomSeriesPool, SourceOutsideRangeStillDrawsEveryNumberOnce) {
   const double answers[] = {1.0, -2.0, std::numeric_limits<double>::quiet_NaN(), 7.5};
   int call = 0;
   core::RandomSeriesPool pool(1, 6, [&] { return answers[call++ % 4]; });
-  std::vector<qint64> drawn = DrawAll(pool);
+  std::vector<qint64> drawn;
+  while (auto value = pool.Draw()) drawn.push_back(*value);
   std::sort(drawn.begin(), drawn.end());
   EXPECT_EQ(drawn, (std::vector<qint64>{1, 2, 3, 4, 5, 6}));
   EXPECT_EQ(pool.Size(), 0);
   EXPECT_FALSE(core::RandomSeriesPool(1, -4, [] { return 0.0; }).Draw().has_value());
-}
-
-std::array<QString, core::kTemplateRecordCount> Captions() {
-  return {"Kids && Pets", "", " lead", "Smith, John", "Ünïcödé €", "6", "7", "8", "9"};
 }
 
 TEST(TemplateFile, LegacyBytesAreWindows1252) {
@@ -353,7 +333,8 @@ TEST(TemplateFile, LegacyBytesAreWindows1252) {
 }
 
 TEST(TemplateFile, ReaderStaysInsideTruncatedBuffers) {
-  const QByteArray whole = core::WriteTemplate(Captions());
+  const QByteArray whole =
+      core::WriteTemplate({"Kids && Pets", "", " lead", "Smith, John", "Ünïcödé €", "6", "7", "8", "9"});
   for (qsizetype length = 0; length <= whole.size(); ++length) {
     // A copy of exactly `length` bytes, so the sanitizers see any overrun.
     const QByteArray part(whole.constData(), length);
@@ -386,12 +367,8 @@ TEST(TokenExpansion, SpellingsOrderAndValuesAskedFor) {
   const Expand individual = core::ExpandIndividualTokens;
   const Expand batch = core::ExpandBatchTokens;
   const Expand button = core::ExpandButtonTokens;
-  struct Case {
-    Expand expand;
-    const char* text;
-    const char* expected;
-    std::vector<Token> asked;
-  } cases[] = {
+  struct Case { Expand expand; const char* text; const char* expected; std::vector<Token> asked; };
+  const Case cases[] = {
       // Individual: both exact spellings replaced, a mixed case kept.
       {individual, "%ORIGFN% %origfn% %OrigFN%.jpg", "IMG_1 IMG_1 %OrigFN%.jpg", {Token::OrigFn}},
       // A mixed-case series token is found, so a number is consumed, yet it stays.

@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QLabel>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -46,14 +44,10 @@ TEST(QtMessagePort, ShowsTheMessageAndMapsTheAnswer) {
 // Enter on a question whose Yes loses a file must not press Yes; Escape
 // gives the safe answer of each shape.
 TEST(QtMessagePort, EnterBeforeALossAndEscapeGiveTheSafeAnswer) {
-  const struct {
-    Qt::Key key;
-    bool beforeLoss;
-    MessageButtons buttons;
-    MessageAnswer expected;
-  } rows[] = {{Qt::Key_Return, true, MessageButtons::YesNoCancel, MessageAnswer::No},
-              {Qt::Key_Escape, false, MessageButtons::YesNo, MessageAnswer::No},
-              {Qt::Key_Escape, false, MessageButtons::YesNoCancel, MessageAnswer::Cancel}};
+  const struct { Qt::Key key; bool beforeLoss; MessageButtons buttons; MessageAnswer expected; } rows[] = {
+      {Qt::Key_Return, true, MessageButtons::YesNoCancel, MessageAnswer::No},
+      {Qt::Key_Escape, false, MessageButtons::YesNo, MessageAnswer::No},
+      {Qt::Key_Escape, false, MessageButtons::YesNoCancel, MessageAnswer::Cancel}};
   QtMessagePort port;
   for (const auto& row : rows) {
     BoxDriver driver(row.key);

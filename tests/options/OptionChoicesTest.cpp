@@ -70,24 +70,19 @@ TEST_F(OptionChoicesTest, EachChoiceChangesItsSettingAndTheControlShowsIt) {
 }
 
 TEST_F(OptionChoicesTest, SamplesFollowTheChosenFormats) {
-  const QDate day(2004, 1, 24);
-  const QTime time(22, 12, 3);
-  EXPECT_EQ(choices.DateSample(day), "2004-01-24");
-  EXPECT_EQ(choices.TimeSample(time), "22-12-03");
-  EXPECT_EQ(choices.PlaceholderSample(), "01");
-  EXPECT_EQ(choices.SpacingSample(), "Filename 01.JPG");
+  const auto samples = [&] {
+    return QStringList{choices.DateSample(QDate(2004, 1, 24)), choices.TimeSample(QTime(22, 12, 3)),
+                       choices.PlaceholderSample(), choices.SpacingSample()};
+  };
+  EXPECT_EQ(samples(), (QStringList{"2004-01-24", "22-12-03", "01", "Filename 01.JPG"}));
   choices.Choose(OptionControl::DateFormat, 10);
   choices.Choose(OptionControl::TimeFormat, 4);
   choices.Choose(OptionControl::Option1, 4);
   choices.Choose(OptionControl::Option3, 2);
-  EXPECT_EQ(choices.DateSample(day), "01.24.04");
-  EXPECT_EQ(choices.TimeSample(time), "22.12");
-  EXPECT_EQ(choices.PlaceholderSample(), "00001");
-  EXPECT_EQ(choices.SpacingSample(), "Filename01.JPG");
+  EXPECT_EQ(samples(), (QStringList{"01.24.04", "22.12", "00001", "Filename01.JPG"}));
   choices.Choose(OptionControl::Option1, 0);
   choices.Choose(OptionControl::Option3, 1);
-  EXPECT_EQ(choices.PlaceholderSample(), "1");
-  EXPECT_EQ(choices.SpacingSample(), "Filename-01.JPG");
+  EXPECT_EQ(samples(), (QStringList{"01.24.04", "22.12", "1", "Filename-01.JPG"}));
 }
 
 TEST_F(OptionChoicesTest, F12TogglesTheWorkAroundWithOneMessageEachTime) {

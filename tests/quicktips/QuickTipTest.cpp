@@ -70,6 +70,7 @@ TEST_F(QuickTipTest, ClosingWritesTheTickedFlagsAtOnce) {
     ASSERT_TRUE(rules.Open(7));
     EXPECT_FALSE(rules.Open(3)) << "one tip at a time";
     rules.Close(c.noMoreTip, c.tipsOff);
+    EXPECT_FALSE(rules.TipShowing());
     EXPECT_EQ(Flag("NoTip7"), c.noTip7);
     EXPECT_EQ(Flag("NoTipsAtAll"), c.allOff);
     EXPECT_EQ(messages.Texts(), c.said);
@@ -78,36 +79,31 @@ TEST_F(QuickTipTest, ClosingWritesTheTickedFlagsAtOnce) {
   }
 }
 
-TEST_F(QuickTipTest, TheWindowShowsTheTipAndHandsBackItsBoxes) {
-  ASSERT_TRUE(rules.Open(21));
-  shell::QuickTip window(rules);
-  EXPECT_EQ(window.windowTitle(), "Quick Tip");
-  EXPECT_EQ(window.TipText->toPlainText(), QuickTipRules::TipText(21));
-  window.TipsOFF->click();
-  window.TipsOFF->click();  // clearing it says nothing
-  window.TipsOFF->click();
-  EXPECT_EQ(messages.Texts(), QStringList({texts::kTipsOffWarning, texts::kTipsOffWarning}));
-  EXPECT_EQ(messages.Last().title, "Quick Tips");
-  EXPECT_EQ(messages.Last().icon, platform::MessageIcon::Information);
-  EXPECT_EQ(Flag("NoTipsAtAll"), "") << "only closing the window turns them off";
-  window.reject();  // Escape counts like OK
-  EXPECT_EQ(Flag("NoTipsAtAll"), "1");
-  EXPECT_FALSE(rules.TipShowing());
-}
-
-TEST_F(QuickTipTest, AShownTipWaitsForOk) {
+// A shown tip waits for its window, which hands back its boxes only when it
+// is closed; Escape counts like OK.
+TEST_F(QuickTipTest, AShownTipWaitsForItsWindowToClose) {
   shell::ShownQuickTips tips(*storage, messages);
   int windows = 0;
-  QTimer::singleShot(0, [&windows] {
+  QTimer::singleShot(0, [&] {
     auto* window = qobject_cast<shell::QuickTip*>(QApplication::activeModalWidget());
     if (window == nullptr) return;
     ++windows;
+    EXPECT_EQ(window->windowTitle(), "Quick Tip");
+    EXPECT_EQ(window->TipText->toPlainText(), QuickTipRules::TipText(21));
     window->NoMoreTip->setChecked(true);
-    window->Command1->click();
+    window->TipsOFF->click();
+    window->TipsOFF->click();  // clearing it says nothing
+    window->TipsOFF->click();
+    EXPECT_EQ(messages.Texts(), QStringList({texts::kTipsOffWarning, texts::kTipsOffWarning}));
+    EXPECT_EQ(messages.Last().title, "Quick Tips");
+    EXPECT_EQ(messages.Last().icon, platform::MessageIcon::Information);
+    EXPECT_EQ(Flag("NoTipsAtAll"), "");
+    window->reject();
   });
-  tips.ShowQuickTip(4);
+  tips.ShowQuickTip(21);
   EXPECT_EQ(windows, 1);
-  EXPECT_EQ(Flag("NoTip4"), "1");
+  EXPECT_EQ(Flag("NoTip21"), "1");
+  EXPECT_EQ(Flag("NoTipsAtAll"), "1");
   tips.ShowQuickTip(4);  // off now: returns at once, with no window to close
 }
 

@@ -7,51 +7,45 @@ namespace {
 
 platform::FileName Name(const char* raw) { return platform::FileName{QByteArray(raw)}; }
 
-TEST(FileSelection, NothingSelectedKeepsTheModeAndClearsTheHeldName) {
-  RenameSession session;
-  session.BatchMode = true;
-  session.SelectedFileName = Name("old.jpg");
-  const SelectionView view = ApplySelection(session, 0, nullptr, SettingsRecord{});
-  EXPECT_EQ(view.mode, WindowMode::NoSelection);
-  EXPECT_EQ(view.selectionLabel, "(No File Selected)");
-  EXPECT_TRUE(session.SelectedFileName.raw.isEmpty());
-  EXPECT_EQ(session.SelectedCount, 0);
-}
-
-// How names split is the file name rules' business; here only that the
-// session and the box take the split, with the forced extension case.
-TEST(FileSelection, OneFileIsIndividualModeWithTheNameSplit) {
-  RenameSession session;
-  session.BatchMode = true;
-  SettingsRecord settings;
-  settings.forceLowerCaseExtension = true;
+// How names split is the file name rules' business; here only the mode the
+// count gives and what the session, the box and the captions take from the
+// current file. Nothing selected keeps the mode and lets go of the held name.
+TEST(FileSelection, TheCountGivesTheModeAndTheCurrentFileFillsTheSession) {
   const platform::FileName file = Name("a.b.TAR");
-  const SelectionView view = ApplySelection(session, 1, &file, settings);
-  EXPECT_EQ(view.mode, WindowMode::Individual);
-  EXPECT_FALSE(session.BatchMode);
-  EXPECT_EQ(session.SelectedBase, "a.b");
-  EXPECT_EQ(session.SelectedExt, ".tar");
-  EXPECT_EQ(view.newName, "a.b.tar");
-}
-
-TEST(FileSelection, AutoPreviewOffExplainsWhereToTurnItOn) {
-  RenameSession session;
-  SettingsRecord settings;
-  settings.autoPreview = false;
-  const platform::FileName file = Name("a.jpg");
-  EXPECT_EQ(ApplySelection(session, 1, &file, settings).previewCaption,
-            "Auto-Preview is disabled.  See 'Tools|Program Options' menu.");
-}
-
-TEST(FileSelection, TwoOrMoreSelectedIsBatchModeAndKeepsTheBox) {
-  RenameSession session;
-  const platform::FileName file = Name("b.CRW");
-  const SelectionView view = ApplySelection(session, 3, &file, SettingsRecord{});
-  EXPECT_EQ(view.mode, WindowMode::Batch);
-  EXPECT_TRUE(session.BatchMode);
-  EXPECT_TRUE(view.newName.isEmpty());
-  EXPECT_EQ(session.SelectedExt, ".CRW") << "the batch pane needs the current item's extension";
-  EXPECT_EQ(session.SelectedCount, 3);
+  const QString noAutoPreview = "Auto-Preview is disabled.  See 'Tools|Program Options' menu.";
+  struct Row {
+    int count;
+    bool forceLower, autoPreview;
+    WindowMode mode;
+    const char *label, *base, *ext, *newName;
+    QString caption;
+  };
+  const Row rows[] = {
+      {0, false, true, WindowMode::NoSelection, "(No File Selected)", "", "", "", ""},
+      {1, true, true, WindowMode::Individual, "a.b.TAR", "a.b", ".tar", "a.b.tar", "a.b.TAR"},
+      {1, false, false, WindowMode::Individual, "a.b.TAR", "a.b", ".TAR", "a.b.TAR", noAutoPreview},
+      // The batch pane needs the current item's extension.
+      {3, false, true, WindowMode::Batch, "3 files selected", "a.b", ".TAR", "", ""},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(::testing::Message() << row.count << " selected, caption " << row.caption.toStdString());
+    RenameSession session;
+    session.BatchMode = true;
+    session.SelectedFileName = Name("old.jpg");
+    SettingsRecord settings;
+    settings.forceLowerCaseExtension = row.forceLower;
+    settings.autoPreview = row.autoPreview;
+    const SelectionView view = ApplySelection(session, row.count, row.count > 0 ? &file : nullptr, settings);
+    EXPECT_EQ(view.mode, row.mode);
+    EXPECT_EQ(session.BatchMode, row.mode != WindowMode::Individual);
+    EXPECT_EQ(session.SelectedCount, row.count);
+    EXPECT_EQ(session.SelectedFileName.raw, row.count > 0 ? "a.b.TAR" : "");
+    EXPECT_EQ(view.selectionLabel, row.label);
+    EXPECT_EQ(session.SelectedBase, row.base);
+    EXPECT_EQ(session.SelectedExt, row.ext);
+    EXPECT_EQ(view.newName, row.newName);
+    EXPECT_EQ(view.previewCaption, row.caption);
+  }
 }
 
 }  // namespace

@@ -59,9 +59,9 @@ TEST(QtSettingsStorage, ValuesThatAreNotStringsReadAsMissing) {
   ASSERT_EQ(raw.value("Bytes").typeId(), QMetaType::QByteArray);
 
   const auto storage = file.Open();
-  EXPECT_EQ(storage->ReadSettingString(kMain, "List"), "");
-  EXPECT_EQ(storage->ReadSettingString(kMain, "Number"), "");
-  EXPECT_EQ(storage->ReadSettingString(kMain, "Bytes"), "");
+  for (const char* name : {"List", "Number", "Bytes"}) {
+    EXPECT_EQ(storage->ReadSettingString(kMain, name), "") << name;
+  }
   EXPECT_EQ(storage->ReadSettingString(kMain, "Plain"), "123");
   EXPECT_EQ(storage->ReadSettingString(kLastCustom, "Custom 1"), "");
   EXPECT_EQ(storage->ReadSettingString(kLastCustom, "Custom 2"), "kept");
@@ -198,11 +198,8 @@ constexpr core::TwipSize kScreen{15360, 11520};
 TEST(WindowPlacement, StoredPlacementIsAppliedWithFloorsAndScreenFit) {
   const TwipRect design{2812, 1627, 9735, 8265};  // left, top, width, height
   ASSERT_EQ(core::DesignPlacement(kScreen), design);
-  const struct {
-    const char* what;
-    StoredPlacement stored;  // top, left, height, width
-    TwipRect expected;
-  } cases[]{
+  // stored: top, left, height, width
+  const struct { const char* what; StoredPlacement stored; TwipRect expected; } cases[]{
       {"nothing stored", {}, design},
       {"top without left", {"1200", "", "", ""}, design},
       {"height without width", {"", "", "5000", ""}, design},

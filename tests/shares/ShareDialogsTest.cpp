@@ -202,10 +202,12 @@ class SambaShare : public ::testing::Test {
     const QString root = dir.path();
     for (const char* sub : {"/share", "/private", "/run"}) ASSERT_TRUE(QDir().mkpath(root + sub));
     QFile::setPermissions(root + "/run", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    ASSERT_TRUE(WriteFile(root + "/share/IMG_0001.JPG", "picture"));
+    platform::FileSystem& fs = platform::RealFileSystem();
+    ASSERT_EQ(fs.WriteWholeFile(QFile::encodeName(root + "/share/IMG_0001.JPG"), "picture"), platform::kNoError);
     port = Loopback(0);
     user = QString::fromLocal8Bit(::getpwuid(::getuid())->pw_name);
-    ASSERT_TRUE(WriteFile(root + "/smb.conf", SambaConfig(root).toUtf8()));
+    const QByteArray config = SambaConfig(root).toUtf8();
+    ASSERT_EQ(fs.WriteWholeFile(QFile::encodeName(root + "/smb.conf"), config), platform::kNoError);
     QProcess addUser;
     addUser.start(smbpasswd, {"-c", root + "/smb.conf", "-s", "-a", user});
     addUser.write("secret\nsecret\n");
@@ -241,10 +243,6 @@ class SambaShare : public ::testing::Test {
     if (Mounted(fuse)) QProcess::execute("fusermount3", {"-u", "-z", QFile::decodeName(fuse)});
   }
 
-  static bool WriteFile(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-  }
   static bool Mounted(const QByteArray& folder) {
     QFile info("/proc/self/mountinfo");
     return info.open(QIODevice::ReadOnly) && info.readAll().contains(" " + folder + " ");
