@@ -6,8 +6,10 @@
 #include <iterator>
 #include <memory>
 #include <random>
+#include <unordered_set>
 
 #include "cli/CliTexts.h"
+#include "core/AsciiFoldedName.h"
 #include "core/BatchRename.h"
 #include "core/CoreTexts.h"
 #include "core/FileSelection.h"
@@ -315,11 +317,11 @@ int BatchCommand::RunReplace(const BatchArguments& args) {
 // known again by its identity.
 void BatchCommand::Remember(Group& group, const std::vector<OutputRow>& rows) {
   group.before.assign(group.files.size(), std::nullopt);
-  QSet<QByteArray> taken;
-  taken.reserve(static_cast<qsizetype>(rows.size()));
-  for (const OutputRow& row : rows) taken.insert(platform::FileName::TextToName(row.newName).toLower());
+  std::unordered_set<QByteArray, core::AsciiFoldedName, core::AsciiFoldedName> taken;
+  taken.reserve(rows.size());
+  for (const OutputRow& row : rows) taken.insert(platform::FileName::TextToName(row.newName));
   for (size_t i = 0; i < rows.size(); ++i) {
-    if (group.listed && !taken.contains(group.files[i].raw.toLower())) continue;
+    if (group.listed && !taken.contains(group.files[i].raw)) continue;
     platform::FileInfo info;
     if (services_.fs.Stat(group.folder + group.files[i].raw, &info) == 0) group.before[i] = info;
   }
