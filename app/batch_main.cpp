@@ -56,9 +56,9 @@ int main(int argc, char** argv) {
   for (const QString& line : std::as_const(journalMessages.lines)) err << line << '\n';
   out.flush();
   err.flush();
-  std::fflush(nullptr);
   // Every line is out, and what the journal wrote is with the system: the
   // process ends here, without handing a card's worth of names and rows
-  // back to the allocator one by one first.
-  std::_Exit(status);
+  // back to the allocator one by one first. Handlers registered to run at
+  // exit still run.
+  std::exit(status);
 }
