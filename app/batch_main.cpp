@@ -3,10 +3,12 @@
 #include <QFile>
 #include <QTextStream>
 #include <cstdio>
+#include <cstdlib>
 #include <optional>
 
 #include "cli/BatchArguments.h"
 #include "cli/BatchCommand.h"
+#include "cli/ListingReuse.h"
 #include "core/SettingsStore.h"
 #include "fileops/Journal.h"
 #include "platform/AppPaths.h"
@@ -21,8 +23,13 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName(QStringLiteral("Renvale"));
 
   // The arguments as bytes: a file name on a card need not be valid UTF-8.
+  // They point into argv, which lives as long as the process: a card's
+  // ten thousand names are not copied one allocation each.
   std::vector<QByteArray> args;
-  for (int i = 1; i < argc; ++i) args.emplace_back(argv[i]);
+  args.reserve(static_cast<size_t>(argc));
+  for (int i = 1; i < argc; ++i) {
+    args.push_back(QByteArray::fromRawData(argv[i], static_cast<qsizetype>(qstrlen(argv[i]))));
+  }
   const cli::BatchArguments parsed = cli::ParseBatchArguments(args);
 
   // The window's settings, only read: the window keeps no series number
@@ -34,7 +41,7 @@ int main(int argc, char** argv) {
   QTextStream out(stdout);
   QTextStream err(stderr);
   cli::HeadlessMessagePort journalMessages;
-  platform::FileSystem& fs = platform::RealFileSystem();
+  cli::ListingReuse fs;
   // A dry run changes nothing, so it neither reads nor makes the history.
   std::optional<fileops::Journal> journal;
   const bool renames = parsed.action == cli::Action::Name || parsed.action == cli::Action::Replace;
@@ -43,8 +50,15 @@ int main(int argc, char** argv) {
     journal.emplace(fs, QFile::encodeName(platform::StateFolder()), journalMessages);
   }
   cli::BatchServices services{fs, settings, journal ? &*journal : nullptr, platform::CurrentDirectory()};
-  const int status = cli::BatchCommand(services, out, err).Run(parsed);
+  cli::BatchCommand command(services, out, err);
+  const int status = command.Run(parsed);
   // A journal the window could not read either is set aside and told about.
   for (const QString& line : std::as_const(journalMessages.lines)) err << line << '\n';
-  return status;
+  out.flush();
+  err.flush();
+  // Every line is out, and what the journal wrote is with the system: the
+  // process ends here, without handing a card's worth of names and rows
+  // back to the allocator one by one first. Handlers registered to run at
+  // exit still run.
+  std::exit(status);
 }

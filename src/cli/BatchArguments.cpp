@@ -28,10 +28,11 @@ class Parser {
  public:
   explicit Parser(const std::vector<QByteArray>& args) : args_(args) {}
 
-  BatchArguments Run() {
+  BatchArguments Run() && {
+    out_.files.reserve(args_.size());
     while (next_ < args_.size() && out_.error.isEmpty()) Take(args_[next_++]);
     if (out_.error.isEmpty()) Check();
-    return out_;
+    return std::move(out_);
   }
 
  private:

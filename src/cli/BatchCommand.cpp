@@ -3,10 +3,13 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <random>
+#include <unordered_set>
 
 #include "cli/CliTexts.h"
+#include "core/AsciiFoldedName.h"
 #include "core/BatchRename.h"
 #include "core/CoreTexts.h"
 #include "core/FileSelection.h"
@@ -40,6 +43,13 @@ bool IsClashNote(const QString& note) {
 core::RandomSeriesPool::RandomSource SeededSource(quint32 seed) {
   auto engine = std::make_shared<std::mt19937>(seed);
   return [engine] { return std::generate_canonical<double, 53>(*engine); };
+}
+
+std::vector<OutputRow> Joined(std::vector<std::vector<OutputRow>> groups) {
+  if (groups.size() == 1) return std::move(groups.front());
+  std::vector<OutputRow> rows;
+  for (std::vector<OutputRow>& group : groups) std::move(group.begin(), group.end(), std::back_inserter(rows));
+  return rows;
 }
 
 QByteArray Stem(const QByteArray& journalPath) {
@@ -84,12 +94,12 @@ int BatchCommand::Fail(const QString& line) {
 // at each file; a name missing from it is looked at on its own, for the
 // exact reason (or because it appeared since).
 bool BatchCommand::Resolve(const std::vector<QByteArray>& files) {
-  std::vector<QByteArray> paths;
-  paths.reserve(files.size());
+  std::vector<Place> places;
+  places.reserve(files.size());
   QHash<QByteArray, int> perFolder;
   for (const QByteArray& given : files) {
-    paths.push_back(given.startsWith('/') ? given : services_.currentDirectory + given);
-    ++perFolder[paths.back().left(paths.back().lastIndexOf('/') + 1)];
+    places.push_back(PlaceOf(given));
+    ++perFolder[places.back().folder];
   }
   QHash<QByteArray, QSet<QByteArray>> listings;
   for (auto it = perFolder.cbegin(); it != perFolder.cend(); ++it) {
@@ -97,25 +107,39 @@ bool BatchCommand::Resolve(const std::vector<QByteArray>& files) {
     if (it.value() < kListFrom || services_.fs.ListFiles(it.key(), &names) != 0) continue;
     listings.insert(it.key(), QSet<QByteArray>(names.begin(), names.end()));
   }
+  size_t at = 0;  // the group of the file before, which the next file mostly shares
   for (size_t i = 0; i < files.size(); ++i) {
-    const QByteArray& path = paths[i];
-    const qsizetype slash = path.lastIndexOf('/');
-    const QByteArray folder = path.left(slash + 1);
-    const auto listing = listings.constFind(folder);
-    if (!Found(files[i], path, listing == listings.cend() ? nullptr : &*listing)) return false;
-    auto group = std::find_if(groups_.begin(), groups_.end(), [&](const Group& g) { return g.folder == folder; });
-    if (group == groups_.end()) group = groups_.insert(groups_.end(), Group{folder, {}, {}, {}, listing != listings.cend()});
-    group->files.push_back(platform::FileName{path.mid(slash + 1)});
-    group->given.push_back(files[i]);
-    group->before.emplace_back();
+    const Place& place = places[i];
+    const auto listing = listings.constFind(place.folder);
+    if (!Found(files[i], place, listing == listings.cend() ? nullptr : &*listing)) return false;
+    if (groups_.empty() || groups_[at].folder != place.folder) {
+      auto group = std::find_if(groups_.begin(), groups_.end(), [&](const Group& g) { return g.folder == place.folder; });
+      if (group == groups_.end()) {
+        group = groups_.insert(groups_.end(), Group{place.folder, {}, {}, {}, listing != listings.cend()});
+        group->files.reserve(static_cast<size_t>(perFolder.value(place.folder)));
+        group->given.reserve(group->files.capacity());
+      }
+      at = static_cast<size_t>(group - groups_.begin());
+    }
+    groups_[at].files.push_back(platform::FileName{place.name});
+    groups_[at].given.push_back(files[i]);
   }
   return true;
 }
 
-bool BatchCommand::Found(const QByteArray& given, const QByteArray& path, const QSet<QByteArray>* listing) {
-  if (listing != nullptr && listing->contains(path.mid(path.lastIndexOf('/') + 1))) return true;
+// A bare name, as a card's files are mostly given, lies in the current folder
+// and is its own name: it needs no path made for it.
+BatchCommand::Place BatchCommand::PlaceOf(const QByteArray& given) const {
+  if (!given.contains('/')) return {services_.currentDirectory, given};
+  const QByteArray path = given.startsWith('/') ? given : services_.currentDirectory + given;
+  const qsizetype slash = path.lastIndexOf('/');
+  return {path.left(slash + 1), path.mid(slash + 1)};
+}
+
+bool BatchCommand::Found(const QByteArray& given, const Place& place, const QSet<QByteArray>* listing) {
+  if (listing != nullptr && listing->contains(place.name)) return true;
   platform::FileInfo info;
-  if (services_.fs.Stat(path, &info) != 0) {
+  if (services_.fs.Stat(place.folder + place.name, &info) != 0) {
     Fail(texts::kMissingFile.arg(platform::FileName::NameToText(given)));
     return false;
   }
@@ -181,44 +205,49 @@ bool BatchCommand::PreviewAll(const BatchArguments& args, std::vector<std::uniqu
   return true;
 }
 
-std::vector<OutputRow> BatchCommand::Rows(const GroupRun& run) const {
+// The preview's rows are handed over: the batch itself works from the
+// preview's naming, never from its rows.
+std::vector<OutputRow> BatchCommand::TakeRows(GroupRun& run) const {
   std::vector<OutputRow> rows;
   rows.reserve(run.preview.rows.size());
   for (size_t i = 0; i < run.preview.rows.size(); ++i) {
-    const core::PreviewRow& shown = run.preview.rows[i];
-    rows.push_back(OutputRow{run.group.given[i], shown.current, shown.newName, shown.dateSource, shown.notes,
-                             OutputRow::Status::Planned});
+    core::PreviewRow& shown = run.preview.rows[i];
+    rows.push_back(OutputRow{run.group.given[i], std::move(shown.current), std::move(shown.newName),
+                             std::move(shown.dateSource), std::move(shown.notes), OutputRow::Status::Planned});
   }
   return rows;
 }
 
 int BatchCommand::RunName(const BatchArguments& args) {
-  std::vector<std::unique_ptr<GroupRun>> runs;
+  std::vector<std::unique_ptr<GroupRun>>& runs = runs_;
   if (!PreviewAll(args, &runs)) return kFailed;
-  std::vector<OutputRow> rows;
-  rows.reserve(args.files.size());
-  for (const auto& run : runs) {
-    for (OutputRow& row : Rows(*run)) rows.push_back(std::move(row));
-  }
+  std::vector<std::vector<OutputRow>> planned;
+  planned.reserve(runs.size());
+  for (const auto& run : runs) planned.push_back(TakeRows(*run));
   if (args.dryRun) {
     for (const auto& run : runs) {
       for (const QString& warning : run->preview.warnings) {
         port_.lines << texts::kWarningPrefix + HeadlessMessagePort::OneLine(warning);
       }
     }
-    return Report(rows, true, args.json);
+    return Report(Joined(std::move(planned)), true, args.json);
   }
-  if (args.failOnClash && ClashFound(rows)) return kSomeSkipped;
-  rows.clear();
-  for (const auto& run : runs) {
-    std::vector<OutputRow> groupRows = Rows(*run);
-    Remember(run->group, groupRows);
-    core::BatchRename(Context(run->session, run->view)).StartBatchRename(&run->preview.naming);
-    Settle(run->group, &groupRows);
-    for (OutputRow& row : groupRows) rows.push_back(std::move(row));
-    if (port_.failed) break;  // the batch stopped at a failure; so does the run
+  if (args.failOnClash) {
+    for (const std::vector<OutputRow>& rows : planned) {
+      if (ClashFound(rows)) return kSomeSkipped;
+    }
   }
-  return Report(rows, false, args.json);
+  for (size_t g = 0; g < runs.size(); ++g) {
+    GroupRun& run = *runs[g];
+    Remember(run.group, planned[g]);
+    core::BatchRename(Context(run.session, run.view)).StartBatchRename(&run.preview.naming);
+    Settle(run.group, &planned[g]);
+    if (port_.failed) {  // the batch stopped at a failure; so does the run
+      planned.resize(g + 1);
+      break;
+    }
+  }
+  return Report(Joined(std::move(planned)), false, args.json);
 }
 
 // ---- --replace -------------------------------------------------------------
@@ -287,10 +316,12 @@ int BatchCommand::RunReplace(const BatchArguments& args) {
 // few files sit in a large folder, the file itself is looked at now and
 // known again by its identity.
 void BatchCommand::Remember(Group& group, const std::vector<OutputRow>& rows) {
-  QSet<QByteArray> taken;
-  for (const OutputRow& row : rows) taken.insert(platform::FileName::TextToName(row.newName).toLower());
+  group.before.assign(group.files.size(), std::nullopt);
+  std::unordered_set<QByteArray, core::AsciiFoldedName, core::AsciiFoldedName> taken;
+  taken.reserve(rows.size());
+  for (const OutputRow& row : rows) taken.insert(platform::FileName::TextToName(row.newName));
   for (size_t i = 0; i < rows.size(); ++i) {
-    if (group.listed && !taken.contains(group.files[i].raw.toLower())) continue;
+    if (group.listed && !taken.contains(group.files[i].raw)) continue;
     platform::FileInfo info;
     if (services_.fs.Stat(group.folder + group.files[i].raw, &info) == 0) group.before[i] = info;
   }

@@ -46,7 +46,7 @@ class BatchCommand {
     std::vector<platform::FileName> files;
     std::vector<QByteArray> given;
     // Each file as found just before the run, to know it again after it;
-    // only where its name alone cannot tell (see Remember).
+    // only where its name alone cannot tell (see Remember). A dry run has none.
     std::vector<std::optional<platform::FileInfo>> before;
     bool listed = false;  // many files: the folder is read whole instead of each file looked at
   };
@@ -60,15 +60,22 @@ class BatchCommand {
     core::BatchPreview preview;
   };
 
+  // Where a file argument lies: its folder (ending in '/') and its name there.
+  struct Place {
+    QByteArray folder;
+    QByteArray name;
+  };
+
   bool Resolve(const std::vector<QByteArray>& files);
-  bool Found(const QByteArray& given, const QByteArray& path, const QSet<QByteArray>* listing);
+  Place PlaceOf(const QByteArray& given) const;
+  bool Found(const QByteArray& given, const Place& place, const QSet<QByteArray>* listing);
   core::RenameContext Context(core::RenameSession& session, core::RenameView& view);
   void Select(core::RenameSession& session, const Group& group);
 
   int RunName(const BatchArguments& args);
   QString SeriesBox(qint64 number);
   bool PreviewAll(const BatchArguments& args, std::vector<std::unique_ptr<GroupRun>>* runs);
-  std::vector<OutputRow> Rows(const GroupRun& run) const;
+  std::vector<OutputRow> TakeRows(GroupRun& run) const;
   int RunReplace(const BatchArguments& args);
   std::vector<OutputRow> ReplaceRows(const Group& group, const std::vector<QByteArray>& newNames);
   int RunHistory(const BatchArguments& args);
@@ -87,6 +94,8 @@ class BatchCommand {
   HeadlessMessagePort port_;
   fileops::MetadataTokenSource tokens_;
   std::vector<Group> groups_;
+  // Kept as long as the command: a process may end without freeing them.
+  std::vector<std::unique_ptr<GroupRun>> runs_;
   QStringList shownLines_;
 };
 
