@@ -8,7 +8,6 @@
 
 #include "cli/BatchArguments.h"
 #include "cli/BatchCommand.h"
-#include "cli/ListingReuse.h"
 #include "core/SettingsStore.h"
 #include "fileops/Journal.h"
 #include "platform/AppPaths.h"
@@ -41,7 +40,7 @@ int main(int argc, char** argv) {
   QTextStream out(stdout);
   QTextStream err(stderr);
   cli::HeadlessMessagePort journalMessages;
-  cli::ListingReuse fs;
+  platform::FileSystem& fs = platform::RealFileSystem();
   // A dry run changes nothing, so it neither reads nor makes the history.
   std::optional<fileops::Journal> journal;
   const bool renames = parsed.action == cli::Action::Name || parsed.action == cli::Action::Replace;

@@ -3,13 +3,9 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <algorithm>
-#include <functional>
-#include <tuple>
 
 #include "cli/BatchArguments.h"
 #include "cli/BatchCommand.h"
-#include "cli/ListingReuse.h"
 #include "core/CoreTexts.h"
 
 namespace renvale::cli {
@@ -70,30 +66,6 @@ TEST(BatchArguments, GoodCommandLinesKeepOrderBytesAndValues) {
   EXPECT_EQ(ParseBatchArguments(Args({"--undo", "0042-0001"})).undoId, QStringLiteral("0042-0001"));
   const BatchArguments newest = ParseBatchArguments(Args({"--undo", "--json"}));
   EXPECT_TRUE(newest.undoId.isEmpty() && newest.json && newest.error.isEmpty());
-}
-
-// A listing is reused once at most, and never across a change made through
-// the file system: such a change shows in the very next listing; one made
-// behind its back, in the one after.
-TEST(ListingReuse, EveryChangeShowsInTheNextListing) {
-  QTemporaryDir dir;
-  const QByteArray folder = QFile::encodeName(dir.path()) + '/';
-  ListingReuse fs;
-  fs.WriteWholeFile(folder + "a", "a");
-  const std::vector<std::tuple<std::function<void()>, int, std::vector<QByteArray>>> changes{
-      {[&] { fs.RenameNoReplace(folder + "a", folder + "b"); }, 1, {"b"}},
-      {[&] { fs.WriteWholeFile(folder + "c", "c"); }, 1, {"b", "c"}},
-      {[&] { fs.RemoveFile(folder + "b"); }, 1, {"c"}},
-      {[&] { platform::RealFileSystem().WriteWholeFile(folder + "d", "d"); }, 2, {"c", "d"}},
-  };
-  for (const auto& [change, listings, expected] : changes) {
-    std::vector<QByteArray> names;
-    fs.ListFiles(folder, &names);
-    change();
-    for (int i = 0; i < listings; ++i) fs.ListFiles(folder, &names);
-    std::sort(names.begin(), names.end());
-    EXPECT_EQ(names, expected);
-  }
 }
 
 // Real files in a temporary folder, each holding its own first name, and a
