@@ -25,6 +25,7 @@
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <ctime>
 #include <cstdlib>
@@ -267,10 +268,16 @@ void BM_SearchReplaceAgainstFloor(benchmark::State& state) {
   RenvaleWindow plain(false);
   const bool perl = Installed("rename");
   Contender floors, renvale, renvalePlain, perlRename;
+  bool journaledFirst = true;
   for (auto _ : state) {
     const Spent floor = FloorRenameOnce();
     floors.Add(floor, floor);
-    for (RenvaleWindow* window : {&journaled, &plain}) {
+    // The run just after the floor is slower on a loaded machine, whichever
+    // it is: the two windows take that place in turn.
+    const std::array<RenvaleWindow*, 2> order =
+        journaledFirst ? std::array{&journaled, &plain} : std::array{&plain, &journaled};
+    journaledFirst = !journaledFirst;
+    for (RenvaleWindow* window : order) {
       const Spent spent = window->SearchReplaceOnce();
       // One message: "Search & Replace Renaming Complete."
       if (CountStartingWith("Pic_") != kRenameCount || window->MessageCount() != 1) {
@@ -310,7 +317,7 @@ void BM_TrashAgainstGio(benchmark::State& state) {
   state.counters["renvale_x"] = Median(renvaleX);
 }
 
-BENCHMARK(BM_SearchReplaceAgainstFloor)->Unit(benchmark::kSecond)->Iterations(7);
+BENCHMARK(BM_SearchReplaceAgainstFloor)->Unit(benchmark::kSecond)->Iterations(10);
 BENCHMARK(BM_TrashAgainstGio)->Unit(benchmark::kSecond)->Iterations(5);
 
 }  // namespace
