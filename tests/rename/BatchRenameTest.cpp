@@ -16,10 +16,6 @@ using Files = std::map<QByteArray, QByteArray>;
 
 class BatchRenameTest : public RenameFixture {
  protected:
-  void Batch(const QString& base) {
-    view.newName = base;
-    core::BatchRename(context).StartBatchRename();
-  }
   void MakeAbc() {
     Make({"a.jpg", "b.JPG", "c.png"});
     Select({"a.jpg", "b.JPG", "c.png"});

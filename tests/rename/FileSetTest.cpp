@@ -71,13 +71,7 @@ TEST(FolderIndex, StaysExactThroughManyRenames) {
   for (const char* gone : {"0.jpg", "1.JPG", "2999.JPG"}) EXPECT_FALSE(index.Contains(gone)) << gone;
 }
 
-class FileSetTest : public RenameFixture {
- protected:
-  void Batch(const QString& base) {
-    view.newName = base;
-    core::BatchRename(context).StartBatchRename();
-  }
-};
+using FileSetTest = RenameFixture;
 
 // A picture takes its sidecars, a CRW or a Canon clip its thumbnail; a
 // picture's THM is no sidecar of it. A batch passes over a companion it

@@ -23,8 +23,7 @@ class IndividualRenameTest : public RenameFixture {
 TEST_F(IndividualRenameTest, RefusalsLeaveTheFolderAlone) {
   struct Case { const char* box; bool selected; QString message; };
   const Case cases[] = {
-      {"b", false, core::texts::kPleaseSelectFileFirst},
-      {"", true, core::texts::kPleaseEnterNewFilename},
+      {"b", false, core::texts::kPleaseSelectFileFirst}, {"", true, core::texts::kPleaseEnterNewFilename},
       {"a?b", true, core::texts::kInvalidFilenameChars},
       {"a", true, core::texts::kSameAsOriginal},  // the guard completes it to a.JPG
   };
