@@ -50,7 +50,8 @@ TEST(BatchKill, KilledAnywhereEveryFileKeepsItsOldOrItsNewName) {
   std::vector<int> renamedAtKill;
   for (int run = 0; run < kRuns; ++run) {
     Restore(folder);
-    KillAfter(QStringLiteral(RENVALE_VICTIM), {folder}, std::uniform_int_distribution<qint64>(0, latest)(random));
+    const qint64 delay = std::uniform_int_distribution<qint64>(0, latest)(random);
+    KillAfter(QStringLiteral(RENVALE_VICTIM), {folder}, delay);
     renamedAtKill.push_back(CountRenamed(folder));
     // A kill that came too late to find the batch running: aim earlier.
     if (renamedAtKill.back() == kFiles) latest = latest * 3 / 4;

@@ -90,8 +90,8 @@ TEST_F(FileSetTest, CompanionsFollowTheirFileSelectedAlone) {
   EXPECT_EQ(view.series, "03");
   EXPECT_EQ(Folder(), (Files{{"Trip.CR2", "IMG_1.CR2"}, {"Trip.XMP", "IMG_1.XMP"}, {"Trip.CR2.xmp", "IMG_1.CR2.xmp"},
                              {"IMG_1.THM", "IMG_1.THM"}, {"one.crw", "set1.crw"}, {"one.thm", "set1.thm"},
-                             {"Clip 01.AVI", "MVI_0001.AVI"}, {"Clip 01.THM", "MVI_0001.THM"}, {"Clip 02.jpg", "B.jpg"},
-                             {"Clip 02.xmp", "B.xmp"}}));
+                             {"Clip 01.AVI", "MVI_0001.AVI"}, {"Clip 01.THM", "MVI_0001.THM"},
+                             {"Clip 02.jpg", "B.jpg"}, {"Clip 02.xmp", "B.xmp"}}));
 }
 
 TEST_F(FileSetTest, FailingCompanionPutsTheSetBack) {
