@@ -62,10 +62,7 @@ TEST_F(JournalStore, PlansAreListedNewestFirstWithTheirStates) {
 
 TEST_F(JournalStore, AnUnreadableJournalIsToldAboutAndKeptAside) {
   const QByteArray good = JournalFormat::Write(Plan(1000));
-  const struct {
-    QByteArray bytes;
-    QString says;
-  } cases[] = {
+  const struct { QByteArray bytes; QString says; } cases[] = {
       {good.left(good.size() - 3), "is incomplete: it was cut short while being written."},
       {QByteArray(good).replace("kind r", "kind b"), "is damaged."},
       {QByteArray(good).replace("JOURNAL 2", "JOURNAL 7"), "was written by a newer version of Renvale."},

@@ -1,31 +1,15 @@
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
-#include <QThread>
 #include <algorithm>
 #include <random>
 
+#include "KillRun.h"
+
+namespace renvale::test {
 namespace {
 
-constexpr int kFiles = 1000;
 constexpr int kRuns = 25;
 
-QString OldName(int i) { return QString::asprintf("f%04d.dat", i); }
 QString NewName(int i) { return QString::asprintf("f%04d %04d.dat", i, i + 1); }
-QByteArray Contents(int i) { return OldName(i).toUtf8().repeated(1 + i % 7) + QByteArray::number(i * 7919); }
-
-void MakeFiles(const QString& folder) {
-  QDir().mkpath(folder);
-  for (int i = 0; i < kFiles; ++i) {
-    QFile file(folder + '/' + OldName(i));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(Contents(i));
-  }
-}
 
 // Every file under exactly its old or its new name with its own contents,
 // and nothing else in the folder. Returns how many carry the new name.
@@ -54,25 +38,11 @@ void Restore(const QString& folder) {
   }
 }
 
-// Starts the batch on `folder` and returns once it has begun.
-void StartVictim(QProcess& victim, const QString& folder) {
-  victim.start(QStringLiteral(RENVALE_VICTIM), {folder});
-  ASSERT_TRUE(victim.waitForStarted(5000));
-  ASSERT_TRUE(victim.waitForReadyRead(5000));
-}
-
 TEST(BatchKill, KilledAnywhereEveryFileKeepsItsOldOrItsNewName) {
   QTemporaryDir root;
   const QString folder = root.path() + "/batch";
   MakeFiles(folder);
-  // An undisturbed run first, to learn how long the batch takes.
-  QProcess whole;
-  QElapsedTimer clock;
-  StartVictim(whole, folder);
-  clock.start();
-  ASSERT_TRUE(whole.waitForFinished(20000));
-  const qint64 batchMicros = clock.nsecsElapsed() / 1000;
-  ASSERT_EQ(whole.exitCode(), 0) << whole.readAllStandardError().toStdString();
+  const qint64 batchMicros = WholeRunMicros(QStringLiteral(RENVALE_VICTIM), {folder});
   ASSERT_EQ(CountRenamed(folder), kFiles);
 
   std::mt19937 random(20240611);
@@ -80,11 +50,8 @@ TEST(BatchKill, KilledAnywhereEveryFileKeepsItsOldOrItsNewName) {
   std::vector<int> renamedAtKill;
   for (int run = 0; run < kRuns; ++run) {
     Restore(folder);
-    QProcess victim;
-    StartVictim(victim, folder);
-    QThread::usleep(static_cast<unsigned long>(std::uniform_int_distribution<qint64>(0, latest)(random)));
-    victim.kill();
-    ASSERT_TRUE(victim.waitForFinished(5000));
+    const qint64 delay = std::uniform_int_distribution<qint64>(0, latest)(random);
+    KillAfter(QStringLiteral(RENVALE_VICTIM), {folder}, delay);
     renamedAtKill.push_back(CountRenamed(folder));
     // A kill that came too late to find the batch running: aim earlier.
     if (renamedAtKill.back() == kFiles) latest = latest * 3 / 4;
@@ -99,3 +66,4 @@ TEST(BatchKill, KilledAnywhereEveryFileKeepsItsOldOrItsNewName) {
 }
 
 }  // namespace
+}  // namespace renvale::test

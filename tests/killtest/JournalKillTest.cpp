@@ -1,30 +1,21 @@
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QProcess>
 #include <QSet>
 #include <QTemporaryDir>
-#include <QThread>
 #include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <random>
 
+#include "KillRun.h"
 #include "fileops/Journal.h"
 #include "fileops/PlanReplay.h"
 #include "support/ScriptedMessagePort.h"
 
-namespace renvale {
+namespace renvale::test {
 namespace {
 
-constexpr int kFiles = 1000;
 constexpr int kRuns = 16;
 
-QString OldName(int i) { return QString::asprintf("f%04d.dat", i); }
 QString NewName(int i) { return QString::asprintf("g%04d.dat", i); }
-QByteArray Contents(int i) { return QByteArray::number(i * 7919).repeated(1 + i % 5); }
 
 // Every file under `wanted(i)` with its own contents, and nothing else.
 void ExpectAllUnder(const QString& folder, const std::function<QString(int)>& wanted) {
@@ -46,25 +37,13 @@ void KillAndRecover(const QString& kind) {
   QTemporaryDir root;
   const QString folder = root.path() + "/card";
   const QByteArray journalFolder = QFile::encodeName(root.path()) + "/state/";
-  QDir().mkpath(folder);
+  MakeFiles(folder);
   QDir().mkpath(QFile::decodeName(journalFolder) + "damaged");
-  for (int i = 0; i < kFiles; ++i) {
-    QFile file(folder + '/' + OldName(i));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(Contents(i)) == Contents(i).size());
-  }
-  test::ScriptedMessagePort port;
+  ScriptedMessagePort port;
   fileops::Journal journal(platform::RealFileSystem(), journalFolder, port);
   QStringList arguments{folder, QFile::decodeName(journalFolder.chopped(1))};
   if (!kind.isEmpty()) arguments << kind;
-  // An undisturbed run first, to learn how long it takes.
-  QProcess whole;
-  whole.start(QStringLiteral(RENVALE_JOURNAL_VICTIM), arguments);
-  ASSERT_TRUE(whole.waitForStarted(5000));
-  ASSERT_TRUE(whole.waitForReadyRead(5000));
-  QElapsedTimer clock;
-  clock.start();
-  ASSERT_TRUE(whole.waitForFinished(20000));
-  qint64 latest = clock.nsecsElapsed() / 1000;
+  qint64 latest = WholeRunMicros(QStringLiteral(RENVALE_JOURNAL_VICTIM), arguments);
   ExpectAllUnder(folder, NewName);
   // Back to the old names and no journal, for the next run.
   const auto reset = [&] {
@@ -77,14 +56,8 @@ void KillAndRecover(const QString& kind) {
   int recovered = 0;
   int partial = 0;  // kills that landed before the plan was whole
   for (int run = 0; run < kRuns; ++run) {
-    QProcess victim;
-    victim.start(QStringLiteral(RENVALE_JOURNAL_VICTIM), arguments);
-    ASSERT_TRUE(victim.waitForStarted(5000));
-    ASSERT_TRUE(victim.waitForReadyRead(5000));
     const qint64 delay = std::uniform_int_distribution<qint64>(0, latest)(random);
-    QThread::usleep(static_cast<unsigned long>(delay));
-    victim.kill();
-    ASSERT_TRUE(victim.waitForFinished(5000));
+    KillAfter(QStringLiteral(RENVALE_JOURNAL_VICTIM), arguments, delay);
 
     std::vector<fileops::JournalEntry> entries = journal.Entries();
     const bool finish = run % 2 == 0;
@@ -117,4 +90,4 @@ TEST(JournalKill, AKilledSearchAndReplaceIsFinishedOrUndoneFromItsJournal) { Kil
 TEST(JournalKill, AKilledBatchIsFinishedOrUndoneFromItsJournal) { KillAndRecover(QStringLiteral("batch")); }
 
 }  // namespace
-}  // namespace renvale
+}  // namespace renvale::test

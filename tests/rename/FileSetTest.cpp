@@ -27,12 +27,9 @@ TEST(FileSetFinder, FindsCompanionsByTheirRules) {
   const Case cases[] = {
       {"A.CRW", "x.crw", {{"A.THM", "x.THM"}, {"A.xmp", "x.xmp"}}},
       {"B.CR2", "y.CR2", {{"B.CR2.XMP", "y.CR2.XMP"}, {"B.XMP", "y.XMP"}}},
-      {"C.jpg", "z.jpg", {}},   // a THM goes only with a CRW or a clip
-      {"L.crw", "k.crw", {{"L.thm", "k.thm"}}},  // selected or not
-      {"V.MOV", "w.mov", {{"V.THM", "w.THM"}}},
-      {"C.THM", "z.THM", {}},   // and takes no sidecar itself
-      {"N", "M", {{"N.xmp", "M.xmp"}}},
-      {"D.xmp", "E.xmp", {}},   // a sidecar renamed on its own goes alone
+      {"C.jpg", "z.jpg", {}}, {"C.THM", "z.THM", {}},  // a THM goes with a CRW or clip only, and alone
+      {"L.crw", "k.crw", {{"L.thm", "k.thm"}}}, {"V.MOV", "w.mov", {{"V.THM", "w.THM"}}},  // selected or not
+      {"N", "M", {{"N.xmp", "M.xmp"}}}, {"D.xmp", "E.xmp", {}},  // a sidecar renamed on its own goes alone
       {"A.CRW", "a.CRW", {{"A.THM", "a.THM"}, {"A.xmp", "a.xmp"}}},
   };
   for (const Case& c : cases) EXPECT_EQ(finder.Companions(c.head, c.newHead), c.companions) << c.head;
@@ -74,41 +71,27 @@ TEST(FolderIndex, StaysExactThroughManyRenames) {
   for (const char* gone : {"0.jpg", "1.JPG", "2999.JPG"}) EXPECT_FALSE(index.Contains(gone)) << gone;
 }
 
-class FileSetTest : public RenameFixture {
- protected:
-  void Batch(const QString& base) {
-    view.newName = base;
-    core::BatchRename(context).StartBatchRename();
-  }
-};
-
-TEST_F(FileSetTest, BatchPassesOverCompanionEntriesWhateverTheirPlace) {
-  Make({"A.CRW", "A.THM", "B.jpg", "B.xmp", "C.jpg"});
-  Select({"B.xmp", "A.CRW", "A.THM", "B.jpg", "C.jpg"});  // the sidecar listed before its picture
-  settings.placeholders = 2;
-  Batch("Set %SERIES%");
-  EXPECT_TRUE(port.messages.empty());
-  EXPECT_EQ(Folder(), (Files{{"Set 01.CRW", "A.CRW"}, {"Set 01.THM", "A.THM"}, {"Set 02.jpg", "B.jpg"},
-                             {"Set 02.xmp", "B.xmp"}, {"Set 03.jpg", "C.jpg"}}));
-  EXPECT_EQ(view.series, "04");
-}
+using FileSetTest = RenameFixture;
 
 // A picture takes its sidecars, a CRW or a Canon clip its thumbnail; a
-// picture's THM is no sidecar of it.
+// picture's THM is no sidecar of it. A batch passes over a companion it
+// lists, even before its file.
 TEST_F(FileSetTest, CompanionsFollowTheirFileSelectedAlone) {
   Make({"IMG_1.CR2", "IMG_1.XMP", "IMG_1.CR2.xmp", "IMG_1.THM", "set1.crw", "set1.thm", "MVI_0001.AVI",
-        "MVI_0001.THM", "B.jpg"});
+        "MVI_0001.THM", "B.jpg", "B.xmp"});
   for (const auto& [file, name] : {std::pair{"IMG_1.CR2", "Trip"}, std::pair{"set1.crw", "one"}}) {
     Select({file});
     view.newName = name;
     core::IndividualRename(context).RenameSelectedFile();
   }
-  Select({"MVI_0001.AVI", "B.jpg"});
+  Select({"B.xmp", "MVI_0001.AVI", "MVI_0001.THM", "B.jpg"});
   Batch("Clip %SERIES%");
   EXPECT_TRUE(port.messages.empty());
+  EXPECT_EQ(view.series, "03");
   EXPECT_EQ(Folder(), (Files{{"Trip.CR2", "IMG_1.CR2"}, {"Trip.XMP", "IMG_1.XMP"}, {"Trip.CR2.xmp", "IMG_1.CR2.xmp"},
                              {"IMG_1.THM", "IMG_1.THM"}, {"one.crw", "set1.crw"}, {"one.thm", "set1.thm"},
-                             {"Clip 01.AVI", "MVI_0001.AVI"}, {"Clip 01.THM", "MVI_0001.THM"}, {"Clip 02.jpg", "B.jpg"}}));
+                             {"Clip 01.AVI", "MVI_0001.AVI"}, {"Clip 01.THM", "MVI_0001.THM"},
+                             {"Clip 02.jpg", "B.jpg"}, {"Clip 02.xmp", "B.xmp"}}));
 }
 
 TEST_F(FileSetTest, FailingCompanionPutsTheSetBack) {

@@ -7,6 +7,7 @@
 
 #include "FakeRenameView.h"
 #include "FakeTokenSource.h"
+#include "core/BatchRename.h"
 #include "core/FileNameRules.h"
 #include "core/RenameContext.h"
 #include "support/FaultyFileSystem.h"
@@ -46,6 +47,12 @@ class RenameFixture : public ::testing::Test {
       platform::RealFileSystem().ReadWholeFile(Path(name), 1 << 20, &files[name]);
     }
     return files;
+  }
+
+  // Runs the batch with `base` in the New Name box.
+  void Batch(const QString& base) {
+    view.newName = base;
+    core::BatchRename(context).StartBatchRename();
   }
 
   // Selects `names` in this order; the first is the current item.
