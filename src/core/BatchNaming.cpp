@@ -67,9 +67,16 @@ BatchNames::BatchNames(const RenameContext& context, const FileRenamer& renamer,
   if (randomSeries) randomCount = NumberedFiles(files, renamer);
   if (withDateSources || MentionsExifToken(base)) context.tokens.ExpectExifValues(renamer.Folder(), files);
   parts_ = std::make_unique<Parts>(context, renamer.Folder(), base, randomCount, std::move(random));
+  // A read before the batch says nothing about the files as they are now.
+  FileIdentity before;
+  context.tokens.TakeReadIdentity(renamer.Folder(), {}, &before);
 }
 
 BatchNames::~BatchNames() = default;
+
+bool BatchNames::AtHand(const platform::FileName& file) const {
+  return context_.tokens.ValuesAtHand(renamer_.Folder(), file);
+}
 
 QString BatchNames::SeriesText() const { return parts_->box.Text(); }
 
@@ -82,6 +89,7 @@ NamedFile BatchNames::Next(const platform::FileName& file) {
     named.newName = parts_->namer.Expand(file, named.unexpanded);
     named.seriesTaken = parts_->namer.SeriesTaken();
     named.messages = parts_->collected.Take();
+    named.identityRead = context_.tokens.TakeReadIdentity(renamer_.Folder(), file, &named.identity);
   }
   // A file whose name uses no date is read only for the preview, which
   // shows no message; the batch must not show one either.

@@ -22,6 +22,10 @@ struct NamedFile {
   bool seriesTaken = false;
   QString seriesAfter;   // the "Next Series #:" box once its number is taken
   QString dateSource;    // asked for only when wanted
+  // The file as the reading of its values found it, when they were read:
+  // the plan's identity without asking the system again.
+  bool identityRead = false;
+  FileIdentity identity;
 };
 
 // Every name of a batch, in list order: the one computation behind both the
@@ -50,6 +54,8 @@ class BatchNames {
   BatchNames& operator=(const BatchNames&) = delete;
 
   NamedFile Next(const platform::FileName& file);
+  // Whether Next(file) would not wait for values still being read.
+  bool AtHand(const platform::FileName& file) const;
   QString SeriesText() const;
 
  private:

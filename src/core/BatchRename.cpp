@@ -7,6 +7,7 @@
 #include "core/BatchBaseCheck.h"
 #include "core/CoreTexts.h"
 #include "core/FileNameRules.h"
+#include "core/PieceRecorder.h"
 #include "core/RecordedOperation.h"
 #include "core/RenameFailureTexts.h"
 #include "core/SeriesCounter.h"
@@ -18,10 +19,14 @@ namespace renvale::core {
 namespace {
 
 constexpr int kBatchTip = 15;
-// Renames recorded in the journal's first piece: few enough that the batch
-// starts renaming at once, enough that the pieces stay few.
+// The least a piece of the journal's plan holds (but the last): few enough
+// that the batch starts renaming at once, enough that the pieces stay few.
 constexpr size_t kFirstPiece = 256;
-constexpr size_t kPieceGrowth = 4;
+// Files named after each rename from values already read: more than the
+// reading gives meanwhile, so the naming keeps up with it.
+constexpr size_t kNamedPerTurn = 4;
+// How far the naming may run ahead of the renames.
+constexpr size_t kMostAhead = 8192;
 // Told when the person stops at a duplicate-name warning: the moment they
 // look for a way to make every name unique.
 constexpr int kUniqueNamesTip = 21;
@@ -134,60 +139,123 @@ BatchRename::Ending BatchRename::RenameAll(const QString& base, const BatchNamin
   return ending;
 }
 
-// Each file is named shortly before its turn, so the files are read ahead
-// while earlier ones are renamed. A file whose new name a selected file
-// not renamed yet still holds waits, and so does any file that needs the
-// name of a waiting one; the waiting files go last, in the planner's order.
-//
-// Where a journal keeps the plan, the files are named a piece ahead of
-// their turns and each piece's renames are recorded before the first of
-// them is taken: one flush per piece, pieces growing four times as long
-// each time (four pieces for 20,000 files), and the reading of the next
-// piece goes on during the renames of this one.
-BatchRename::Ending BatchRename::RenameAsNamed(const std::vector<platform::FileName>& files, const QString& base,
-                                               FileRenamer& renamer, RecordedOperation* recorded,
-                                               QString* lastNewName) {
-  BatchNames names(context_, renamer, files, base, context_.view.RandomSeries(), false, random_);
-  FoldedNames held(files.size());
-  for (const platform::FileName& file : files) held.insert(file.raw);
-  BatchNaming waiting{renamer.Folder(), base, {}, {}, {}};
-  std::vector<NamedFile> piece;  // named, waiting for its piece to be recorded
-  std::deque<NamedFile> ready;   // recorded, waiting for its turn
-  size_t next = 0;               // files named so far
-  size_t pieceSize = recorded != nullptr ? kFirstPiece : 1;
-  const auto nameNext = [&] {
-    NamedFile named = names.Next(files[next++]);
+// Names the files of a batch in list order and sorts out the ones that must
+// wait: a file whose new name a selected file not named yet still holds
+// waits, and so does any file that needs the name of a waiting one.
+class BatchRename::Naming {
+ public:
+  Naming(const RenameContext& context, FileRenamer& renamer, const std::vector<platform::FileName>& files,
+         const QString& base, RandomSeriesPool::RandomSource& random)
+      : renamer_(renamer),
+        files_(files),
+        names_(context, renamer, files, base, context.view.RandomSeries(), false, random),
+        held_(files.size()),
+        waiting_{renamer.Folder(), base, {}, {}, {}} {
+    for (const platform::FileName& file : files) held_.insert(file.raw);
+  }
+
+  bool More() const { return next_ < files_.size(); }
+  // The next file can be named without waiting for its values.
+  bool AtHand() const { return More() && names_.AtHand(files_[next_]); }
+
+  // Names the next file; it joins `piece` unless it must wait.
+  void Next(std::vector<NamedFile>* piece) {
+    NamedFile named = names_.Next(files_[next_++]);
     // A file that goes with its picture holds its name for good: it moves
     // when its picture does, which may be among the waiting files.
     if (!named.travels) {
-      if (const auto own = held.find(named.file.raw); own != held.end()) held.erase(own);
-      if (MustWait(named, held, renamer)) {
-        held.insert(named.file.raw);
-        waiting.files.push_back(std::move(named));
+      if (const auto own = held_.find(named.file.raw); own != held_.end()) held_.erase(own);
+      if (MustWait(named)) {
+        held_.insert(named.file.raw);
+        waiting_.files.push_back(std::move(named));
         return;
       }
     }
-    piece.push_back(std::move(named));
+    piece->push_back(std::move(named));
+  }
+
+  BatchNaming& Waiting() { return waiting_; }
+  QString SeriesText() const { return names_.SeriesText(); }
+
+ private:
+  bool MustWait(const NamedFile& named) const {
+    if (named.newName == named.file.Display()) return false;
+    const QByteArray target = platform::FileName::TextToName(named.newName);
+    if (held_.count(target) != 0) return true;
+    for (const NamePair& companion : renamer_.Sets().Companions(named.file.raw, target)) {
+      if (held_.count(companion.to) != 0) return true;
+    }
+    return false;
+  }
+
+  const FileRenamer& renamer_;
+  const std::vector<platform::FileName>& files_;
+  BatchNames names_;
+  FoldedNames held_;
+  BatchNaming waiting_;
+  size_t next_ = 0;
+};
+
+// Each file is named shortly before its turn, so the files are read ahead
+// while earlier ones are renamed; the waiting files go last, in the
+// planner's order.
+BatchRename::Ending BatchRename::RenameAsNamed(const std::vector<platform::FileName>& files, const QString& base,
+                                               FileRenamer& renamer, RecordedOperation* recorded,
+                                               QString* lastNewName) {
+  Naming naming(context_, renamer, files, base, random_);
+  const Ending ending = recorded != nullptr ? RenameRecorded(naming, renamer, *recorded, lastNewName)
+                                            : RenameUnrecorded(naming, renamer, lastNewName);
+  if (ending == Ending::Stopped) return ending;
+  finalSeries_ = naming.SeriesText();
+  return RenamePlanned(naming.Waiting(), renamer, recorded, lastNewName);
+}
+
+BatchRename::Ending BatchRename::RenameUnrecorded(Naming& naming, FileRenamer& renamer, QString* lastNewName) {
+  std::vector<NamedFile> named;
+  while (naming.More()) {
+    naming.Next(&named);
+    if (!named.empty() && TakeTurn({}, named.front(), renamer, lastNewName) == Step::Stop) return Ending::Stopped;
+    named.clear();
+  }
+  return Ending::Finished;
+}
+
+// Where a journal keeps the plan, the files are named ahead of their turns
+// and each piece's renames are recorded before the first of them is
+// taken: one flush per piece, never one per file. While one piece goes to
+// the disk the one before it is renamed and the next one is named from
+// the values already read, so that neither the renames wait for the flush
+// nor the naming for the reading, as long as either can be helped.
+BatchRename::Ending BatchRename::RenameRecorded(Naming& naming, FileRenamer& renamer, RecordedOperation& recorded,
+                                                QString* lastNewName) {
+  PieceRecorder pieces(recorded);
+  std::vector<NamedFile> piece;   // named, not handed over yet
+  std::vector<NamedFile> flying;  // handed over, not durable yet
+  std::deque<NamedFile> ready;    // durable, waiting for its turn
+  const auto handOver = [&] {
+    pieces.Submit(DescribePiece(piece, renamer));
+    flying = std::move(piece);
+    piece.clear();
   };
-  while (next < files.size() || !piece.empty() || !ready.empty()) {
-    if (ready.empty()) {
-      while (piece.size() < pieceSize && next < files.size()) nameNext();
-      if (recorded != nullptr && Record(DescribePiece(piece, renamer), *recorded) == Step::Stop) return Ending::Stopped;
-      ready.insert(ready.end(), std::make_move_iterator(piece.begin()), std::make_move_iterator(piece.end()));
-      piece.clear();
-      if (recorded != nullptr) pieceSize *= kPieceGrowth;
+  for (;;) {
+    if (!ready.empty()) {
+      if (TakeTurn({}, ready.front(), renamer, lastNewName) == Step::Stop) return Ending::Stopped;
+      ready.pop_front();
+      for (size_t i = 0; i < kNamedPerTurn && piece.size() < kMostAhead && naming.AtHand(); ++i) naming.Next(&piece);
+      if (!pieces.InFlight() && piece.size() >= kFirstPiece) handOver();
       continue;
     }
-    if (TakeTurn({}, ready.front(), renamer, lastNewName) == Step::Stop) return Ending::Stopped;
-    ready.pop_front();
-    // The next piece is named by the time this one is renamed.
-    for (size_t i = 0; recorded != nullptr && i < kPieceGrowth && piece.size() < pieceSize && next < files.size();
-         ++i) {
-      nameNext();
+    if (pieces.InFlight()) {
+      while (!pieces.Settled() && piece.size() < kMostAhead && naming.More()) naming.Next(&piece);
+      if (pieces.Wait() != 0) return NotKept(recorded);
+      ready.insert(ready.end(), std::make_move_iterator(flying.begin()), std::make_move_iterator(flying.end()));
+      flying.clear();
+      continue;
     }
+    while (piece.size() < kFirstPiece && naming.More()) naming.Next(&piece);
+    if (piece.empty()) return Ending::Finished;
+    handOver();
   }
-  finalSeries_ = names.SeriesText();
-  return RenamePlanned(waiting, renamer, recorded, lastNewName);
 }
 
 // The renames of files that take their turns in list order, with no
@@ -196,27 +264,17 @@ std::vector<PlanStep> BatchRename::DescribePiece(const std::vector<NamedFile>& p
   OperationPlan plan;
   for (const NamedFile& named : piece) {
     if (named.travels || named.newName == named.file.Display()) continue;
-    renamer.DescribeRename(named.file.raw, platform::FileName::TextToName(named.newName), &plan);
+    renamer.DescribeRename(named.file.raw, platform::FileName::TextToName(named.newName), &plan,
+                           named.identityRead ? &named.identity : nullptr);
   }
   return std::move(plan.steps);
 }
 
 // A plan that cannot be kept stops the batch before any of its steps.
-BatchRename::Step BatchRename::Record(const std::vector<PlanStep>& steps, RecordedOperation& recorded) {
-  if (recorded.Add(steps) == 0) return Step::Next;
+BatchRename::Ending BatchRename::NotKept(const RecordedOperation& recorded) {
   context_.messages.Notify(texts::kPlanNotKept.arg(platform::ErrorDescription(recorded.Error())),
                            platform::MessageIcon::Critical);
-  return Step::Stop;
-}
-
-bool BatchRename::MustWait(const NamedFile& named, const FoldedNames& held, const FileRenamer& renamer) const {
-  if (named.newName == named.file.Display()) return false;
-  const QByteArray target = platform::FileName::TextToName(named.newName);
-  if (held.count(target) != 0) return true;
-  for (const NamePair& companion : renamer.Sets().Companions(named.file.raw, target)) {
-    if (held.count(companion.to) != 0) return true;
-  }
-  return false;
+  return Ending::Stopped;
 }
 
 
@@ -242,9 +300,7 @@ std::vector<PlannedTurn> BatchRename::Turns(const BatchNaming& naming, FileRenam
 BatchRename::Ending BatchRename::RenamePlanned(const BatchNaming& naming, FileRenamer& renamer,
                                                RecordedOperation* recorded, QString* lastNewName) {
   const std::vector<PlannedTurn> turns = Turns(naming, renamer);
-  if (recorded != nullptr && Record(Plan(turns, naming, renamer).steps, *recorded) == Step::Stop) {
-    return Ending::Stopped;
-  }
+  if (recorded != nullptr && recorded->Add(Plan(turns, naming, renamer).steps) != 0) return NotKept(*recorded);
   for (const PlannedTurn& turn : turns) {
     if (TakeTurn(turn.asides, naming.files[turn.file], renamer, lastNewName) == Step::Stop) return Ending::Stopped;
   }

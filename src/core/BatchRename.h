@@ -47,11 +47,13 @@ class BatchRename {
   bool StillValid(const BatchNaming& prepared, const QString& base,
                   const std::vector<platform::FileName>& files) const;
   Ending RenameAll(const QString& base, const BatchNaming* prepared, QString* lastNewName);
+  class Naming;
   Ending RenameAsNamed(const std::vector<platform::FileName>& files, const QString& base, FileRenamer& renamer,
                        RecordedOperation* recorded, QString* lastNewName);
+  Ending RenameUnrecorded(Naming& naming, FileRenamer& renamer, QString* lastNewName);
+  Ending RenameRecorded(Naming& naming, FileRenamer& renamer, RecordedOperation& recorded, QString* lastNewName);
   std::vector<PlanStep> DescribePiece(const std::vector<NamedFile>& piece, FileRenamer& renamer) const;
-  Step Record(const std::vector<PlanStep>& steps, RecordedOperation& recorded);
-  bool MustWait(const NamedFile& named, const FoldedNames& held, const FileRenamer& renamer) const;
+  Ending NotKept(const RecordedOperation& recorded);
   Ending RenamePlanned(const BatchNaming& naming, FileRenamer& renamer, RecordedOperation* recorded,
                        QString* lastNewName);
   std::vector<PlannedTurn> Turns(const BatchNaming& naming, FileRenamer& renamer) const;

@@ -56,13 +56,23 @@ int FileRenamer::CheckCompanionTargets(const QByteArray& oldName, const QByteArr
   return error;
 }
 
-void FileRenamer::DescribeRename(const QByteArray& oldName, const QByteArray& newName, OperationPlan* plan) {
+void FileRenamer::DescribeRename(const QByteArray& oldName, const QByteArray& newName, OperationPlan* plan,
+                                 const FileIdentity* known) {
   if (stableNumbers_ < 0) stableNumbers_ = platform::FileNumbersStable(folder_) ? 1 : 0;
-  std::vector<NamePair> pairs{NamePair{oldName, newName}};
-  for (const NamePair& companion : finder_.Companions(oldName, newName)) pairs.push_back(companion);
-  for (const NamePair& pair : pairs) {
-    plan->steps.push_back(PlanStep{StepKind::Rename, folder_ + pair.from, folder_ + pair.to,
-                                   IdentityOf(context_.fs, folder_ + pair.from, stableNumbers_ == 1)});
+  const bool stable = stableNumbers_ == 1;
+  QByteArray from = folder_ + oldName;
+  FileIdentity identity;
+  if (known != nullptr) {
+    identity = *known;
+    identity.inodeStable = stable;
+  } else {
+    identity = IdentityOf(context_.fs, from, stable);
+  }
+  plan->steps.push_back(PlanStep{StepKind::Rename, std::move(from), folder_ + newName, identity});
+  for (const NamePair& pair : finder_.Companions(oldName, newName)) {
+    QByteArray path = folder_ + pair.from;
+    identity = IdentityOf(context_.fs, path, stable);
+    plan->steps.push_back(PlanStep{StepKind::Rename, std::move(path), folder_ + pair.to, identity});
   }
 }
 

@@ -36,7 +36,10 @@ class FileRenamer {
 
   // Adds to `plan` the steps RenameFile(oldName, newName) would take, the
   // companions of a set included, each with its file's identity now.
-  void DescribeRename(const QByteArray& oldName, const QByteArray& newName, OperationPlan* plan);
+  // `known`, when given, is the identity of `oldName` as a read of it has
+  // just found it, and saves asking the system again.
+  void DescribeRename(const QByteArray& oldName, const QByteArray& newName, OperationPlan* plan,
+                      const FileIdentity* known = nullptr);
 
   // Removes a file of the folder that the caller has deleted.
   void Forget(const QByteArray& name) { index_.Remove(name); }

@@ -19,6 +19,9 @@ class OperationRecorder {
   // them before taking the first; on an error it takes none of them.
   virtual int Extend(const std::vector<PlanStep>& steps) = 0;
   virtual void End() = 0;
+  // True when Begin and Extend may run on a second thread while the
+  // operation changes files on the first (never two calls at once).
+  virtual bool WritesFromAnyThread() const { return false; }
 };
 
 }  // namespace renvale::core

@@ -23,6 +23,9 @@ class RecordedOperation {
   // error, after which none of them may be taken.
   int Add(const std::vector<PlanStep>& steps);
 
+  // Whether Add may run on a second thread (see OperationRecorder).
+  bool FromAnyThread() const { return recorder_ != nullptr && recorder_->WritesFromAnyThread(); }
+
  private:
   OperationRecorder* recorder_;
   OperationPlan start_;  // the plan's kind, folder and time, until it begins

@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <vector>
 
+#include "core/OperationPlan.h"
 #include "core/TokenExpansion.h"
 #include "platform/FileName.h"
 
@@ -46,6 +47,22 @@ class TokenSource {
   // A file of the folder is about to be replaced by another, so values read
   // ahead of their turn may no longer be the file's.
   virtual void FileReplaced() {}
+  // False while the values of `file` are still being read ahead: asking
+  // for them now would wait for that reading.
+  virtual bool ValuesAtHand(const QByteArray& folder, const platform::FileName& file) {
+    (void)folder;
+    (void)file;
+    return true;
+  }
+  // The identity of `file` as a read of its values since the last call saw
+  // it (the open file's own); false when no such read was made. Every call
+  // forgets what was read before it.
+  virtual bool TakeReadIdentity(const QByteArray& folder, const platform::FileName& file, FileIdentity* identity) {
+    (void)folder;
+    (void)file;
+    (void)identity;
+    return false;
+  }
 
   // While `sink` is set, a message that reading values would show ("EXIF
   // Error: ...") is added to it instead: a batch works out every name before

@@ -37,6 +37,7 @@ class Journal : public core::OperationRecorder {
   int Begin(const core::OperationPlan& plan) override;
   int Extend(const std::vector<core::PlanStep>& steps) override;
   void End() override;
+  bool WritesFromAnyThread() const override { return fs_.WritableFromAnyThread(); }
 
   // Every journal, newest first. One that cannot be read (cut short,
   // changed, or of a newer version) is moved to "damaged/" and told about

@@ -44,18 +44,40 @@ QString MetadataTokenSource::ExifValue(const QByteArray& folder, const platform:
 metadata::ExifTokenValues MetadataTokenSource::ReadValues(const QByteArray& folder, const platform::FileName& file) {
   metadata::ExifReadAhead::Result ahead;
   if (readAhead_ == nullptr || !readAhead_->Take(folder, file.raw, Formats(), &ahead)) {
-    ahead.values = metadata::ReadExifTokenValuesQuietly(fs_, folder, file.raw, Formats(), &ahead.errorMessage);
+    ahead.values = metadata::ReadExifTokenValuesQuietly(fs_, folder, file.raw, Formats(), &ahead.errorMessage,
+                                                        &ahead.identity, &ahead.identityKnown);
   }
   if (!ahead.errorMessage.isEmpty()) Show(ahead.errorMessage);
+  identityPath_.clear();
+  if (ahead.identityKnown && !ahead.identity.isDir) {
+    identityPath_ = cachedPath_;
+    identity_ = {ahead.identity.size, ahead.identity.modifiedNs, ahead.identity.device, ahead.identity.inode, true};
+  }
   return ahead.values;
 }
 
 void MetadataTokenSource::ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files) {
+  identityPath_.clear();
   if (!fs_.ReadableFromAnyThread()) return;
   std::vector<QByteArray> names;
   names.reserve(files.size());
   for (const platform::FileName& file : files) names.push_back(file.raw);
   readAhead_ = std::make_unique<metadata::ExifReadAhead>(fs_, folder, names, Formats());
+  readAheadFolder_ = folder;
+}
+
+bool MetadataTokenSource::ValuesAtHand(const QByteArray& folder, const platform::FileName& file) {
+  return readAhead_ == nullptr || folder != readAheadFolder_ || readAhead_->Ready(file.raw);
+}
+
+// Only the read made since the last call counts: values kept from an
+// earlier one may describe a file that has changed since.
+bool MetadataTokenSource::TakeReadIdentity(const QByteArray& folder, const platform::FileName& file,
+                                           core::FileIdentity* identity) {
+  const bool found = !identityPath_.isEmpty() && identityPath_ == platform::JoinPath(folder, file.raw);
+  identityPath_.clear();
+  if (found) *identity = identity_;
+  return found;
 }
 
 void MetadataTokenSource::FileReplaced() {

@@ -30,6 +30,8 @@ class MetadataTokenSource : public core::TokenSource {
   core::Id3Values Id3(const QByteArray& folder, const platform::FileName& file) override;
   void ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files) override;
   void FileReplaced() override;
+  bool ValuesAtHand(const QByteArray& folder, const platform::FileName& file) override;
+  bool TakeReadIdentity(const QByteArray& folder, const platform::FileName& file, core::FileIdentity* identity) override;
   void CollectMessages(QStringList* sink) override { sink_ = sink; }
   QString DateSourceText(const QByteArray& folder, const platform::FileName& file) override;
 
@@ -45,6 +47,10 @@ class MetadataTokenSource : public core::TokenSource {
   QByteArray cachedPath_;
   metadata::ExifTokenValues cached_;
   std::unique_ptr<metadata::ExifReadAhead> readAhead_;
+  // The identity the last read of this batch found, until handed out.
+  QByteArray identityPath_;
+  core::FileIdentity identity_;
+  QByteArray readAheadFolder_;
   QStringList* sink_ = nullptr;
 };
 

@@ -32,7 +32,8 @@ void ExifReadAhead::Work(const std::stop_token& stop) {
       if (dropped_) return;
     }
     Result result;
-    result.values = ReadExifTokenValuesQuietly(fs_, folder_, names_[i], formats_, &result.errorMessage);
+    result.values = ReadExifTokenValuesQuietly(fs_, folder_, names_[i], formats_, &result.errorMessage,
+                                               &result.identity, &result.identityKnown);
     const std::lock_guard<std::mutex> hold(lock_);
     results_[i] = std::move(result);
     read_ = at + 1;
@@ -57,6 +58,13 @@ bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, co
   taken_[static_cast<size_t>(at)] = true;
   *out = std::move(results_[static_cast<size_t>(at)]);
   return true;
+}
+
+bool ExifReadAhead::Ready(const QByteArray& rawName) {
+  const auto found = positions_.constFind(rawName);
+  if (found == positions_.cend()) return true;
+  const std::lock_guard<std::mutex> hold(lock_);
+  return dropped_ || read_ > *found;
 }
 
 void ExifReadAhead::Drop() {

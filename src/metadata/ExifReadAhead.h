@@ -9,10 +9,7 @@
 #include <vector>
 
 #include "metadata/ExifValues.h"
-
-namespace renvale::platform {
-class FileSystem;
-}
+#include "platform/FileSystem.h"
 
 namespace renvale::metadata {
 
@@ -31,6 +28,9 @@ class ExifReadAhead {
   struct Result {
     ExifTokenValues values;
     QString errorMessage;  // empty, or the text to show for this file
+    // The file as the read opened it, where it did.
+    bool identityKnown = false;
+    platform::FileInfo identity;
   };
 
   // `fs` must be readable from any thread. Starts reading at once.
@@ -46,6 +46,8 @@ class ExifReadAhead {
   // with those formats, or reading ahead was dropped: read it now instead.
   // Each file's values are handed out once.
   bool Take(const QByteArray& folder, const QByteArray& rawName, const ExifDateFormats& formats, Result* out);
+  // False while Take(rawName) would wait for the reader.
+  bool Ready(const QByteArray& rawName);
 
   // Files of the folder are about to change: nothing read ahead is used any
   // more, and the reader stops.

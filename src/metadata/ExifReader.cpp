@@ -16,6 +16,7 @@ namespace renvale::metadata {
 void ExifReader::Reset() {
   tags_.Clear();
   status_.clear();
+  opened_ = false;
 }
 
 void ExifReader::Load(platform::FileSystem& fs, const QByteArray& path) {
@@ -30,6 +31,7 @@ void ExifReader::Load(platform::FileSystem& fs, const QByteArray& path) {
     SetSystemError(ExifTexts::kCannotOpen, error);
     return;
   }
+  opened_ = file->Identity(&identity_);
   FileByteSource source(*file);
   LoadFrom(source);
 }

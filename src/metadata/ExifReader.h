@@ -4,10 +4,7 @@
 #include <QString>
 
 #include "metadata/ExifTagSet.h"
-
-namespace renvale::platform {
-class FileSystem;
-}
+#include "platform/FileSystem.h"
 
 namespace renvale::metadata {
 
@@ -27,6 +24,12 @@ class ExifReader {
   // Empty after a good load; ends in "not found." when the file has no EXIF;
   // any other text when the file is damaged or unreadable.
   QString Status() const;
+  // The file the last Load opened, as it found it; false when it opened
+  // none or the system did not tell.
+  bool OpenedIdentity(platform::FileInfo* info) const {
+    if (opened_) *info = identity_;
+    return opened_;
+  }
 
  private:
   void Reset();
@@ -35,6 +38,8 @@ class ExifReader {
 
   ExifTagSet tags_;
   QString status_;
+  platform::FileInfo identity_;
+  bool opened_ = false;
 };
 
 }  // namespace renvale::metadata

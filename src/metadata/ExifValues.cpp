@@ -16,9 +16,12 @@ struct FileTags {
   QString serial;
 };
 
-bool ReadTagsQuietly(platform::FileSystem& fs, const QByteArray& path, FileTags* tags, QString* errorMessage) {
+bool ReadTagsQuietly(platform::FileSystem& fs, const QByteArray& path, FileTags* tags, QString* errorMessage,
+                     platform::FileInfo* identity = nullptr, bool* identityKnown = nullptr) {
   ExifReader reader;
-  if (!LoadExifQuietly(reader, fs, path, errorMessage)) return false;
+  const bool loaded = LoadExifQuietly(reader, fs, path, errorMessage);
+  if (identityKnown != nullptr) *identityKnown = reader.OpenedIdentity(identity);
+  if (!loaded) return false;
   tags->dateTimeOriginal = reader.Tag(texts::kTagDateTimeOriginal);
   tags->serial = reader.Tag(texts::kTagImageNumber);
   return true;
@@ -70,10 +73,13 @@ ExifTokenValues ReadExifTokenValues(const ExifFile& file, const ExifDateFormats&
 
 ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, const QByteArray& folder,
                                            const QByteArray& rawName, const ExifDateFormats& formats,
-                                           QString* errorMessage) {
+                                           QString* errorMessage, platform::FileInfo* identity,
+                                           bool* identityKnown) {
   FileTags tags;
   ExifTokenValues values;
-  if (!ReadTagsQuietly(fs, platform::JoinPath(folder, rawName), &tags, errorMessage)) return values;
+  if (!ReadTagsQuietly(fs, platform::JoinPath(folder, rawName), &tags, errorMessage, identity, identityKnown)) {
+    return values;
+  }
   values.ok = true;
   values.serial = tags.serial;
   const DatedExposure dated = DatedExposureTime(fs, folder, rawName, tags.dateTimeOriginal);

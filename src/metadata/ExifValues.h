@@ -8,6 +8,7 @@
 namespace renvale::platform {
 class FileSystem;
 class MessagePort;
+struct FileInfo;
 }  // namespace renvale::platform
 
 namespace renvale::metadata {
@@ -52,10 +53,12 @@ struct ExifTokenValues {
 };
 ExifTokenValues ReadExifTokenValues(const ExifFile& file, const ExifDateFormats& formats);
 // The same without showing anything: a reader error's text ("EXIF Error: "
-// + status) goes to `errorMessage`.
+// + status) goes to `errorMessage`. `identityKnown`, when given, tells
+// whether `identity` got the file as the read opened it.
 ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, const QByteArray& folder,
                                            const QByteArray& rawName, const ExifDateFormats& formats,
-                                           QString* errorMessage);
+                                           QString* errorMessage, platform::FileInfo* identity = nullptr,
+                                           bool* identityKnown = nullptr);
 
 QString ExifInsertValue(const ExifFile& file, int form, bool batchMode,
                         const ExifDateFormats& formats);

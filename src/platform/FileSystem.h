@@ -35,6 +35,12 @@ class ReadableFile {
   // Reads up to `length` bytes at `offset` into `buffer`; returns the count
   // read (0 at or past the end) or -1 on error.
   virtual qint64 ReadAt(qint64 offset, char* buffer, qint64 length) = 0;
+  // The file as its opening found it (isDir, size, modifiedNs, device and
+  // inode, as StatIdentity gives them); false where that is not known.
+  virtual bool Identity(FileInfo* info) const {
+    (void)info;
+    return false;
+  }
 };
 
 // The one door to the file system. Paths are raw bytes. Every call returns
@@ -85,6 +91,9 @@ class FileSystem {
   // True when files may be opened, read and stat'ed from a second thread
   // while this one renames. Fakes that keep plain bookkeeping say no.
   virtual bool ReadableFromAnyThread() const { return false; }
+  // True when a second thread may also write, rename and flush files while
+  // this one renames.
+  virtual bool WritableFromAnyThread() const { return false; }
   // Writes a whole file (creating or truncating it), flushed before success.
   virtual int WriteWholeFile(const QByteArray& path, const QByteArray& contents) = 0;
   virtual int ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) = 0;

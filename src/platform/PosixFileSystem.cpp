@@ -25,18 +25,27 @@ static_assert(kNoContents == kErrnoBase + ENODEV);
 
 // Opens a file's contents without ever waiting: open() on a named pipe
 // waits for a writer that may never come, and a device or a socket has no
-// contents to read. Only a regular file is left open, back in blocking mode.
-int OpenRegularFile(const QByteArray& path, UniqueFd* fd) {
+// contents to read. Only a regular file is left open. It stays in
+// non-blocking mode: Linux ignores that flag for a regular file's reads
+// (open(2)), and clearing it would cost two calls on every file a batch reads.
+// `st` gets the file's status as found at the opening.
+int OpenRegularFile(const QByteArray& path, UniqueFd* fd, struct stat* st) {
   UniqueFd opened(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
   if (!opened.valid()) return errno == ENXIO ? kNoContents : ErrorNumberFromErrno(errno);
-  struct stat st;
-  if (::fstat(opened.get(), &st) != 0) return ErrorNumberFromErrno(errno);
-  if (S_ISDIR(st.st_mode)) return ErrorNumberFromErrno(EISDIR);
-  if (!S_ISREG(st.st_mode)) return kNoContents;
-  const int flags = ::fcntl(opened.get(), F_GETFL);
-  if (flags < 0 || ::fcntl(opened.get(), F_SETFL, flags & ~O_NONBLOCK) != 0) return ErrorNumberFromErrno(errno);
+  if (::fstat(opened.get(), st) != 0) return ErrorNumberFromErrno(errno);
+  if (S_ISDIR(st->st_mode)) return ErrorNumberFromErrno(EISDIR);
+  if (!S_ISREG(st->st_mode)) return kNoContents;
   *fd = std::move(opened);
   return kNoError;
+}
+
+// What StatIdentity tells of a file.
+void FillIdentity(const struct stat& st, FileInfo* info) {
+  info->isDir = S_ISDIR(st.st_mode);
+  info->size = st.st_size;
+  info->modifiedNs = static_cast<qint64>(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
+  info->device = st.st_dev;
+  info->inode = st.st_ino;
 }
 
 bool IsDotOrDotDot(const char* name) {
@@ -177,11 +186,7 @@ int PosixFileSystem::StatIdentity(const QByteArray& path, FileInfo* info) {
   *info = FileInfo{};
   struct stat st;
   if (::stat(path.constData(), &st) != 0) return ErrorNumberFromErrno(errno);
-  info->isDir = S_ISDIR(st.st_mode);
-  info->size = st.st_size;
-  info->modifiedNs = static_cast<qint64>(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
-  info->device = st.st_dev;
-  info->inode = st.st_ino;
+  FillIdentity(st, info);
   return kNoError;
 }
 
@@ -239,8 +244,11 @@ int PosixFileSystem::MoveToTrash(const QByteArray& path) { return MoveFileToTras
 int PosixFileSystem::OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) {
   file->reset();
   UniqueFd fd;
-  if (const int err = OpenRegularFile(path, &fd); err != kNoError) return err;
-  *file = std::make_unique<PosixReadableFile>(std::move(fd));
+  struct stat st;
+  if (const int err = OpenRegularFile(path, &fd, &st); err != kNoError) return err;
+  FileInfo identity;
+  FillIdentity(st, &identity);
+  *file = std::make_unique<PosixReadableFile>(std::move(fd), identity);
   return kNoError;
 }
 
@@ -275,7 +283,8 @@ int PosixFileSystem::FlushFolder(const QByteArray& folder) {
 int PosixFileSystem::ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByteArray* contents) {
   contents->clear();
   UniqueFd fd;
-  if (const int err = OpenRegularFile(path, &fd); err != kNoError) return err;
+  struct stat st;
+  if (const int err = OpenRegularFile(path, &fd, &st); err != kNoError) return err;
   const int err = ReadToEnd(fd.get(), maxBytes, contents);
   if (err != 0) contents->clear();
   return ErrorNumberFromErrno(err);

@@ -25,6 +25,7 @@ class PosixFileSystem : public FileSystem {
 
   int OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) override;
   bool ReadableFromAnyThread() const override { return true; }
+  bool WritableFromAnyThread() const override { return true; }
   int WriteWholeFile(const QByteArray& path, const QByteArray& contents) override;
   int AppendToFile(const QByteArray& path, const QByteArray& contents) override;
   int FlushFolder(const QByteArray& folder) override;

@@ -15,6 +15,11 @@ qint64 PosixReadableFile::Size() const {
   return size_;
 }
 
+bool PosixReadableFile::Identity(FileInfo* info) const {
+  if (identityKnown_) *info = identity_;
+  return identityKnown_;
+}
+
 qint64 PosixReadableFile::ReadAt(qint64 offset, char* buffer, qint64 length) {
   if (offset < 0 || length < 0) return -1;
   // Once the size is taken, a file that grew since is not read past it, so

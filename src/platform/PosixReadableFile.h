@@ -14,15 +14,22 @@ namespace renvale::platform {
 class PosixReadableFile : public ReadableFile {
  public:
   explicit PosixReadableFile(UniqueFd fd) : fd_(std::move(fd)) {}
+  // A file whose opening has asked its status already: the size is known
+  // and the file tells who it is without another call.
+  PosixReadableFile(UniqueFd fd, const FileInfo& identity)
+      : fd_(std::move(fd)), size_(identity.size), identity_(identity), identityKnown_(true) {}
 
   qint64 Size() const override;
   qint64 ReadAt(qint64 offset, char* buffer, qint64 length) override;
+  bool Identity(FileInfo* info) const override;
 
  private:
   static constexpr qint64 kUnknown = -2;
 
   UniqueFd fd_;
   mutable qint64 size_ = kUnknown;
+  FileInfo identity_;
+  bool identityKnown_ = false;
 };
 
 }  // namespace renvale::platform

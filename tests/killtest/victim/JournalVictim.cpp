@@ -1,7 +1,10 @@
 // Renames every file of the folder given as its first argument from
 // "f0000.dat" to "g0000.dat", and so on, journaled into the folder given as
 // its second: by search and replace ("f" becomes "g"), or with a third
-// argument "batch" by the batch rename with the base "g%SERIES%". Writes one byte to stdout once the plan is kept, just before the
+// argument "batch" by the batch rename with the base "g%SERIAL%%SERIES%":
+// the files hold no EXIF, so the serial number is empty, but they are read
+// ahead as pictures are and the plan takes their identities from those
+// reads. Writes one byte to stdout once the plan is kept, just before the
 // first rename, so that the parent's kills land inside the renames.
 
 #include <unistd.h>
@@ -10,6 +13,7 @@
 
 #include "core/BatchRename.h"
 #include "fileops/Journal.h"
+#include "fileops/MetadataTokenSource.h"
 #include "fileops/SearchReplace.h"
 #include "fileops/SilentSearchReplaceView.h"
 #include "rename/FakeRenameView.h"
@@ -45,12 +49,14 @@ int main(int argc, char** argv) {
   settings.placeholders = 4;
   test::FakeRenameView view(fs, session);
   for (const QByteArray& name : names) view.selected.push_back(platform::FileName{name});
-  test::FakeTokenSource tokens;
+  test::FakeTokenSource fakeTokens;
   test::ScriptedMessagePort port;
+  fileops::MetadataTokenSource fileTokens(fs, port, settings);
+  core::TokenSource& tokens = argc == 4 ? static_cast<core::TokenSource&>(fileTokens) : fakeTokens;
   SignallingJournal journal(fs, QByteArray(argv[2]) + '/', port);
   const core::RenameContext context{session, settings, view, port, fs, tokens, &journal};
   if (argc == 4) {
-    view.newName = QStringLiteral("g%SERIES%");
+    view.newName = QStringLiteral("g%SERIAL%%SERIES%");
     view.series = QStringLiteral("0");
     session.SelectedFileName = view.selected.front();
     session.SelectedExt = QStringLiteral(".dat");

@@ -1,0 +1,37 @@
+#include "core/PieceRecorder.h"
+
+#include <chrono>
+
+namespace renvale::core {
+
+PieceRecorder::PieceRecorder(RecordedOperation& recorded)
+    : recorded_(recorded), background_(recorded.FromAnyThread()) {}
+
+PieceRecorder::~PieceRecorder() {
+  if (inFlight_) Wait();
+}
+
+void PieceRecorder::Submit(std::vector<PlanStep> steps) {
+  inFlight_ = true;
+  if (!background_) {
+    result_ = recorded_.Add(steps);
+    return;
+  }
+  // Nothing else touches the recorder until Wait: the future's hand-over
+  // orders the writes before the renames that rely on them.
+  pending_ = std::async(std::launch::async,
+                        [this, piece = std::move(steps)] { return recorded_.Add(piece); });
+}
+
+bool PieceRecorder::Settled() const {
+  return !inFlight_ || !background_ ||
+         pending_.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+}
+
+int PieceRecorder::Wait() {
+  if (!inFlight_) return recorded_.Error();
+  inFlight_ = false;
+  return background_ ? pending_.get() : result_;
+}
+
+}  // namespace renvale::core

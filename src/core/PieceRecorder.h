@@ -1,0 +1,42 @@
+#pragma once
+
+#include <future>
+#include <vector>
+
+#include "core/RecordedOperation.h"
+
+namespace renvale::core {
+
+// Makes a batch's plan durable one piece at a time. Where the recorder may
+// write from a second thread, a piece goes to the disk there while the
+// renames of the piece before it go on: the flush is the slow part of a
+// journal, and it then costs the batch nothing unless the renames catch up
+// with it. Otherwise a piece is written as it is handed over. One piece is
+// in flight at a time, and none of its steps may be taken before Wait() has
+// returned 0 for it.
+class PieceRecorder {
+ public:
+  explicit PieceRecorder(RecordedOperation& recorded);
+  // Waits for the piece in flight: the recorder is not left writing.
+  ~PieceRecorder();
+  PieceRecorder(const PieceRecorder&) = delete;
+  PieceRecorder& operator=(const PieceRecorder&) = delete;
+
+  // Starts keeping `steps`; the piece before must have been waited for.
+  void Submit(std::vector<PlanStep> steps);
+  bool InFlight() const { return inFlight_; }
+  // True once Wait would not block.
+  bool Settled() const;
+  // 0 once the piece in flight is durable, else the error (and then none
+  // of its steps may be taken).
+  int Wait();
+
+ private:
+  RecordedOperation& recorded_;
+  const bool background_;
+  bool inFlight_ = false;
+  int result_ = 0;  // of a piece written as it was handed over
+  std::future<int> pending_;
+};
+
+}  // namespace renvale::core
