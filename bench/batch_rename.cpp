@@ -34,6 +34,7 @@
 #include "platform/QtSettingsStorage.h"
 #include "shell/FileListModel.h"
 #include "shell/MainWindow.h"
+#include "shell/PreviewPane.h"
 #include "shell/SilentQuickTips.h"
 #include "support/MemoryFileSystem.h"
 #include "support/SampleImages.h"
@@ -129,6 +130,11 @@ class RenvaleWindow {
 
   // Empty when every file was renamed without a word.
   std::string BatchOnce(Run* run) {
+    // The last batch previews its last file in the background; the folder
+    // is made anew under it, and a decode that then finds its file gone
+    // would rightly say so. Letting go of the preview first, as opening
+    // another folder does, keeps that out of the figures.
+    window_.Preview().ReleasePreview();
     MakeBatchFolder();
     window_.ChangeFolder(kFolder);
     window_.SelectAll();
