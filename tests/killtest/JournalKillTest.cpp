@@ -43,7 +43,7 @@ void KillAndRecover(const QString& kind) {
   fileops::Journal journal(platform::RealFileSystem(), journalFolder, port);
   QStringList arguments{folder, QFile::decodeName(journalFolder.chopped(1))};
   if (!kind.isEmpty()) arguments << kind;
-  qint64 latest = WholeRunMicros(QStringLiteral(RENVALE_JOURNAL_VICTIM), arguments);
+  qint64 latest = WholeRunMicros(QStringLiteral(RENVALE_VICTIM), arguments);
   ExpectAllUnder(folder, NewName);
   // Back to the old names and no journal, for the next run.
   const auto reset = [&] {
@@ -57,7 +57,7 @@ void KillAndRecover(const QString& kind) {
   int partial = 0;  // kills that landed before the plan was whole
   for (int run = 0; run < kRuns; ++run) {
     const qint64 delay = std::uniform_int_distribution<qint64>(0, latest)(random);
-    KillAfter(QStringLiteral(RENVALE_JOURNAL_VICTIM), arguments, delay);
+    KillAfter(QStringLiteral(RENVALE_VICTIM), arguments, delay);
 
     std::vector<fileops::JournalEntry> entries = journal.Entries();
     const bool finish = run % 2 == 0;
