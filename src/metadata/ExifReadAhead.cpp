@@ -37,7 +37,7 @@ void ExifReadAhead::Work(const std::stop_token& stop) {
     const std::lock_guard<std::mutex> hold(lock_);
     results_[i] = std::move(result);
     read_ = at + 1;
-    if (takerWaiting_) fileRead_.notify_all();
+    if (takerWaiting_ && read_ >= wakeAt_) fileRead_.notify_all();
   }
 }
 
@@ -51,9 +51,15 @@ bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, co
   // Asking for a file lets the reader go on to it however far it lies.
   wanted_ = std::max(wanted_, at + 1);
   if (readerWaiting_ && read_ < wanted_ + kLead / 2) mayRead_.notify_all();
-  takerWaiting_ = true;
-  fileRead_.wait(hold, [&] { return dropped_ || read_ > at; });
-  takerWaiting_ = false;
+  // A taker that has caught up waits for a run of files rather than for
+  // the next one: woken per file, the two threads would hand over at every
+  // file, which costs more than the reads.
+  if (read_ <= at) {
+    wakeAt_ = std::min(at + kWakeRun, static_cast<qsizetype>(names_.size()));
+    takerWaiting_ = true;
+    fileRead_.wait(hold, [&] { return dropped_ || read_ >= wakeAt_; });
+    takerWaiting_ = false;
+  }
   if (dropped_ || taken_[static_cast<size_t>(at)]) return false;
   taken_[static_cast<size_t>(at)] = true;
   *out = std::move(results_[static_cast<size_t>(at)]);

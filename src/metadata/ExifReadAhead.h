@@ -66,12 +66,15 @@ class ExifReadAhead {
 
   // How far the reader may run ahead of the furthest file asked for.
   static constexpr qsizetype kLead = 256;
+  // How many files a taker that caught up waits for at once (below kLead).
+  static constexpr qsizetype kWakeRun = 64;
 
   std::mutex lock_;
   std::condition_variable fileRead_;  // for Take: a file was read, or all dropped
   std::condition_variable mayRead_;   // for the reader: it may go on, or stop
   qsizetype read_ = 0;
   qsizetype wanted_ = 0;  // one past the furthest file asked for
+  qsizetype wakeAt_ = 0;  // the waiting taker wants the reader this far
   bool takerWaiting_ = false;
   bool readerWaiting_ = false;
   bool dropped_ = false;
