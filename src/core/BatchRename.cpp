@@ -270,10 +270,11 @@ std::vector<PlanStep> BatchRename::DescribePiece(const std::vector<NamedFile>& p
   return std::move(plan.steps);
 }
 
-// A plan that cannot be kept stops the batch before any of its steps.
+// A plan that cannot be kept stops the batch before any of its steps; the
+// files of the pieces kept before it may have been renamed already.
 BatchRename::Ending BatchRename::NotKept(const RecordedOperation& recorded) {
-  context_.messages.Notify(texts::kPlanNotKept.arg(platform::ErrorDescription(recorded.Error())),
-                           platform::MessageIcon::Critical);
+  const QString& text = done_ == 0 ? texts::kPlanNotKept : texts::kPlanRestNotKept;
+  context_.messages.Notify(text.arg(platform::ErrorDescription(recorded.Error())), platform::MessageIcon::Critical);
   return Ending::Stopped;
 }
 

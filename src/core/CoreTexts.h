@@ -191,5 +191,9 @@ inline const QString kNoteTravelsWith = QStringLiteral("Renamed along with '%1'.
 // because a change that could not be undone after a crash is not made.
 inline const QString kPlanNotKept = QStringLiteral(
     "Nothing was changed: the plan of this operation could not be saved for Undo (%1).");
+// The same, once files have been renamed under the part of the plan kept.
+inline const QString kPlanRestNotKept = QStringLiteral(
+    "The remaining files were not renamed: the plan of the rest of this operation could not be saved for "
+    "Undo (%1).");
 
 }  // namespace renvale::core::texts

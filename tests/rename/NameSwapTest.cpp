@@ -1,5 +1,6 @@
 #include <QSet>
 #include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <deque>
 #include <mutex>
@@ -8,7 +9,9 @@
 #include "RenameFixture.h"
 #include "core/BatchNaming.h"
 #include "core/BatchRename.h"
+#include "core/CoreTexts.h"
 #include "core/OperationRecorder.h"
+#include "platform/ErrorNumbers.h"
 
 namespace renvale::test {
 namespace {
@@ -30,6 +33,7 @@ class CheckingRecorder : public core::OperationRecorder {
   int Begin(const core::OperationPlan& plan) override { return Extend(plan.steps); }
   int Extend(const std::vector<core::PlanStep>& steps) override {
     if (fromAnyThread) std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    if (piecesKept >= 0 && piecesKept-- == 0) return platform::kErrnoBase + ENOSPC;
     const std::lock_guard<std::mutex> hold(lock_);
     for (const core::PlanStep& step : steps) sources_.insert(step.from);
     return 0;
@@ -37,6 +41,7 @@ class CheckingRecorder : public core::OperationRecorder {
   void End() override {}
   bool WritesFromAnyThread() const override { return fromAnyThread; }
   bool fromAnyThread = false;
+  int piecesKept = -1;  // how many pieces are kept before the disk is full; -1: all
   void Reset() {
     sources_.clear();
     unrecorded.clear();
@@ -120,12 +125,16 @@ TEST_F(NameSwapTest, FilesTradingNamesAreNeitherAskedAboutNorLost) {
 // A batch long enough to record its plan in several pieces names every
 // file, files freeing each other's names included, and records each
 // rename before it is taken, also where the pieces are written meanwhile.
+// A piece that cannot be kept stops the batch before its first rename, and
+// the message says whether files were renamed before it.
 TEST_F(NameSwapTest, ALongBatchRecordsEveryRenameBeforeTakingIt) {
   constexpr int kFiles = 600;
   settings.placeholders = 4;
-  for (const int run : {0, 1, 2}) {
-    const int shift = std::min(run, 1);  // "f0000" -> "0001"; "0001" -> "0002", each waiting for the next
+  const QString full = platform::ErrorDescription(platform::kErrnoBase + ENOSPC);
+  for (const int run : {0, 1, 2, 3, 4}) {
+    const int shift = run == 1 || run == 2 ? 1 : 0;  // "f0000" -> "0001"; "0001" -> "0002", each waiting
     recorder.fromAnyThread = run == 2;
+    recorder.piecesKept = run >= 3 ? run - 3 : -1;
     view.selected.clear();
     for (int i = 0; i < kFiles; ++i) {
       const QByteArray name = (shift == 0 ? "f" : "") + QByteArray::number(i + shift).rightJustified(4, '0') + ".dat";
@@ -139,14 +148,23 @@ TEST_F(NameSwapTest, ALongBatchRecordsEveryRenameBeforeTakingIt) {
     view.series = QString::number(1 + shift);
     view.newName = "%SERIES%";
     recorder.Reset();
+    port.messages.clear();
     core::BatchRename(context).StartBatchRename();
     const Files after = Folder();
     ASSERT_EQ(after.size(), size_t{kFiles});
-    for (int i = 0; i < kFiles; ++i) {
-      const QByteArray name = QByteArray::number(i + 1 + shift).rightJustified(4, '0') + ".dat";
-      EXPECT_EQ(after.count(name) != 0 ? after.at(name) : QByteArray(), (shift == 0 ? "f" : "") + QByteArray::number(i + shift).rightJustified(4, '0') + ".dat");
-    }
     EXPECT_EQ(recorder.unrecorded, std::vector<QByteArray>{});
+    if (run >= 3) {
+      const auto renamed = std::count_if(after.begin(), after.end(), [](const auto& f) { return f.first != f.second; });
+      EXPECT_EQ(renamed == 0, run == 3) << renamed;
+      EXPECT_LT(renamed, kFiles);
+      const QString& text = run == 3 ? core::texts::kPlanNotKept : core::texts::kPlanRestNotKept;
+      EXPECT_EQ(port.Texts(), QStringList{text.arg(full)});
+    }
+    for (int i = 0; i < kFiles && run < 3; ++i) {
+      const QByteArray name = QByteArray::number(i + 1 + shift).rightJustified(4, '0') + ".dat";
+      EXPECT_EQ(after.count(name) != 0 ? after.at(name) : QByteArray(),
+                (shift == 0 ? "f" : "") + QByteArray::number(i + shift).rightJustified(4, '0') + ".dat");
+    }
     Remake({});
   }
 }
