@@ -14,7 +14,6 @@
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QLineEdit>
-#include <QListView>
 #include <QListWidget>
 #include <QMenu>
 #include <QPlainTextEdit>
@@ -45,7 +44,6 @@
 #include "shell/BackgroundTextDocument.h"
 #include "shell/BrowsePane.h"
 #include "shell/DropToggleButton.h"
-#include "shell/FileListModel.h"
 #include "shell/MainWindowUi.h"
 #include "shell/MediaPane.h"
 #include "shell/NamePreviewDialog.h"

@@ -4,9 +4,7 @@
 
 #include "metadata/DateTimePicture.h"
 #include "metadata/ExifDateTime.h"
-#include "metadata/ExifReadAhead.h"
 #include "metadata/ExifReader.h"
-#include "metadata/ExifStatusCheck.h"
 #include "metadata/ExifValues.h"
 #include "metadata/FileDates.h"
 #include "metadata/FileReport.h"
