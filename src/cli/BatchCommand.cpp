@@ -10,10 +10,13 @@
 
 #include "cli/CliTexts.h"
 #include "core/AsciiFoldedName.h"
+#include "core/BatchBaseCheck.h"
 #include "core/BatchRename.h"
 #include "core/CoreTexts.h"
+#include "core/FileSetFinder.h"
 #include "core/FileSelection.h"
 #include "core/SeriesCounter.h"
+#include "core/TokenExpansion.h"
 #include "core/ViewSeriesBox.h"
 #include "fileops/FileopsTexts.h"
 #include "fileops/OperationHistory.h"
@@ -69,9 +72,12 @@ int BatchCommand::Run(const BatchArguments& args) {
       out_ << texts::kHelp;
       return kEveryFileNamed;
     case Action::Name:
-      return Resolve(args.files) ? RunName(args) : kFailed;
+      GroupFiles(args.files);
+      if (NamesAsItGoes(args)) ReadAhead(args.name);
+      return AllThere() ? RunName(args) : kFailed;
     case Action::Replace:
-      return Resolve(args.files) ? RunReplace(args) : kFailed;
+      GroupFiles(args.files);
+      return AllThere() ? RunReplace(args) : kFailed;
     case Action::History:
       return RunHistory(args);
     case Action::Undo:
@@ -88,41 +94,34 @@ int BatchCommand::Fail(const QString& line) {
   return kFailed;
 }
 
+// The files of each folder, in the order given.
+void BatchCommand::GroupFiles(const std::vector<QByteArray>& files) {
+  size_t at = 0;  // the group of the file before, which the next file mostly shares
+  for (const QByteArray& given : files) {
+    Place place = PlaceOf(given);
+    if (groups_.empty() || groups_[at].folder != place.folder) {
+      auto group = std::find_if(groups_.begin(), groups_.end(), [&](const Group& g) { return g.folder == place.folder; });
+      if (group == groups_.end()) group = groups_.insert(groups_.end(), Group{place.folder, {}, {}, {}, false});
+      at = static_cast<size_t>(group - groups_.begin());
+    }
+    groups_[at].files.push_back(platform::FileName{std::move(place.name)});
+    groups_[at].given.push_back(given);
+  }
+}
+
 // Every file must be there before anything is renamed: a typing mistake in
 // the tenth name must not leave nine files renamed. A card's worth of files
 // from one folder is checked against one reading of the folder, not a look
 // at each file; a name missing from it is looked at on its own, for the
 // exact reason (or because it appeared since).
-bool BatchCommand::Resolve(const std::vector<QByteArray>& files) {
-  std::vector<Place> places;
-  places.reserve(files.size());
-  QHash<QByteArray, int> perFolder;
-  for (const QByteArray& given : files) {
-    places.push_back(PlaceOf(given));
-    ++perFolder[places.back().folder];
-  }
-  QHash<QByteArray, QSet<QByteArray>> listings;
-  for (auto it = perFolder.cbegin(); it != perFolder.cend(); ++it) {
+bool BatchCommand::AllThere() {
+  for (Group& group : groups_) {
     std::vector<QByteArray> names;
-    if (it.value() < kListFrom || services_.fs.ListFiles(it.key(), &names) != 0) continue;
-    listings.insert(it.key(), QSet<QByteArray>(names.begin(), names.end()));
-  }
-  size_t at = 0;  // the group of the file before, which the next file mostly shares
-  for (size_t i = 0; i < files.size(); ++i) {
-    const Place& place = places[i];
-    const auto listing = listings.constFind(place.folder);
-    if (!Found(files[i], place, listing == listings.cend() ? nullptr : &*listing)) return false;
-    if (groups_.empty() || groups_[at].folder != place.folder) {
-      auto group = std::find_if(groups_.begin(), groups_.end(), [&](const Group& g) { return g.folder == place.folder; });
-      if (group == groups_.end()) {
-        group = groups_.insert(groups_.end(), Group{place.folder, {}, {}, {}, listing != listings.cend()});
-        group->files.reserve(static_cast<size_t>(perFolder.value(place.folder)));
-        group->given.reserve(group->files.capacity());
-      }
-      at = static_cast<size_t>(group - groups_.begin());
+    group.listed = group.files.size() >= kListFrom && services_.fs.ListFiles(group.folder, &names) == 0;
+    const QSet<QByteArray> listing(names.begin(), names.end());
+    for (size_t i = 0; i < group.files.size(); ++i) {
+      if (!Found(group.given[i], {group.folder, group.files[i].raw}, group.listed ? &listing : nullptr)) return false;
     }
-    groups_[at].files.push_back(platform::FileName{place.name});
-    groups_[at].given.push_back(files[i]);
   }
   return true;
 }
@@ -219,6 +218,7 @@ std::vector<OutputRow> BatchCommand::TakeRows(GroupRun& run) const {
 }
 
 int BatchCommand::RunName(const BatchArguments& args) {
+  if (NamesAsItGoes(args)) return RenameAsNamed(args);
   std::vector<std::unique_ptr<GroupRun>>& runs = runs_;
   if (!PreviewAll(args, &runs)) return kFailed;
   std::vector<std::vector<OutputRow>> planned;
@@ -248,6 +248,89 @@ int BatchCommand::RunName(const BatchArguments& args) {
     }
   }
   return Report(Joined(std::move(planned)), false, args.json);
+}
+
+// A plain run needs no name before the file's turn: each file is named just
+// before it, as in the window, so that the files are read while earlier
+// ones are renamed. What is printed first (a dry run, JSON with its notes)
+// or decided first (--on-clash=fail) needs every name beforehand; so does a
+// file that travels with another, whose name its head's gives it.
+bool BatchCommand::NamesAsItGoes(const BatchArguments& args) const {
+  if (args.dryRun || args.json || args.failOnClash) return false;
+  return std::none_of(groups_.begin(), groups_.end(), [](const Group& group) {
+    return std::any_of(group.files.begin(), group.files.end(),
+                       [](const platform::FileName& file) { return core::FileSetFinder::MayTravel(file.raw); });
+  });
+}
+
+// The first folder's files are read from the start, while the files are
+// looked for and the batch gets ready; the batch then takes the values
+// from that reading.
+void BatchCommand::ReadAhead(const QString& base) {
+  if (core::MentionsExifToken(base)) tokens_.ExpectExifValues(groups_.front().folder, groups_.front().files);
+}
+
+// The series runs on from one folder to the next, as in the preview.
+int BatchCommand::RenameAsNamed(const BatchArguments& args) {
+  if (!BasesUsable(args.name)) return kFailed;
+  qint64 number = args.series.value_or(1);
+  QString series = SeriesBox(number);
+  const core::RandomSeriesPool::RandomSource random =
+      args.seed ? SeededSource(*args.seed) : core::RandomSeriesPool::TimeSeededSource();
+  std::vector<std::vector<OutputRow>> rows;
+  for (Group& group : groups_) {
+    runs_.push_back(std::make_unique<GroupRun>(group, args.name, series, args.randomSeries));
+    qint64 taken = 0;
+    QString after = series;
+    rows.push_back(RenameGroup(*runs_.back(), random, &taken, &after));
+    number += taken;
+    series = args.randomSeries ? SeriesBox(number) : after;
+    if (port_.failed) break;
+  }
+  return Report(Joined(std::move(rows)), false, false);
+}
+
+// Every folder's base is checked before the first file is renamed: a base
+// one folder cannot take must not leave the folders before it renamed.
+bool BatchCommand::BasesUsable(const QString& base) {
+  for (const Group& group : groups_) {
+    const QString& first = group.files.front().Display();
+    const core::BatchBaseVerdict verdict = core::CheckBatchBase(base, first, services_.settings.exifTime);
+    if (!verdict.Stops()) continue;
+    const bool ownName = base.compare(first, Qt::CaseInsensitive) == 0;
+    Fail(ownName ? texts::kNameIsFirstFile.arg(base) : HeadlessMessagePort::OneLine(verdict.text));
+    return false;
+  }
+  return true;
+}
+
+std::vector<OutputRow> BatchCommand::RenameGroup(GroupRun& run, const core::RandomSeriesPool::RandomSource& random,
+                                                 qint64* seriesTaken, QString* seriesAfter) {
+  const Group& group = run.group;
+  std::vector<OutputRow> rows;
+  rows.reserve(group.files.size());
+  QHash<QByteArray, size_t> rowOf;
+  rowOf.reserve(static_cast<qsizetype>(group.files.size()));
+  for (size_t i = 0; i < group.files.size(); ++i) {
+    rows.push_back(OutputRow{group.given[i], group.files[i].Display(), {}, {}, {}, OutputRow::Status::Planned});
+    rowOf.insert(group.files[i].raw, i);
+  }
+  Select(run.session, group);
+  const core::RenameContext context = Context(run.session, run.view);
+  core::BatchRename batch(context, random);
+  batch.ObserveTurns([&](const core::NamedFile& named, bool renamed) {
+    OutputRow& row = rows[rowOf.value(named.file.raw)];
+    row.newName = named.newName;
+    row.status = renamed                        ? OutputRow::Status::Renamed
+                 : row.newName == row.oldName ? OutputRow::Status::Unchanged
+                                                : OutputRow::Status::Skipped;
+    if (named.seriesTaken) {
+      ++*seriesTaken;
+      *seriesAfter = named.seriesAfter;
+    }
+  });
+  batch.StartBatchRename();
+  return rows;
 }
 
 // ---- --replace -------------------------------------------------------------
@@ -380,6 +463,9 @@ int BatchCommand::Report(const std::vector<OutputRow>& rows, bool dryRun, bool j
     }
     if (row.status == OutputRow::Status::Skipped) {
       port_.lines << texts::kErrorPrefix + texts::kSkipped.arg(platform::FileName::NameToText(row.given), row.newName);
+    } else if (!dryRun && row.status == OutputRow::Status::Planned) {
+      skipped = true;
+      port_.lines << texts::kErrorPrefix + texts::kNotReached.arg(platform::FileName::NameToText(row.given));
     }
   }
   FlushMessages();

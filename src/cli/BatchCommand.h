@@ -66,13 +66,20 @@ class BatchCommand {
     QByteArray name;
   };
 
-  bool Resolve(const std::vector<QByteArray>& files);
+  void GroupFiles(const std::vector<QByteArray>& files);
+  bool AllThere();
   Place PlaceOf(const QByteArray& given) const;
   bool Found(const QByteArray& given, const Place& place, const QSet<QByteArray>* listing);
   core::RenameContext Context(core::RenameSession& session, core::RenameView& view);
   void Select(core::RenameSession& session, const Group& group);
 
   int RunName(const BatchArguments& args);
+  bool NamesAsItGoes(const BatchArguments& args) const;
+  void ReadAhead(const QString& base);
+  int RenameAsNamed(const BatchArguments& args);
+  bool BasesUsable(const QString& base);
+  std::vector<OutputRow> RenameGroup(GroupRun& run, const core::RandomSeriesPool::RandomSource& random,
+                                     qint64* seriesTaken, QString* seriesAfter);
   QString SeriesBox(qint64 number);
   bool PreviewAll(const BatchArguments& args, std::vector<std::unique_ptr<GroupRun>>* runs);
   std::vector<OutputRow> TakeRows(GroupRun& run) const;

@@ -32,7 +32,7 @@ inline const QString kNameIsFirstFile =
 inline const QString kEmptyName = QStringLiteral("the name given to '--name' is empty");
 
 inline const QString kSkipped = QStringLiteral("skipped '%1': '%2' is already taken");
-inline const QString kNotRenamed = QStringLiteral("'%1' was not renamed to '%2'");
+inline const QString kNotReached = QStringLiteral("'%1' was not renamed: the run stopped before its turn");
 inline const QString kClashNothingRenamed =
     QStringLiteral("nothing renamed: '%1' would take '%2', which is already taken (--on-clash=fail)");
 inline const QString kNoHistory = QStringLiteral("nothing to undo");

@@ -349,7 +349,10 @@ BatchRename::Step BatchRename::TakeTurn(const std::vector<PlannedRename>& asides
     context_.session.SeriesUsed = true;
     context_.view.SetSeriesText(named.seriesAfter);
   }
-  if (named.newName == named.file.Display()) return Step::Next;
+  if (named.newName == named.file.Display()) {
+    if (observer_) observer_(named, false);
+    return Step::Next;
+  }
   for (const PlannedRename& aside : asides) {
     if (StepAside(aside, renamer) == Step::Stop) return Step::Stop;
   }
@@ -402,6 +405,8 @@ void BatchRename::PutBack(const NamePair& aside, FileRenamer& renamer) {
 BatchRename::Step BatchRename::Settle(const OverwriteOutcome& outcome, const NamedFile& named,
                                       QString* lastNewName) {
   const QString& newName = named.newName;
+  const bool renamed = outcome.kind == OverwriteOutcome::Kind::Renamed;
+  if (observer_ && (renamed || outcome.kind == OverwriteOutcome::Kind::Declined)) observer_(named, renamed);
   switch (outcome.kind) {
     case OverwriteOutcome::Kind::Renamed:
       *lastNewName = newName;

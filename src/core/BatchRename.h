@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <unordered_set>
 #include <vector>
 
@@ -36,6 +37,13 @@ class BatchRename {
   // The extension guard's base for the current selection: the batch's base
   // without the extension each file puts in its place.
   QString FileBase(const QString& base) const;
+
+  // Told of each file whose turn is over, with whether it now has its new
+  // name: a caller that reports per file learns it as it happens instead
+  // of looking at the disk afterwards. Not told: files that travel with
+  // another, and files a stop leaves untouched.
+  using TurnObserver = std::function<void(const NamedFile& named, bool renamed)>;
+  void ObserveTurns(TurnObserver observer) { observer_ = std::move(observer); }
 
  private:
   enum class Ending { Finished, Stopped };
@@ -76,6 +84,7 @@ class BatchRename {
   QString finalSeries_;
   // Files standing under a hidden name until their turn: old name -> hidden name.
   std::vector<NamePair> aside_;
+  TurnObserver observer_;
 };
 
 }  // namespace renvale::core

@@ -95,6 +95,8 @@ void FileSetFinder::AddSidecars(const QByteArray& head, const QByteArray& newHea
   }
 }
 
+bool FileSetFinder::MayTravel(QByteArrayView name) { return !CanTakeSidecars(name); }
+
 bool FileSetFinder::TravelsWithSelectedHead(const QByteArray& name) const {
   if (HasExtension(name, kThm)) {
     for (const QByteArray& extension : kThmHeads) {

@@ -42,6 +42,10 @@ class FileSetFinder {
   // passes over its list entry, whether the head comes before or after it.
   bool TravelsWithSelectedHead(const QByteArray& name) const;
 
+  // Whether a file of this name can travel with another at all: only a
+  // THM or a sidecar can, and most batches hold neither.
+  static bool MayTravel(QByteArrayView name);
+
  private:
   using FoldedSet = std::unordered_set<QByteArray, AsciiFoldedName, AsciiFoldedName>;
 

@@ -1,5 +1,7 @@
 #include "fileops/MetadataTokenSource.h"
 
+#include <algorithm>
+
 #include "core/TokenExpansion.h"
 #include "metadata/mdlID3.h"
 #include "platform/FileName.h"
@@ -43,6 +45,7 @@ QString MetadataTokenSource::ExifValue(const QByteArray& folder, const platform:
 
 metadata::ExifTokenValues MetadataTokenSource::ReadValues(const QByteArray& folder, const platform::FileName& file) {
   metadata::ExifReadAhead::Result ahead;
+  readAheadTaken_ = readAheadTaken_ || readAhead_ != nullptr;
   if (readAhead_ == nullptr || !readAhead_->Take(folder, file.raw, Formats(), &ahead)) {
     ahead.values = metadata::ReadExifTokenValuesQuietly(fs_, folder, file.raw, Formats(), &ahead.errorMessage,
                                                         &ahead.identity, &ahead.identityKnown);
@@ -56,14 +59,23 @@ metadata::ExifTokenValues MetadataTokenSource::ReadValues(const QByteArray& fold
   return ahead.values;
 }
 
+// A caller that knows the files early starts their reading then; the batch
+// asking for the same files next keeps that reading, as long as nothing has
+// been taken from it.
 void MetadataTokenSource::ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files) {
   identityPath_.clear();
   if (!fs_.ReadableFromAnyThread()) return;
-  std::vector<QByteArray> names;
-  names.reserve(files.size());
-  for (const platform::FileName& file : files) names.push_back(file.raw);
-  readAhead_ = std::make_unique<metadata::ExifReadAhead>(fs_, folder, names, Formats());
+  if (readAhead_ != nullptr && !readAheadTaken_ && folder == readAheadFolder_ &&
+      std::equal(files.begin(), files.end(), readAheadNames_.begin(), readAheadNames_.end(),
+                 [](const platform::FileName& file, const QByteArray& name) { return file.raw == name; })) {
+    return;
+  }
+  readAheadNames_.clear();
+  readAheadNames_.reserve(files.size());
+  for (const platform::FileName& file : files) readAheadNames_.push_back(file.raw);
+  readAhead_ = std::make_unique<metadata::ExifReadAhead>(fs_, folder, readAheadNames_, Formats());
   readAheadFolder_ = folder;
+  readAheadTaken_ = false;
 }
 
 bool MetadataTokenSource::ValuesAtHand(const QByteArray& folder, const platform::FileName& file) {
@@ -81,6 +93,7 @@ bool MetadataTokenSource::TakeReadIdentity(const QByteArray& folder, const platf
 }
 
 void MetadataTokenSource::FileReplaced() {
+  readAheadTaken_ = true;
   if (readAhead_ != nullptr) readAhead_->Drop();
 }
 

@@ -51,6 +51,9 @@ class MetadataTokenSource : public core::TokenSource {
   QByteArray identityPath_;
   core::FileIdentity identity_;
   QByteArray readAheadFolder_;
+  std::vector<QByteArray> readAheadNames_;
+  bool readAheadTaken_ = false;  // a value was asked of it: it no longer reads "from now"
+
   QStringList* sink_ = nullptr;
 };
 
