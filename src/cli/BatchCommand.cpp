@@ -73,7 +73,7 @@ int BatchCommand::Run(const BatchArguments& args) {
       return kEveryFileNamed;
     case Action::Name:
       GroupFiles(args.files);
-      if (NamesAsItGoes(args)) ReadAhead(args.name);
+      ReadAhead(args);
       return AllThere() ? RunName(args) : kFailed;
     case Action::Replace:
       GroupFiles(args.files);
@@ -264,10 +264,12 @@ bool BatchCommand::NamesAsItGoes(const BatchArguments& args) const {
 }
 
 // The first folder's files are read from the start, while the files are
-// looked for and the batch gets ready; the batch then takes the values
-// from that reading.
-void BatchCommand::ReadAhead(const QString& base) {
-  if (core::MentionsExifToken(base)) tokens_.ExpectExifValues(groups_.front().folder, groups_.front().files);
+// looked for and the batch gets ready; the batch or the preview then takes
+// the values from that reading. Worked out first, every name comes with
+// its date's source, which is read even where the name has no date.
+void BatchCommand::ReadAhead(const BatchArguments& args) {
+  if (NamesAsItGoes(args) && !core::MentionsExifToken(args.name)) return;
+  tokens_.ExpectExifValues(groups_.front().folder, groups_.front().files);
 }
 
 // The series runs on from one folder to the next, as in the preview.

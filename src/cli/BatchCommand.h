@@ -75,7 +75,7 @@ class BatchCommand {
 
   int RunName(const BatchArguments& args);
   bool NamesAsItGoes(const BatchArguments& args) const;
-  void ReadAhead(const QString& base);
+  void ReadAhead(const BatchArguments& args);
   int RenameAsNamed(const BatchArguments& args);
   bool BasesUsable(const QString& base);
   std::vector<OutputRow> RenameGroup(GroupRun& run, const core::RandomSeriesPool::RandomSource& random,

@@ -232,10 +232,11 @@ BatchRename::Ending BatchRename::RenameRecorded(Naming& naming, FileRenamer& ren
   std::vector<NamedFile> piece;   // named, not handed over yet
   std::vector<NamedFile> flying;  // handed over, not durable yet
   std::deque<NamedFile> ready;    // durable, waiting for its turn
+  // The two lists trade places rather than being made anew: each keeps the
+  // room it grew to, and named files are not moved again as it grows.
   const auto handOver = [&] {
     pieces.Submit(DescribePiece(piece, renamer));
-    flying = std::move(piece);
-    piece.clear();
+    flying.swap(piece);
   };
   for (;;) {
     if (!ready.empty()) {
