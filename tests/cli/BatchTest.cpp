@@ -184,10 +184,15 @@ TEST_F(BatchRun, ManyFilesOfOneFolderAreReportedAsTheyEnded) {
   EXPECT_EQ(names.size(), 36u);
 }
 
-TEST_F(BatchRun, ReplaceChainsPairs) {
+// Each folder is a batch of its own; the series runs on from one to the next.
+TEST_F(BatchRun, APlainRunCarriesTheSeriesOnAndReplaceChainsPairs) {
+  QDir().mkpath(QFile::decodeName(card) + "sub");
   Make("IMG_1.JPG");
-  EXPECT_EQ(Run({"--replace", "IMG_=x", "--replace", "x1=Day 1", "IMG_1.JPG"}), kEveryFileNamed);
-  EXPECT_EQ(out, QStringLiteral("IMG_1.JPG \u2192 Day 1.JPG\n"));
+  Make("sub/b.jpg");
+  EXPECT_EQ(Run({"--name", "Day %SERIES%", "--series", "8", "IMG_1.JPG", "sub/b.jpg"}), kEveryFileNamed);
+  EXPECT_EQ(out, QStringLiteral("IMG_1.JPG \u2192 Day 08.JPG\nsub/b.jpg \u2192 Day 09.jpg\n"));
+  EXPECT_EQ(Run({"--replace", "Day 0=x", "--replace", "x8=Day 1", "Day 08.JPG"}), kEveryFileNamed);
+  EXPECT_EQ(out, QStringLiteral("Day 08.JPG \u2192 Day 1.JPG\n"));
   EXPECT_EQ(Holds("Day 1.JPG"), "IMG_1.JPG");
 }
 
