@@ -71,10 +71,14 @@ int BatchCommand::Run(const BatchArguments& args) {
     case Action::Help:
       out_ << texts::kHelp;
       return kEveryFileNamed;
-    case Action::Name:
+    case Action::Name: {
       GroupFiles(args.files);
       ReadAhead(args);
-      return AllThere() ? RunName(args) : kFailed;
+      const int status = AllThere() ? RunName(args) : kFailed;
+      // The process ends right after: no file may still be being read then.
+      tokens_.StopReadingAhead();
+      return status;
+    }
     case Action::Replace:
       GroupFiles(args.files);
       return AllThere() ? RunReplace(args) : kFailed;

@@ -97,6 +97,11 @@ void MetadataTokenSource::FileReplaced() {
   if (readAhead_ != nullptr) readAhead_->Drop();
 }
 
+void MetadataTokenSource::StopReadingAhead() {
+  readAheadTaken_ = true;
+  readAhead_.reset();
+}
+
 core::Id3Values MetadataTokenSource::Id3(const QByteArray& folder, const platform::FileName& file) {
   const metadata::Id3Values values = metadata::LoadId3Values(fs_, platform::JoinPath(folder, file.raw));
   return {values.title, values.artist, values.album, values.track};

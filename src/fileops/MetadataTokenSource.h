@@ -34,6 +34,8 @@ class MetadataTokenSource : public core::TokenSource {
   bool TakeReadIdentity(const QByteArray& folder, const platform::FileName& file, core::FileIdentity* identity) override;
   void CollectMessages(QStringList* sink) override { sink_ = sink; }
   QString DateSourceText(const QByteArray& folder, const platform::FileName& file) override;
+  // Stops the reading ahead of files no one will ask about now.
+  void StopReadingAhead();
 
  private:
   const metadata::ExifTokenValues& Values(const QByteArray& folder, const platform::FileName& file);
