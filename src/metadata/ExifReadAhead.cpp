@@ -6,8 +6,8 @@ namespace renvale::metadata {
 
 ExifReadAhead::ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder,
                              const std::vector<QByteArray>& rawNames, const ExifDateFormats& formats)
-    : fs_(fs), folder_(folder), names_(rawNames), formats_(formats), results_(rawNames.size()),
-      done_(rawNames.size(), 0), taken_(rawNames.size(), false) {
+    : fs_(fs), folder_(folder), held_(fs.HoldFolder(folder)), names_(rawNames), formats_(formats),
+      results_(rawNames.size()), done_(rawNames.size(), 0), taken_(rawNames.size(), false) {
   positions_.reserve(static_cast<qsizetype>(names_.size()));
   // A name listed twice is read at its first place.
   for (qsizetype i = static_cast<qsizetype>(names_.size()) - 1; i >= 0; --i) positions_.insert(names_[i], i);
@@ -47,7 +47,7 @@ bool ExifReadAhead::ReadNext(std::unique_lock<std::mutex>& hold) {
 
 ExifReadAhead::Result ExifReadAhead::Read(size_t at) const {
   Result result;
-  result.values = ReadExifTokenValuesQuietly(fs_, folder_, names_[at], formats_, &result.errorMessage,
+  result.values = ReadExifTokenValuesQuietly(fs_, *held_, folder_, names_[at], formats_, &result.errorMessage,
                                              &result.identity, &result.identityKnown);
   return result;
 }
