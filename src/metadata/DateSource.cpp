@@ -52,8 +52,11 @@ QString ExposureDateTime(platform::FileSystem& fs, const QByteArray& folder,
 
 DatedExposure DatedExposureTime(platform::FileSystem& fs, const QByteArray& folder,
                                 const QByteArray& rawName, const QString& dateTimeOriginal) {
+  // A picture dated by its EXIF needs no path: most of a batch returns here.
+  const bool video = VideoDateReader::IsVideoName(rawName);
+  if (!video && IsRealExifDateTime(dateTimeOriginal)) return {dateTimeOriginal, DateOrigin::ExifOriginal};
   const QByteArray path = platform::JoinPath(folder, rawName);
-  if (VideoDateReader::IsVideoName(rawName)) {
+  if (video) {
     const QString recorded = VideoDateReader::ReadFile(fs, path);
     if (IsRealExifDateTime(recorded)) return {recorded, DateOrigin::VideoContainer};
   }

@@ -47,6 +47,11 @@ bool TakeSeparator(QStringView text, qsizetype* at, bool (*accepts)(QChar)) {
 
 bool IsColon(QChar c) { return c == u':'; }
 
+// The `width` last decimal digits of a non-negative `n`.
+void PutDigits(char* out, int n, int width) {
+  for (int i = width - 1; i >= 0; --i, n /= 10) out[i] = static_cast<char>('0' + n % 10);
+}
+
 }  // namespace
 
 QString ExifLayoutDateTime(QStringView text) {
@@ -66,14 +71,19 @@ QString ExifLayoutDateTime(QStringView text) {
       !TakeDigits(text, &at, 2, &part[5]) || at != text.size()) {
     return {};
   }
-  const QString layout = QStringLiteral("%1:%2:%3 %4:%5:%6")
-                             .arg(part[0], 4, 10, QLatin1Char('0'))
-                             .arg(part[1], 2, 10, QLatin1Char('0'))
-                             .arg(part[2], 2, 10, QLatin1Char('0'))
-                             .arg(part[3], 2, 10, QLatin1Char('0'))
-                             .arg(part[4], 2, 10, QLatin1Char('0'))
-                             .arg(part[5], 2, 10, QLatin1Char('0'));
-  return IsRealExifDateTime(layout) ? layout : QString();
+  if (!QDate::isValid(part[0], part[1], part[2]) || !QTime::isValid(part[3], part[4], part[5])) return {};
+  // Written digit by digit: this runs for every picture of a batch, and a
+  // chain of arg() calls made a dozen strings for each.
+  char layout[kLayoutLength];
+  PutDigits(layout, part[0], 4);
+  PutDigits(layout + 5, part[1], 2);
+  PutDigits(layout + 8, part[2], 2);
+  PutDigits(layout + 11, part[3], 2);
+  PutDigits(layout + 14, part[4], 2);
+  PutDigits(layout + 17, part[5], 2);
+  layout[4] = layout[7] = layout[13] = layout[16] = ':';
+  layout[10] = ' ';
+  return QString::fromLatin1(layout, kLayoutLength);
 }
 
 bool ReadExifDateTime(const QString& text, QDate* date, QTime* time) {

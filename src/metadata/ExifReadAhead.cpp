@@ -6,8 +6,8 @@ namespace renvale::metadata {
 
 ExifReadAhead::ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder,
                              const std::vector<QByteArray>& rawNames, const ExifDateFormats& formats)
-    : fs_(fs), folder_(folder), names_(rawNames), formats_(formats), results_(rawNames.size()),
-      taken_(rawNames.size(), false) {
+    : fs_(fs), folder_(folder), held_(fs.HoldFolder(folder)), names_(rawNames), formats_(formats),
+      results_(rawNames.size()), done_(rawNames.size(), 0), taken_(rawNames.size(), false) {
   positions_.reserve(static_cast<qsizetype>(names_.size()));
   // A name listed twice is read at its first place.
   for (qsizetype i = static_cast<qsizetype>(names_.size()) - 1; i >= 0; --i) positions_.insert(names_[i], i);
@@ -20,25 +20,36 @@ ExifReadAhead::~ExifReadAhead() { Drop(); }
 // folder of a hundred thousand files at once; it goes on when half its lead
 // is used up, so that it wakes once per many files, not once per file.
 void ExifReadAhead::Work(const std::stop_token& stop) {
-  for (size_t i = 0; i < names_.size() && !stop.stop_requested(); ++i) {
-    const auto at = static_cast<qsizetype>(i);
-    {
-      std::unique_lock<std::mutex> hold(lock_);
-      if (at >= wanted_ + kLead) {
-        readerWaiting_ = true;
-        mayRead_.wait(hold, [&] { return dropped_ || at < wanted_ + kLead / 2; });
-        readerWaiting_ = false;
-      }
-      if (dropped_) return;
+  std::unique_lock<std::mutex> hold(lock_);
+  while (!stop.stop_requested()) {
+    if (next_ >= wanted_ + kLead) {
+      readerWaiting_ = true;
+      mayRead_.wait(hold, [&] { return dropped_ || next_ < wanted_ + kLead / 2; });
+      readerWaiting_ = false;
     }
-    Result result;
-    result.values = ReadExifTokenValuesQuietly(fs_, folder_, names_[i], formats_, &result.errorMessage,
-                                               &result.identity, &result.identityKnown);
-    const std::lock_guard<std::mutex> hold(lock_);
-    results_[i] = std::move(result);
-    read_ = at + 1;
-    if (takerWaiting_ && read_ >= wakeAt_) fileRead_.notify_all();
+    if (!ReadNext(hold)) return;
   }
+}
+
+// Files are claimed in list order, one at a time, so at most one file per
+// thread is being read while every file before them is done.
+bool ExifReadAhead::ReadNext(std::unique_lock<std::mutex>& hold) {
+  if (dropped_ || next_ >= static_cast<qsizetype>(names_.size())) return false;
+  const auto at = static_cast<size_t>(next_++);
+  hold.unlock();
+  Result result = Read(at);
+  hold.lock();
+  results_[at] = std::move(result);
+  done_[at] = 1;
+  if (waitingFor_ == static_cast<qsizetype>(at)) fileRead_.notify_all();
+  return true;
+}
+
+ExifReadAhead::Result ExifReadAhead::Read(size_t at) const {
+  Result result;
+  result.values = ReadExifTokenValuesQuietly(fs_, *held_, folder_, names_[at], formats_, &result.errorMessage,
+                                             &result.identity, &result.identityKnown);
+  return result;
 }
 
 bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, const ExifDateFormats& formats,
@@ -50,15 +61,19 @@ bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, co
   std::unique_lock<std::mutex> hold(lock_);
   // Asking for a file lets the reader go on to it however far it lies.
   wanted_ = std::max(wanted_, at + 1);
-  if (readerWaiting_ && read_ < wanted_ + kLead / 2) mayRead_.notify_all();
-  // A taker that has caught up waits for a run of files rather than for
-  // the next one: woken per file, the two threads would hand over at every
-  // file, which costs more than the reads.
-  if (read_ <= at) {
-    wakeAt_ = std::min(at + kWakeRun, static_cast<qsizetype>(names_.size()));
-    takerWaiting_ = true;
-    fileRead_.wait(hold, [&] { return dropped_ || read_ >= wakeAt_; });
-    takerWaiting_ = false;
+  if (readerWaiting_ && next_ < wanted_ + kLead / 2) mayRead_.notify_all();
+  // Sleeping until the reader gets there would leave this thread's
+  // processor idle; the reader is then busy with the file asked for or one
+  // before it, so this thread reads the ones after. It sleeps only for the
+  // last files, or when the reader is stuck on one file (a slow disk) and
+  // this thread has got a lead ahead of it.
+  const auto isDone = [&] { return dropped_ || done_[static_cast<size_t>(at)] != 0; };
+  while (!isDone() && next_ < at + kLead && ReadNext(hold)) {
+  }
+  if (!isDone()) {
+    waitingFor_ = at;
+    fileRead_.wait(hold, isDone);
+    waitingFor_ = -1;
   }
   if (dropped_ || taken_[static_cast<size_t>(at)]) return false;
   taken_[static_cast<size_t>(at)] = true;
@@ -70,7 +85,7 @@ bool ExifReadAhead::Ready(const QByteArray& rawName) {
   const auto found = positions_.constFind(rawName);
   if (found == positions_.cend()) return true;
   const std::lock_guard<std::mutex> hold(lock_);
-  return dropped_ || read_ > *found;
+  return dropped_ || done_[static_cast<size_t>(*found)] != 0;
 }
 
 void ExifReadAhead::Drop() {

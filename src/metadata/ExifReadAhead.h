@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QString>
 #include <condition_variable>
+#include <memory>
 #include <mutex>
 #include <thread>
 #include <vector>
@@ -15,7 +16,10 @@ namespace renvale::metadata {
 
 // Reads the EXIF naming values of a batch's files on a second thread, in
 // the batch's order, while the first one renames: a batch over thousands of
-// pictures then waits for neither the reads nor the date formatting.
+// pictures then waits for neither the reads nor the date formatting. A
+// taker that has caught up with the reader reads the next files itself
+// instead of sleeping, so that a batch with nothing else to do reads on
+// both processors.
 //
 // Only reading happens there; what a read would show ("EXIF Error: ...") is
 // kept and shown by the caller when the file's turn comes, so messages come
@@ -41,12 +45,12 @@ class ExifReadAhead {
   ExifReadAhead(const ExifReadAhead&) = delete;
   ExifReadAhead& operator=(const ExifReadAhead&) = delete;
 
-  // The values of `rawName` in `folder` read with `formats`, waiting if the
-  // reader has not got there yet. False when that file was not read ahead
+  // The values of `rawName` in `folder` read with `formats`, reading them
+  // (and the files after it) if the reader has not got there yet. False when that file was not read ahead
   // with those formats, or reading ahead was dropped: read it now instead.
   // Each file's values are handed out once.
   bool Take(const QByteArray& folder, const QByteArray& rawName, const ExifDateFormats& formats, Result* out);
-  // False while Take(rawName) would wait for the reader.
+  // False while Take(rawName) would have to read or wait.
   bool Ready(const QByteArray& rawName);
 
   // Files of the folder are about to change: nothing read ahead is used any
@@ -55,27 +59,32 @@ class ExifReadAhead {
 
  private:
   void Work(const std::stop_token& stop);
+  // Reads the next file nobody has claimed yet, with `hold` released for
+  // the read; false when every file is claimed or reading was dropped.
+  bool ReadNext(std::unique_lock<std::mutex>& hold);
+  Result Read(size_t at) const;
 
   platform::FileSystem& fs_;
   const QByteArray folder_;
+  // Opening each file by its name alone spares walking the folder's path
+  // (six names deep on a card) for every file.
+  const std::unique_ptr<platform::ReadableFolder> held_;
   const std::vector<QByteArray> names_;
   const ExifDateFormats formats_;
   QHash<QByteArray, qsizetype> positions_;
-  std::vector<Result> results_;  // [0, read_) filled by the reader
+  std::vector<Result> results_;  // filled where done_ is set
+  std::vector<char> done_;
   std::vector<bool> taken_;
 
   // How far the reader may run ahead of the furthest file asked for.
   static constexpr qsizetype kLead = 256;
-  // How many files a taker that caught up waits for at once (below kLead).
-  static constexpr qsizetype kWakeRun = 64;
 
   std::mutex lock_;
-  std::condition_variable fileRead_;  // for Take: a file was read, or all dropped
+  std::condition_variable fileRead_;  // for Take: its file was read, or all dropped
   std::condition_variable mayRead_;   // for the reader: it may go on, or stop
-  qsizetype read_ = 0;
+  qsizetype next_ = 0;    // the first file neither thread has claimed
   qsizetype wanted_ = 0;  // one past the furthest file asked for
-  qsizetype wakeAt_ = 0;  // the waiting taker wants the reader this far
-  bool takerWaiting_ = false;
+  qsizetype waitingFor_ = -1;  // the file a taker sleeps for, if any
   bool readerWaiting_ = false;
   bool dropped_ = false;
   std::jthread reader_;  // last: starts when everything it uses is built

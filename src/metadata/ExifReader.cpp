@@ -23,6 +23,17 @@ void ExifReader::Load(platform::FileSystem& fs, const QByteArray& path) {
   Reset();
   std::unique_ptr<platform::ReadableFile> file;
   const int error = fs.OpenForRead(path, &file);
+  LoadOpened(error, file.get());
+}
+
+void ExifReader::Load(platform::ReadableFolder& folder, const QByteArray& name) {
+  Reset();
+  std::unique_ptr<platform::ReadableFile> file;
+  const int error = folder.OpenForRead(name, &file);
+  LoadOpened(error, file.get());
+}
+
+void ExifReader::LoadOpened(int error, platform::ReadableFile* file) {
   if (error == platform::kNoContents) {
     status_ = QString::fromLatin1(ExifTexts::kNoExif);
     return;

@@ -16,6 +16,8 @@ class ExifReader {
  public:
   // Loads from a file; reads only the bytes it needs.
   void Load(platform::FileSystem& fs, const QByteArray& path);
+  // The same for the file `name` of a folder held for many reads.
+  void Load(platform::ReadableFolder& folder, const QByteArray& name);
   // Loads from whole-file bytes already in memory (tests, fuzzing).
   void LoadBytes(const char* data, qint64 size);
 
@@ -33,6 +35,7 @@ class ExifReader {
 
  private:
   void Reset();
+  void LoadOpened(int error, platform::ReadableFile* file);
   void LoadFrom(ByteSource& source);
   void SetSystemError(const char* text, int errorNumber);
 

@@ -10,13 +10,27 @@ bool IsNoExifStatus(const QString& status) {
   return status.endsWith(texts::kNoExifStatusEnding, Qt::CaseInsensitive);
 }
 
-bool LoadExifQuietly(ExifReader& reader, platform::FileSystem& fs, const QByteArray& path,
-                     QString* errorMessage) {
-  reader.Load(fs, path);
+namespace {
+
+bool StatusAllowsTags(const ExifReader& reader, QString* errorMessage) {
   const QString status = reader.Status();
   if (status.isEmpty() || IsNoExifStatus(status)) return true;
   *errorMessage = texts::kExifErrorPrefix + status;
   return false;
+}
+
+}  // namespace
+
+bool LoadExifQuietly(ExifReader& reader, platform::FileSystem& fs, const QByteArray& path,
+                     QString* errorMessage) {
+  reader.Load(fs, path);
+  return StatusAllowsTags(reader, errorMessage);
+}
+
+bool LoadExifQuietly(ExifReader& reader, platform::ReadableFolder& folder, const QByteArray& name,
+                     QString* errorMessage) {
+  reader.Load(folder, name);
+  return StatusAllowsTags(reader, errorMessage);
 }
 
 bool LoadExifChecked(ExifReader& reader, platform::FileSystem& fs,

@@ -6,6 +6,7 @@
 namespace renvale::platform {
 class FileSystem;
 class MessagePort;
+class ReadableFolder;
 }  // namespace renvale::platform
 
 namespace renvale::metadata {
@@ -29,6 +30,9 @@ bool LoadExifChecked(ExifReader& reader, platform::FileSystem& fs,
 // `errorMessage` (left alone when there is none), so that a file read on
 // another thread can be reported when its turn comes.
 bool LoadExifQuietly(ExifReader& reader, platform::FileSystem& fs, const QByteArray& path,
+                     QString* errorMessage);
+// The same for the file `name` of a folder held for many reads.
+bool LoadExifQuietly(ExifReader& reader, platform::ReadableFolder& folder, const QByteArray& name,
                      QString* errorMessage);
 
 }  // namespace renvale::metadata

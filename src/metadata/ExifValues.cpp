@@ -16,15 +16,21 @@ struct FileTags {
   QString serial;
 };
 
-bool ReadTagsQuietly(platform::FileSystem& fs, const QByteArray& path, FileTags* tags, QString* errorMessage,
-                     platform::FileInfo* identity = nullptr, bool* identityKnown = nullptr) {
-  ExifReader reader;
-  const bool loaded = LoadExifQuietly(reader, fs, path, errorMessage);
+// The tags of a reader whose load gave `loaded`.
+bool TagsOf(const ExifReader& reader, bool loaded, FileTags* tags, platform::FileInfo* identity,
+            bool* identityKnown) {
   if (identityKnown != nullptr) *identityKnown = reader.OpenedIdentity(identity);
   if (!loaded) return false;
   tags->dateTimeOriginal = reader.Tag(texts::kTagDateTimeOriginal);
   tags->serial = reader.Tag(texts::kTagImageNumber);
   return true;
+}
+
+bool ReadTagsQuietly(platform::FileSystem& fs, const QByteArray& path, FileTags* tags, QString* errorMessage,
+                     platform::FileInfo* identity = nullptr, bool* identityKnown = nullptr) {
+  ExifReader reader;
+  const bool loaded = LoadExifQuietly(reader, fs, path, errorMessage);
+  return TagsOf(reader, loaded, tags, identity, identityKnown);
 }
 
 bool ReadTags(const ExifFile& file, FileTags* tags) {
@@ -55,6 +61,21 @@ QString ValueOf(const ExifFile& file, const FileTags& tags, int form,
   return ExifDateTimeText(when, form, formats.date, formats.time);
 }
 
+// The values of a file whose tags were read.
+ExifTokenValues ValuesOfTags(platform::FileSystem& fs, const QByteArray& folder, const QByteArray& rawName,
+                             const ExifDateFormats& formats, const FileTags& tags) {
+  ExifTokenValues values;
+  values.ok = true;
+  values.serial = tags.serial;
+  const DatedExposure dated = DatedExposureTime(fs, folder, rawName, tags.dateTimeOriginal);
+  const QString& when = dated.when;
+  values.dateOrigin = dated.origin;
+  if (ExifDateAndTimeTexts(when, formats.date, formats.time, &values.date, &values.time)) {
+    values.dateTime = values.date + u' ' + values.time;
+  }
+  return values;
+}
+
 }  // namespace
 
 QString ExifTokenValue(const ExifFile& file, const QString& token, const ExifDateFormats& formats) {
@@ -76,19 +97,21 @@ ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, const QByte
                                            QString* errorMessage, platform::FileInfo* identity,
                                            bool* identityKnown) {
   FileTags tags;
-  ExifTokenValues values;
   if (!ReadTagsQuietly(fs, platform::JoinPath(folder, rawName), &tags, errorMessage, identity, identityKnown)) {
-    return values;
+    return {};
   }
-  values.ok = true;
-  values.serial = tags.serial;
-  const DatedExposure dated = DatedExposureTime(fs, folder, rawName, tags.dateTimeOriginal);
-  const QString& when = dated.when;
-  values.dateOrigin = dated.origin;
-  if (ExifDateAndTimeTexts(when, formats.date, formats.time, &values.date, &values.time)) {
-    values.dateTime = values.date + u' ' + values.time;
-  }
-  return values;
+  return ValuesOfTags(fs, folder, rawName, formats, tags);
+}
+
+ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, platform::ReadableFolder& held,
+                                           const QByteArray& folder, const QByteArray& rawName,
+                                           const ExifDateFormats& formats, QString* errorMessage,
+                                           platform::FileInfo* identity, bool* identityKnown) {
+  ExifReader reader;
+  const bool loaded = LoadExifQuietly(reader, held, rawName, errorMessage);
+  FileTags tags;
+  if (!TagsOf(reader, loaded, &tags, identity, identityKnown)) return {};
+  return ValuesOfTags(fs, folder, rawName, formats, tags);
 }
 
 QString ExifInsertValue(const ExifFile& file, int form, bool batchMode,

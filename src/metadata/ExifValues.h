@@ -8,6 +8,7 @@
 namespace renvale::platform {
 class FileSystem;
 class MessagePort;
+class ReadableFolder;
 struct FileInfo;
 }  // namespace renvale::platform
 
@@ -59,6 +60,11 @@ ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, const QByte
                                            const QByteArray& rawName, const ExifDateFormats& formats,
                                            QString* errorMessage, platform::FileInfo* identity = nullptr,
                                            bool* identityKnown = nullptr);
+// The same, opening the file through `held`, the folder held for a batch.
+ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, platform::ReadableFolder& held,
+                                           const QByteArray& folder, const QByteArray& rawName,
+                                           const ExifDateFormats& formats, QString* errorMessage,
+                                           platform::FileInfo* identity, bool* identityKnown);
 
 QString ExifInsertValue(const ExifFile& file, int form, bool batchMode,
                         const ExifDateFormats& formats);

@@ -12,9 +12,12 @@ namespace renvale::metadata {
 
 bool VideoDateReader::IsVideoName(const QByteArray& name) {
   static const char* const kExtensions[] = {".mp4", ".mov", ".m4v", ".3gp", ".3g2", ".avi"};
-  const QByteArray lower = name.toLower();
+  // Asked for every file of a batch: no lower-case copy of the name.
+  constexpr qsizetype kLength = 4;
+  if (name.size() < kLength) return false;
+  const char* tail = name.constData() + name.size() - kLength;
   for (const char* extension : kExtensions) {
-    if (lower.endsWith(extension)) return true;
+    if (qstrnicmp(tail, extension, kLength) == 0) return true;
   }
   return false;
 }

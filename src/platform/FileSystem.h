@@ -43,6 +43,15 @@ class ReadableFile {
   }
 };
 
+// A folder held open so that many of its files are opened by name: each
+// opening then walks the file's name alone, not the whole path again.
+class ReadableFolder {
+ public:
+  virtual ~ReadableFolder() = default;
+  // As FileSystem::OpenForRead of the name joined to the folder's path.
+  virtual int OpenForRead(const QByteArray& name, std::unique_ptr<ReadableFile>* file) = 0;
+};
+
 // The one door to the file system. Paths are raw bytes. Every call returns
 // an error number from ErrorNumbers.h (0 on success) and never throws.
 // Tests substitute a wrapper that injects failures (CI runs as root, so a
@@ -88,6 +97,10 @@ class FileSystem {
   virtual int MoveToTrash(const QByteArray& path) = 0;
 
   virtual int OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) = 0;
+  // `folder` held for opening many of its files by name; usable from any
+  // thread where the file system is. The default joins each name to the
+  // path and opens that.
+  virtual std::unique_ptr<ReadableFolder> HoldFolder(const QByteArray& folder);
   // True when files may be opened, read and stat'ed from a second thread
   // while this one renames. Fakes that keep plain bookkeeping say no.
   virtual bool ReadableFromAnyThread() const { return false; }
@@ -114,6 +127,23 @@ class FileSystem {
   // whole file system's writes. The default flushes the file system.
   virtual int FlushFolder(const QByteArray& folder) { return FlushFileSystem(folder); }
 };
+
+// A folder whose files are opened by their joined paths.
+class JoinedPathFolder : public ReadableFolder {
+ public:
+  JoinedPathFolder(FileSystem& fs, const QByteArray& folder) : fs_(fs), folder_(folder) {}
+  int OpenForRead(const QByteArray& name, std::unique_ptr<ReadableFile>* file) override {
+    return fs_.OpenForRead(JoinPath(folder_, name), file);
+  }
+
+ private:
+  FileSystem& fs_;
+  const QByteArray folder_;
+};
+
+inline std::unique_ptr<ReadableFolder> FileSystem::HoldFolder(const QByteArray& folder) {
+  return std::make_unique<JoinedPathFolder>(*this, folder);
+}
 
 // The real file system (POSIX calls, GIO for the trash).
 FileSystem& RealFileSystem();

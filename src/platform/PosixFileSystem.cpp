@@ -13,40 +13,14 @@
 #include "platform/FileCopy.h"
 #include "platform/NoReplaceRename.h"
 #include "platform/PathParts.h"
-#include "platform/PosixReadableFile.h"
+#include "platform/PosixOpen.h"
+#include "platform/PosixReadableFolder.h"
 #include "platform/Trash.h"
 #include "platform/UniqueFd.h"
 
 namespace renvale::platform {
 
 namespace {
-
-static_assert(kNoContents == kErrnoBase + ENODEV);
-
-// Opens a file's contents without ever waiting: open() on a named pipe
-// waits for a writer that may never come, and a device or a socket has no
-// contents to read. Only a regular file is left open. It stays in
-// non-blocking mode: Linux ignores that flag for a regular file's reads
-// (open(2)), and clearing it would cost two calls on every file a batch reads.
-// `st` gets the file's status as found at the opening.
-int OpenRegularFile(const QByteArray& path, UniqueFd* fd, struct stat* st) {
-  UniqueFd opened(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-  if (!opened.valid()) return errno == ENXIO ? kNoContents : ErrorNumberFromErrno(errno);
-  if (::fstat(opened.get(), st) != 0) return ErrorNumberFromErrno(errno);
-  if (S_ISDIR(st->st_mode)) return ErrorNumberFromErrno(EISDIR);
-  if (!S_ISREG(st->st_mode)) return kNoContents;
-  *fd = std::move(opened);
-  return kNoError;
-}
-
-// What StatIdentity tells of a file.
-void FillIdentity(const struct stat& st, FileInfo* info) {
-  info->isDir = S_ISDIR(st.st_mode);
-  info->size = st.st_size;
-  info->modifiedNs = static_cast<qint64>(st.st_mtim.tv_sec) * 1000000000 + st.st_mtim.tv_nsec;
-  info->device = st.st_dev;
-  info->inode = st.st_ino;
-}
 
 bool IsDotOrDotDot(const char* name) {
   return name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'));
@@ -242,14 +216,15 @@ int PosixFileSystem::WriteProbeFile(const QByteArray& path, const QByteArray& co
 int PosixFileSystem::MoveToTrash(const QByteArray& path) { return MoveFileToTrash(path); }
 
 int PosixFileSystem::OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) {
-  file->reset();
-  UniqueFd fd;
-  struct stat st;
-  if (const int err = OpenRegularFile(path, &fd, &st); err != kNoError) return err;
-  FileInfo identity;
-  FillIdentity(st, &identity);
-  *file = std::make_unique<PosixReadableFile>(std::move(fd), identity);
-  return kNoError;
+  return OpenReadableFileAt(AT_FDCWD, path, file);
+}
+
+// A folder that cannot be held is left to the joined paths, so that each of
+// its files fails with its own error as it would when opened alone.
+std::unique_ptr<ReadableFolder> PosixFileSystem::HoldFolder(const QByteArray& folder) {
+  UniqueFd fd(::open(folder.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+  if (!fd.valid()) return FileSystem::HoldFolder(folder);
+  return std::make_unique<PosixReadableFolder>(std::move(fd));
 }
 
 int PosixFileSystem::WriteWholeFile(const QByteArray& path, const QByteArray& contents) {
@@ -284,7 +259,7 @@ int PosixFileSystem::ReadWholeFile(const QByteArray& path, qint64 maxBytes, QByt
   contents->clear();
   UniqueFd fd;
   struct stat st;
-  if (const int err = OpenRegularFile(path, &fd, &st); err != kNoError) return err;
+  if (const int err = OpenRegularFileAt(AT_FDCWD, path, &fd, &st); err != kNoError) return err;
   const int err = ReadToEnd(fd.get(), maxBytes, contents);
   if (err != 0) contents->clear();
   return ErrorNumberFromErrno(err);

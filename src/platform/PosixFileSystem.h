@@ -24,6 +24,7 @@ class PosixFileSystem : public FileSystem {
   int MoveToTrash(const QByteArray& path) override;
 
   int OpenForRead(const QByteArray& path, std::unique_ptr<ReadableFile>* file) override;
+  std::unique_ptr<ReadableFolder> HoldFolder(const QByteArray& folder) override;
   bool ReadableFromAnyThread() const override { return true; }
   bool WritableFromAnyThread() const override { return true; }
   int WriteWholeFile(const QByteArray& path, const QByteArray& contents) override;

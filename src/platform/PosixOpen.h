@@ -1,0 +1,24 @@
+#pragma once
+
+#include <sys/stat.h>
+
+#include <QByteArray>
+#include <memory>
+
+#include "platform/FileSystem.h"
+#include "platform/UniqueFd.h"
+
+namespace renvale::platform {
+
+// Opens `path` (relative to the folder `dirFd`, or AT_FDCWD) for reading its
+// contents; only a regular file is left open. `st` gets the file's status as
+// found at the opening. Returns an error number.
+int OpenRegularFileAt(int dirFd, const QByteArray& path, UniqueFd* fd, struct stat* st);
+
+// The same as a ReadableFile that knows its identity.
+int OpenReadableFileAt(int dirFd, const QByteArray& path, std::unique_ptr<ReadableFile>* file);
+
+// What StatIdentity tells of a file.
+void FillIdentity(const struct stat& st, FileInfo* info);
+
+}  // namespace renvale::platform
