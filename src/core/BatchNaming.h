@@ -18,6 +18,10 @@ struct NamedFile {
   bool travels = false;  // goes along with a selected file it belongs to
   QString unexpanded;    // what the new-name box shows at the file's turn
   QString newName;
+  // The new name as bytes, and whether it is the file's own: the batch asks
+  // both several times per file, and they are worked out once.
+  QByteArray target;
+  bool sameName = false;
   QStringList messages;  // what working out its values would have shown, in order
   bool seriesTaken = false;
   QString seriesAfter;   // the "Next Series #:" box once its number is taken

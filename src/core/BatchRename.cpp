@@ -1,7 +1,5 @@
 #include "core/BatchRename.h"
 
-#include <deque>
-#include <iterator>
 #include <optional>
 
 #include "core/BatchBaseCheck.h"
@@ -179,10 +177,9 @@ class BatchRename::Naming {
 
  private:
   bool MustWait(const NamedFile& named) const {
-    if (named.newName == named.file.Display()) return false;
-    const QByteArray target = platform::FileName::TextToName(named.newName);
-    if (held_.count(target) != 0) return true;
-    for (const NamePair& companion : renamer_.Sets().Companions(named.file.raw, target)) {
+    if (named.sameName) return false;
+    if (held_.count(named.target) != 0) return true;
+    for (const NamePair& companion : renamer_.Sets().Companions(named.file.raw, named.target)) {
       if (held_.count(companion.to) != 0) return true;
     }
     return false;
@@ -229,18 +226,21 @@ BatchRename::Ending BatchRename::RenameUnrecorded(Naming& naming, FileRenamer& r
 BatchRename::Ending BatchRename::RenameRecorded(Naming& naming, FileRenamer& renamer, RecordedOperation& recorded,
                                                 QString* lastNewName) {
   PieceRecorder pieces(recorded);
+  // The three lists trade places instead of moving their files from one to
+  // the next: a piece is handed over only when none is in flight, and one
+  // becomes ready only when every ready file has had its turn.
   std::vector<NamedFile> piece;   // named, not handed over yet
   std::vector<NamedFile> flying;  // handed over, not durable yet
-  std::deque<NamedFile> ready;    // durable, waiting for its turn
+  std::vector<NamedFile> ready;   // durable; those from `turn` on wait for their turns
+  size_t turn = 0;
+  piece.reserve(kFirstPiece);
   const auto handOver = [&] {
     pieces.Submit(DescribePiece(piece, renamer));
-    flying = std::move(piece);
-    piece.clear();
+    flying.swap(piece);
   };
   for (;;) {
-    if (!ready.empty()) {
-      if (TakeTurn({}, ready.front(), renamer, lastNewName) == Step::Stop) return Ending::Stopped;
-      ready.pop_front();
+    if (turn < ready.size()) {
+      if (TakeTurn({}, ready[turn++], renamer, lastNewName) == Step::Stop) return Ending::Stopped;
       for (size_t i = 0; i < kNamedPerTurn && piece.size() < kMostAhead && naming.AtHand(); ++i) naming.Next(&piece);
       if (!pieces.InFlight() && piece.size() >= kFirstPiece) handOver();
       continue;
@@ -248,8 +248,9 @@ BatchRename::Ending BatchRename::RenameRecorded(Naming& naming, FileRenamer& ren
     if (pieces.InFlight()) {
       while (!pieces.Settled() && piece.size() < kMostAhead && naming.More()) naming.Next(&piece);
       if (pieces.Wait() != 0) return NotKept(recorded);
-      ready.insert(ready.end(), std::make_move_iterator(flying.begin()), std::make_move_iterator(flying.end()));
-      flying.clear();
+      ready.clear();
+      ready.swap(flying);
+      turn = 0;
       continue;
     }
     while (piece.size() < kFirstPiece && naming.More()) naming.Next(&piece);
@@ -263,9 +264,8 @@ BatchRename::Ending BatchRename::RenameRecorded(Naming& naming, FileRenamer& ren
 std::vector<PlanStep> BatchRename::DescribePiece(const std::vector<NamedFile>& piece, FileRenamer& renamer) const {
   OperationPlan plan;
   for (const NamedFile& named : piece) {
-    if (named.travels || named.newName == named.file.Display()) continue;
-    renamer.DescribeRename(named.file.raw, platform::FileName::TextToName(named.newName), &plan,
-                           named.identityRead ? &named.identity : nullptr);
+    if (named.travels || named.sameName) continue;
+    renamer.DescribeRename(named.file.raw, named.target, &plan, named.identityRead ? &named.identity : nullptr);
   }
   return std::move(plan.steps);
 }
@@ -286,9 +286,8 @@ std::vector<PlannedTurn> BatchRename::Turns(const BatchNaming& naming, FileRenam
   std::vector<size_t> moveFile;
   for (size_t i = 0; i < naming.files.size(); ++i) {
     const NamedFile& named = naming.files[i];
-    if (named.travels || named.newName == named.file.Display()) continue;
-    const QByteArray target = platform::FileName::TextToName(named.newName);
-    moves.push_back({{named.file.raw, target}, renamer.Sets().Companions(named.file.raw, target)});
+    if (named.travels || named.sameName) continue;
+    moves.push_back({{named.file.raw, named.target}, renamer.Sets().Companions(named.file.raw, named.target)});
     moveFile.push_back(i);
   }
   const RenamePlan plan =
@@ -318,14 +317,14 @@ OperationPlan BatchRename::Plan(const std::vector<PlannedTurn>& turns, const Bat
   std::vector<PlanStep> hidden;  // the steps to hidden names so far
   for (const PlannedTurn& turn : turns) {
     const NamedFile& named = naming.files[turn.file];
-    if (named.travels || named.newName == named.file.Display()) continue;
+    if (named.travels || named.sameName) continue;
     for (const PlannedRename& aside : turn.asides) {
       const size_t first = plan.steps.size();
       renamer.DescribeRename(aside.head.from, aside.head.to, &plan);
       hidden.insert(hidden.end(), plan.steps.begin() + static_cast<std::ptrdiff_t>(first), plan.steps.end());
     }
     OperationPlan own;
-    renamer.DescribeRename(named.file.raw, platform::FileName::TextToName(named.newName), &own);
+    renamer.DescribeRename(named.file.raw, named.target, &own);
     for (PlanStep& step : own.steps) {
       // A file that stepped aside leaves from its hidden name.
       for (const PlanStep& aside : hidden) {
@@ -349,7 +348,7 @@ BatchRename::Step BatchRename::TakeTurn(const std::vector<PlannedRename>& asides
     context_.session.SeriesUsed = true;
     context_.view.SetSeriesText(named.seriesAfter);
   }
-  if (named.newName == named.file.Display()) return Step::Next;
+  if (named.sameName) return Step::Next;
   for (const PlannedRename& aside : asides) {
     if (StepAside(aside, renamer) == Step::Stop) return Step::Stop;
   }
@@ -361,11 +360,10 @@ BatchRename::Step BatchRename::TakeTurn(const std::vector<PlannedRename>& asides
       break;
     }
   }
-  const QByteArray target = platform::FileName::TextToName(named.newName);
   // A change of letter case alone is renamed without asking.
-  const bool caseOnly = target.compare(current.raw, Qt::CaseInsensitive) == 0;
-  const bool targetKnown = !caseOnly && renamer.Index().Contains(target);
-  const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(current, named.newName, targetKnown);
+  const bool caseOnly = named.target.compare(current.raw, Qt::CaseInsensitive) == 0;
+  const bool targetKnown = !caseOnly && renamer.Index().Contains(named.target);
+  const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(current, named.newName, named.target, targetKnown);
   if (outcome.kind != OverwriteOutcome::Kind::Renamed && current.raw != named.file.raw) {
     PutBack({named.file.raw, current.raw}, renamer);
   }

@@ -14,7 +14,8 @@ bool SameFolded(QByteArrayView a, QByteArrayView b) { return AsciiFoldedName()(a
 
 }  // namespace
 
-FolderIndex::FolderIndex(const std::vector<QByteArray>& names) {
+FolderIndex::FolderIndex(const std::vector<QByteArray>& names, std::vector<QByteArray> countedSuffixes)
+    : countedSuffixes_(std::move(countedSuffixes)) {
   std::size_t size = 16;
   while (size < names.size() * 2) size *= 2;
   slots_.resize(size);
@@ -22,10 +23,18 @@ FolderIndex::FolderIndex(const std::vector<QByteArray>& names) {
   for (const QByteArray& name : names) Add(name);
 }
 
-FolderIndex FolderIndex::Read(platform::FileSystem& fs, const QByteArray& folder) {
+FolderIndex FolderIndex::Read(platform::FileSystem& fs, const QByteArray& folder,
+                              std::vector<QByteArray> countedSuffixes) {
   std::vector<QByteArray> names;
-  if (fs.ListFiles(folder, &names) != 0) return FolderIndex();
-  return FolderIndex(names);
+  if (fs.ListFiles(folder, &names) != 0) names.clear();
+  return FolderIndex(names, std::move(countedSuffixes));
+}
+
+bool FolderIndex::Counted(QByteArrayView name) const {
+  for (const QByteArray& suffix : countedSuffixes_) {
+    if (AsciiFoldedName::EndsWith(name, suffix)) return true;
+  }
+  return false;
 }
 
 qsizetype FolderIndex::FindExact(QByteArrayView name, std::uint64_t hash) const {
@@ -79,6 +88,7 @@ void FolderIndex::Insert(const QByteArray& name, std::uint64_t hash) {
   while (slots_[i].name >= 0) i = (i + 1) & mask;
   if (slots_[i].name == kEmpty) ++used_;
   slots_[i] = {hash, entry};
+  if (Counted(name)) ++counted_;
 }
 
 // Doubles the table (or rebuilds it at the same size when removals are
@@ -104,6 +114,7 @@ void FolderIndex::Remove(QByteArrayView name) {
   const qsizetype at = FindExact(name, HashOf(name));
   if (at < 0) return;
   Slot& slot = slots_[static_cast<std::size_t>(at)];
+  if (Counted(name)) --counted_;
   names_[slot.name] = QByteArray();
   freeNames_.push_back(slot.name);
   slot.name = kRemoved;
