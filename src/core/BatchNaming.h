@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <chrono>
 #include <memory>
 #include <vector>
 
@@ -40,6 +41,9 @@ struct BatchNaming {
   QString seriesAtStart;   // the box before the first number
   std::vector<NamedFile> files;
   QString seriesAtEnd;     // the box after the last number
+  // When the first file was named: how old the identities read with the
+  // values may be.
+  std::chrono::steady_clock::time_point namedFrom = std::chrono::steady_clock::now();
 };
 
 // Works the names out one file at a time, in list order, with the batch's

@@ -1,5 +1,6 @@
 #include "core/BatchRename.h"
 
+#include <chrono>
 #include <optional>
 
 #include "core/BatchBaseCheck.h"
@@ -28,6 +29,11 @@ constexpr size_t kMostAhead = 8192;
 // Told when the person stops at a duplicate-name warning: the moment they
 // look for a way to make every name unique.
 constexpr int kUniqueNamesTip = 21;
+// How old a file's identity, taken when its values were read, may be for
+// the plan: the files are not asked again. A file changed after the read
+// would be passed over by the recovery and by Undo, never lost; and a
+// naming older than this (a preview window left open) is asked afresh.
+constexpr std::chrono::seconds kReadIdentitiesKept{10};
 
 // Keeps the file list from taking clicks while the batch lets window events
 // run, and lets go on every way out.
@@ -41,6 +47,29 @@ class BusyScope {
  private:
   RenameSession& session_;
 };
+
+// Most batches give names that no file of the folder has, in any letter
+// case: then no file waits for another and the planner has nothing to
+// order. Only an index that holds every file to be renamed can tell.
+bool NoneWaits(const std::vector<RenameMove>& moves, const FolderIndex& index) {
+  for (const RenameMove& move : moves) {
+    if (!index.Contains(move.head.from) || !index.Spellings(move.head.to).isEmpty()) return false;
+    for (const NamePair& companion : move.companions) {
+      if (!index.Contains(companion.from) || !index.Spellings(companion.to).isEmpty()) return false;
+    }
+  }
+  return true;
+}
+
+RenamePlan InListOrder(std::vector<RenameMove> moves) {
+  RenamePlan plan;
+  plan.reserve(moves.size());
+  for (size_t i = 0; i < moves.size(); ++i) {
+    plan.push_back({static_cast<int>(i), PlannedRename::Kind::Direct, std::move(moves[i].head),
+                    std::move(moves[i].companions)});
+  }
+  return plan;
+}
 
 }  // namespace
 
@@ -263,6 +292,7 @@ BatchRename::Ending BatchRename::RenameRecorded(Naming& naming, FileRenamer& ren
 // hidden names.
 std::vector<PlanStep> BatchRename::DescribePiece(const std::vector<NamedFile>& piece, FileRenamer& renamer) const {
   OperationPlan plan;
+  plan.steps.reserve(piece.size());
   for (const NamedFile& named : piece) {
     if (named.travels || named.sameName) continue;
     renamer.DescribeRename(named.file.raw, named.target, &plan, named.identityRead ? &named.identity : nullptr);
@@ -291,7 +321,9 @@ std::vector<PlannedTurn> BatchRename::Turns(const BatchNaming& naming, FileRenam
     moveFile.push_back(i);
   }
   const RenamePlan plan =
-      PlanRenames(moves, [&renamer](const QByteArray& name) { return renamer.Index().Contains(name); });
+      NoneWaits(moves, renamer.Index())
+          ? InListOrder(std::move(moves))
+          : PlanRenames(moves, [&renamer](const QByteArray& name) { return renamer.Index().Contains(name); });
   return TurnsInListOrder(naming.files.size(), moveFile, plan);
 }
 
@@ -314,6 +346,8 @@ OperationPlan BatchRename::Plan(const std::vector<PlannedTurn>& turns, const Bat
                                 FileRenamer& renamer) const {
   const QByteArray& folder = renamer.Folder();
   OperationPlan plan{OperationKind::BatchRename, folder, QDateTime::currentDateTimeUtc(), {}};
+  plan.steps.reserve(turns.size());
+  const bool readRecently = std::chrono::steady_clock::now() - naming.namedFrom < kReadIdentitiesKept;
   std::vector<PlanStep> hidden;  // the steps to hidden names so far
   for (const PlannedTurn& turn : turns) {
     const NamedFile& named = naming.files[turn.file];
@@ -324,7 +358,8 @@ OperationPlan BatchRename::Plan(const std::vector<PlannedTurn>& turns, const Bat
       hidden.insert(hidden.end(), plan.steps.begin() + static_cast<std::ptrdiff_t>(first), plan.steps.end());
     }
     OperationPlan own;
-    renamer.DescribeRename(named.file.raw, named.target, &own);
+    renamer.DescribeRename(named.file.raw, named.target, &own,
+                           readRecently && named.identityRead ? &named.identity : nullptr);
     for (PlanStep& step : own.steps) {
       // A file that stepped aside leaves from its hidden name.
       for (const PlanStep& aside : hidden) {
