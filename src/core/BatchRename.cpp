@@ -51,24 +51,23 @@ class BusyScope {
 // Most batches give names that no file of the folder has, in any letter
 // case: then no file waits for another and the planner has nothing to
 // order. Only an index that holds every file to be renamed can tell.
-bool NoneWaits(const std::vector<RenameMove>& moves, const FolderIndex& index) {
-  for (const RenameMove& move : moves) {
-    if (!index.Contains(move.head.from) || !index.Spellings(move.head.to).isEmpty()) return false;
-    for (const NamePair& companion : move.companions) {
+std::vector<QByteArray> RawNames(const std::vector<platform::FileName>& files) {
+  std::vector<QByteArray> names;
+  names.reserve(files.size());
+  for (const platform::FileName& file : files) names.push_back(file.raw);
+  return names;
+}
+
+bool NoneWaits(const BatchNaming& naming, const FileRenamer& renamer) {
+  const FolderIndex& index = renamer.Index();
+  for (const NamedFile& named : naming.files) {
+    if (named.travels || named.sameName) continue;
+    if (!index.Contains(named.file.raw) || !index.Spellings(named.target).isEmpty()) return false;
+    for (const NamePair& companion : renamer.Sets().Companions(named.file.raw, named.target)) {
       if (!index.Contains(companion.from) || !index.Spellings(companion.to).isEmpty()) return false;
     }
   }
   return true;
-}
-
-RenamePlan InListOrder(std::vector<RenameMove> moves) {
-  RenamePlan plan;
-  plan.reserve(moves.size());
-  for (size_t i = 0; i < moves.size(); ++i) {
-    plan.push_back({static_cast<int>(i), PlannedRename::Kind::Direct, std::move(moves[i].head),
-                    std::move(moves[i].companions)});
-  }
-  return plan;
 }
 
 }  // namespace
@@ -176,10 +175,8 @@ class BatchRename::Naming {
       : renamer_(renamer),
         files_(files),
         names_(context, renamer, files, base, context.view.RandomSeries(), false, random),
-        held_(files.size()),
-        waiting_{renamer.Folder(), base, {}, {}, {}} {
-    for (const platform::FileName& file : files) held_.insert(file.raw);
-  }
+        held_(RawNames(files)),
+        waiting_{renamer.Folder(), base, {}, {}, {}} {}
 
   bool More() const { return next_ < files_.size(); }
   // The next file can be named without waiting for its values.
@@ -191,9 +188,9 @@ class BatchRename::Naming {
     // A file that goes with its picture holds its name for good: it moves
     // when its picture does, which may be among the waiting files.
     if (!named.travels) {
-      if (const auto own = held_.find(named.file.raw); own != held_.end()) held_.erase(own);
+      held_.Remove(named.file.raw);
       if (MustWait(named)) {
-        held_.insert(named.file.raw);
+        held_.Add(named.file.raw);
         waiting_.files.push_back(std::move(named));
         return;
       }
@@ -207,9 +204,9 @@ class BatchRename::Naming {
  private:
   bool MustWait(const NamedFile& named) const {
     if (named.sameName) return false;
-    if (held_.count(named.target) != 0) return true;
+    if (!held_.Spellings(named.target).isEmpty()) return true;
     for (const NamePair& companion : renamer_.Sets().Companions(named.file.raw, named.target)) {
-      if (held_.count(companion.to) != 0) return true;
+      if (!held_.Spellings(companion.to).isEmpty()) return true;
     }
     return false;
   }
@@ -217,7 +214,9 @@ class BatchRename::Naming {
   const FileRenamer& renamer_;
   const std::vector<platform::FileName>& files_;
   BatchNames names_;
-  FoldedNames held_;
+  // The names still held by files of the batch: a flat table, because
+  // every file asks it and most answers are no.
+  FolderIndex held_;
   BatchNaming waiting_;
   size_t next_ = 0;
 };
@@ -312,6 +311,11 @@ BatchRename::Ending BatchRename::NotKept(const RecordedOperation& recorded) {
 // Files keep list order, except that the files that get new names take
 // their places among themselves in the order of the plan.
 std::vector<PlannedTurn> BatchRename::Turns(const BatchNaming& naming, FileRenamer& renamer) const {
+  if (NoneWaits(naming, renamer)) {
+    std::vector<PlannedTurn> turns(naming.files.size());
+    for (size_t i = 0; i < turns.size(); ++i) turns[i].file = i;
+    return turns;
+  }
   std::vector<RenameMove> moves;
   std::vector<size_t> moveFile;
   for (size_t i = 0; i < naming.files.size(); ++i) {
@@ -321,9 +325,7 @@ std::vector<PlannedTurn> BatchRename::Turns(const BatchNaming& naming, FileRenam
     moveFile.push_back(i);
   }
   const RenamePlan plan =
-      NoneWaits(moves, renamer.Index())
-          ? InListOrder(std::move(moves))
-          : PlanRenames(moves, [&renamer](const QByteArray& name) { return renamer.Index().Contains(name); });
+      PlanRenames(moves, [&renamer](const QByteArray& name) { return renamer.Index().Contains(name); });
   return TurnsInListOrder(naming.files.size(), moveFile, plan);
 }
 

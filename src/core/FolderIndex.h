@@ -57,7 +57,8 @@ class FolderIndex {
 
   // The slot holding exactly `name`, or -1.
   qsizetype FindExact(QByteArrayView name, std::uint64_t hash) const;
-  void Insert(const QByteArray& name, std::uint64_t hash);
+  // Puts a name that is not there into the free slot `at`.
+  void Place(std::size_t at, const QByteArray& name, std::uint64_t hash);
   void Grow();
   bool Counted(QByteArrayView name) const;
 
