@@ -87,6 +87,8 @@ NamedFile BatchNames::Next(const platform::FileName& file) {
   if (!named.travels) {
     named.unexpanded = parts_->namer.Unexpanded(file);
     named.newName = parts_->namer.Expand(file, named.unexpanded);
+    named.target = platform::FileName::TextToName(named.newName);
+    named.sameName = named.newName == file.Display();
     named.seriesTaken = parts_->namer.SeriesTaken();
     named.messages = parts_->collected.Take();
     named.identityRead = context_.tokens.TakeReadIdentity(renamer_.Folder(), file, &named.identity);

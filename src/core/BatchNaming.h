@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <chrono>
 #include <memory>
 #include <vector>
 
@@ -18,6 +19,10 @@ struct NamedFile {
   bool travels = false;  // goes along with a selected file it belongs to
   QString unexpanded;    // what the new-name box shows at the file's turn
   QString newName;
+  // The new name as bytes, and whether it is the file's own: the batch asks
+  // both several times per file, and they are worked out once.
+  QByteArray target;
+  bool sameName = false;
   QStringList messages;  // what working out its values would have shown, in order
   bool seriesTaken = false;
   QString seriesAfter;   // the "Next Series #:" box once its number is taken
@@ -36,6 +41,9 @@ struct BatchNaming {
   QString seriesAtStart;   // the box before the first number
   std::vector<NamedFile> files;
   QString seriesAtEnd;     // the box after the last number
+  // When the first file was named: how old the identities read with the
+  // values may be.
+  std::chrono::steady_clock::time_point namedFrom = std::chrono::steady_clock::now();
 };
 
 // Works the names out one file at a time, in list order, with the batch's

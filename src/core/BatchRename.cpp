@@ -1,7 +1,6 @@
 #include "core/BatchRename.h"
 
-#include <deque>
-#include <iterator>
+#include <chrono>
 #include <optional>
 
 #include "core/BatchBaseCheck.h"
@@ -30,6 +29,11 @@ constexpr size_t kMostAhead = 8192;
 // Told when the person stops at a duplicate-name warning: the moment they
 // look for a way to make every name unique.
 constexpr int kUniqueNamesTip = 21;
+// How old a file's identity, taken when its values were read, may be for
+// the plan: the files are not asked again. A file changed after the read
+// would be passed over by the recovery and by Undo, never lost; and a
+// naming older than this (a preview window left open) is asked afresh.
+constexpr std::chrono::seconds kReadIdentitiesKept{10};
 
 // Keeps the file list from taking clicks while the batch lets window events
 // run, and lets go on every way out.
@@ -43,6 +47,28 @@ class BusyScope {
  private:
   RenameSession& session_;
 };
+
+// Most batches give names that no file of the folder has, in any letter
+// case: then no file waits for another and the planner has nothing to
+// order. Only an index that holds every file to be renamed can tell.
+std::vector<QByteArray> RawNames(const std::vector<platform::FileName>& files) {
+  std::vector<QByteArray> names;
+  names.reserve(files.size());
+  for (const platform::FileName& file : files) names.push_back(file.raw);
+  return names;
+}
+
+bool NoneWaits(const BatchNaming& naming, const FileRenamer& renamer) {
+  const FolderIndex& index = renamer.Index();
+  for (const NamedFile& named : naming.files) {
+    if (named.travels || named.sameName) continue;
+    if (!index.Contains(named.file.raw) || !index.Spellings(named.target).isEmpty()) return false;
+    for (const NamePair& companion : renamer.Sets().Companions(named.file.raw, named.target)) {
+      if (!index.Contains(companion.from) || !index.Spellings(companion.to).isEmpty()) return false;
+    }
+  }
+  return true;
+}
 
 }  // namespace
 
@@ -149,10 +175,8 @@ class BatchRename::Naming {
       : renamer_(renamer),
         files_(files),
         names_(context, renamer, files, base, context.view.RandomSeries(), false, random),
-        held_(files.size()),
-        waiting_{renamer.Folder(), base, {}, {}, {}} {
-    for (const platform::FileName& file : files) held_.insert(file.raw);
-  }
+        held_(RawNames(files)),
+        waiting_{renamer.Folder(), base, {}, {}, {}} {}
 
   bool More() const { return next_ < files_.size(); }
   // The next file can be named without waiting for its values.
@@ -164,9 +188,9 @@ class BatchRename::Naming {
     // A file that goes with its picture holds its name for good: it moves
     // when its picture does, which may be among the waiting files.
     if (!named.travels) {
-      if (const auto own = held_.find(named.file.raw); own != held_.end()) held_.erase(own);
+      held_.Remove(named.file.raw);
       if (MustWait(named)) {
-        held_.insert(named.file.raw);
+        held_.Add(named.file.raw);
         waiting_.files.push_back(std::move(named));
         return;
       }
@@ -179,11 +203,10 @@ class BatchRename::Naming {
 
  private:
   bool MustWait(const NamedFile& named) const {
-    if (named.newName == named.file.Display()) return false;
-    const QByteArray target = platform::FileName::TextToName(named.newName);
-    if (held_.count(target) != 0) return true;
-    for (const NamePair& companion : renamer_.Sets().Companions(named.file.raw, target)) {
-      if (held_.count(companion.to) != 0) return true;
+    if (named.sameName) return false;
+    if (!held_.Spellings(named.target).isEmpty()) return true;
+    for (const NamePair& companion : renamer_.Sets().Companions(named.file.raw, named.target)) {
+      if (!held_.Spellings(companion.to).isEmpty()) return true;
     }
     return false;
   }
@@ -191,7 +214,9 @@ class BatchRename::Naming {
   const FileRenamer& renamer_;
   const std::vector<platform::FileName>& files_;
   BatchNames names_;
-  FoldedNames held_;
+  // The names still held by files of the batch: a flat table, because
+  // every file asks it and most answers are no.
+  FolderIndex held_;
   BatchNaming waiting_;
   size_t next_ = 0;
 };
@@ -229,19 +254,21 @@ BatchRename::Ending BatchRename::RenameUnrecorded(Naming& naming, FileRenamer& r
 BatchRename::Ending BatchRename::RenameRecorded(Naming& naming, FileRenamer& renamer, RecordedOperation& recorded,
                                                 QString* lastNewName) {
   PieceRecorder pieces(recorded);
+  // The three lists trade places instead of moving their files from one to
+  // the next: a piece is handed over only when none is in flight, and one
+  // becomes ready only when every ready file has had its turn.
   std::vector<NamedFile> piece;   // named, not handed over yet
   std::vector<NamedFile> flying;  // handed over, not durable yet
-  std::deque<NamedFile> ready;    // durable, waiting for its turn
-  // The two lists trade places rather than being made anew: each keeps the
-  // room it grew to, and named files are not moved again as it grows.
+  std::vector<NamedFile> ready;   // durable; those from `turn` on wait for their turns
+  size_t turn = 0;
+  piece.reserve(kFirstPiece);
   const auto handOver = [&] {
     pieces.Submit(DescribePiece(piece, renamer));
     flying.swap(piece);
   };
   for (;;) {
-    if (!ready.empty()) {
-      if (TakeTurn({}, ready.front(), renamer, lastNewName) == Step::Stop) return Ending::Stopped;
-      ready.pop_front();
+    if (turn < ready.size()) {
+      if (TakeTurn({}, ready[turn++], renamer, lastNewName) == Step::Stop) return Ending::Stopped;
       for (size_t i = 0; i < kNamedPerTurn && piece.size() < kMostAhead && naming.AtHand(); ++i) naming.Next(&piece);
       if (!pieces.InFlight() && piece.size() >= kFirstPiece) handOver();
       continue;
@@ -249,8 +276,9 @@ BatchRename::Ending BatchRename::RenameRecorded(Naming& naming, FileRenamer& ren
     if (pieces.InFlight()) {
       while (!pieces.Settled() && piece.size() < kMostAhead && naming.More()) naming.Next(&piece);
       if (pieces.Wait() != 0) return NotKept(recorded);
-      ready.insert(ready.end(), std::make_move_iterator(flying.begin()), std::make_move_iterator(flying.end()));
-      flying.clear();
+      ready.clear();
+      ready.swap(flying);
+      turn = 0;
       continue;
     }
     while (piece.size() < kFirstPiece && naming.More()) naming.Next(&piece);
@@ -263,10 +291,10 @@ BatchRename::Ending BatchRename::RenameRecorded(Naming& naming, FileRenamer& ren
 // hidden names.
 std::vector<PlanStep> BatchRename::DescribePiece(const std::vector<NamedFile>& piece, FileRenamer& renamer) const {
   OperationPlan plan;
+  plan.steps.reserve(piece.size());
   for (const NamedFile& named : piece) {
-    if (named.travels || named.newName == named.file.Display()) continue;
-    renamer.DescribeRename(named.file.raw, platform::FileName::TextToName(named.newName), &plan,
-                           named.identityRead ? &named.identity : nullptr);
+    if (named.travels || named.sameName) continue;
+    renamer.DescribeRename(named.file.raw, named.target, &plan, named.identityRead ? &named.identity : nullptr);
   }
   return std::move(plan.steps);
 }
@@ -283,13 +311,17 @@ BatchRename::Ending BatchRename::NotKept(const RecordedOperation& recorded) {
 // Files keep list order, except that the files that get new names take
 // their places among themselves in the order of the plan.
 std::vector<PlannedTurn> BatchRename::Turns(const BatchNaming& naming, FileRenamer& renamer) const {
+  if (NoneWaits(naming, renamer)) {
+    std::vector<PlannedTurn> turns(naming.files.size());
+    for (size_t i = 0; i < turns.size(); ++i) turns[i].file = i;
+    return turns;
+  }
   std::vector<RenameMove> moves;
   std::vector<size_t> moveFile;
   for (size_t i = 0; i < naming.files.size(); ++i) {
     const NamedFile& named = naming.files[i];
-    if (named.travels || named.newName == named.file.Display()) continue;
-    const QByteArray target = platform::FileName::TextToName(named.newName);
-    moves.push_back({{named.file.raw, target}, renamer.Sets().Companions(named.file.raw, target)});
+    if (named.travels || named.sameName) continue;
+    moves.push_back({{named.file.raw, named.target}, renamer.Sets().Companions(named.file.raw, named.target)});
     moveFile.push_back(i);
   }
   const RenamePlan plan =
@@ -316,17 +348,20 @@ OperationPlan BatchRename::Plan(const std::vector<PlannedTurn>& turns, const Bat
                                 FileRenamer& renamer) const {
   const QByteArray& folder = renamer.Folder();
   OperationPlan plan{OperationKind::BatchRename, folder, QDateTime::currentDateTimeUtc(), {}};
+  plan.steps.reserve(turns.size());
+  const bool readRecently = std::chrono::steady_clock::now() - naming.namedFrom < kReadIdentitiesKept;
   std::vector<PlanStep> hidden;  // the steps to hidden names so far
   for (const PlannedTurn& turn : turns) {
     const NamedFile& named = naming.files[turn.file];
-    if (named.travels || named.newName == named.file.Display()) continue;
+    if (named.travels || named.sameName) continue;
     for (const PlannedRename& aside : turn.asides) {
       const size_t first = plan.steps.size();
       renamer.DescribeRename(aside.head.from, aside.head.to, &plan);
       hidden.insert(hidden.end(), plan.steps.begin() + static_cast<std::ptrdiff_t>(first), plan.steps.end());
     }
     OperationPlan own;
-    renamer.DescribeRename(named.file.raw, platform::FileName::TextToName(named.newName), &own);
+    renamer.DescribeRename(named.file.raw, named.target, &own,
+                           readRecently && named.identityRead ? &named.identity : nullptr);
     for (PlanStep& step : own.steps) {
       // A file that stepped aside leaves from its hidden name.
       for (const PlanStep& aside : hidden) {
@@ -350,7 +385,7 @@ BatchRename::Step BatchRename::TakeTurn(const std::vector<PlannedRename>& asides
     context_.session.SeriesUsed = true;
     context_.view.SetSeriesText(named.seriesAfter);
   }
-  if (named.newName == named.file.Display()) {
+  if (named.sameName) {
     if (observer_) observer_(named, false);
     return Step::Next;
   }
@@ -365,11 +400,10 @@ BatchRename::Step BatchRename::TakeTurn(const std::vector<PlannedRename>& asides
       break;
     }
   }
-  const QByteArray target = platform::FileName::TextToName(named.newName);
   // A change of letter case alone is renamed without asking.
-  const bool caseOnly = target.compare(current.raw, Qt::CaseInsensitive) == 0;
-  const bool targetKnown = !caseOnly && renamer.Index().Contains(target);
-  const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(current, named.newName, targetKnown);
+  const bool caseOnly = named.target.compare(current.raw, Qt::CaseInsensitive) == 0;
+  const bool targetKnown = !caseOnly && renamer.Index().Contains(named.target);
+  const OverwriteOutcome outcome = OverwritingRename(context_, renamer).Run(current, named.newName, named.target, targetKnown);
   if (outcome.kind != OverwriteOutcome::Kind::Renamed && current.raw != named.file.raw) {
     PutBack({named.file.raw, current.raw}, renamer);
   }

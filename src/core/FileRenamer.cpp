@@ -13,7 +13,7 @@ FileRenamer::FileRenamer(const RenameContext& context, const QByteArray& folder,
                          const std::vector<platform::FileName>& selection)
     : context_(context),
       folder_(folder),
-      index_(FolderIndex::Read(context.fs, folder)),
+      index_(FolderIndex::Read(context.fs, folder, FileSetFinder::CompanionSuffixes())),
       finder_(index_, selection),
       setRenamer_(context.fs, context.messages) {}
 
@@ -26,10 +26,25 @@ int FileRenamer::RenameFile(const QByteArray& oldPath, const QByteArray& newPath
   // A value put into a name can hold a slash ("AC/DC" from a song's tag);
   // the file must not slip into a sub-folder of that name.
   if (!InFolder(oldPath) || !InFolder(newPath)) return platform::ErrorNumberFromErrno(EINVAL);
-  ReleasePreviewIfHeld(oldPath);
-  const NamePair head{platform::BaseName(oldPath), platform::BaseName(newPath)};
+  return RenameNames({platform::BaseName(oldPath), platform::BaseName(newPath)});
+}
+
+// A batch renames ten thousand files by their names: joining each to the
+// folder only to split it off again cost more than the bookkeeping around
+// the rename. Names that hold a slash take the way of paths, which tells a
+// name in the folder from one in a sub-folder.
+int FileRenamer::RenameInFolder(const QByteArray& oldName, const QByteArray& newName) {
+  if (oldName.isEmpty() || newName.isEmpty() || oldName.contains('/') || newName.contains('/')) {
+    return RenameFile(folder_ + oldName, folder_ + newName);
+  }
+  failureShown_ = false;
+  return RenameNames({oldName, newName});
+}
+
+int FileRenamer::RenameNames(const NamePair& head) {
+  ReleasePreviewIfHeld(head.from);
   const std::vector<NamePair> companions = finder_.Companions(head.from, head.to);
-  for (const NamePair& companion : companions) ReleasePreviewIfHeld(folder_ + companion.from);
+  for (const NamePair& companion : companions) ReleasePreviewIfHeld(companion.from);
   if (companions.empty()) return RenameSingle(head);
   return RenameWithCompanions(head, companions);
 }
@@ -83,9 +98,12 @@ bool FileRenamer::HasSeparateEntries(const QByteArray& a, const QByteArray& b) {
 
 // The preview may hold a file open (a playing video); it lets go of it
 // before the name changes under it.
-void FileRenamer::ReleasePreviewIfHeld(const QByteArray& path) {
+void FileRenamer::ReleasePreviewIfHeld(const QByteArray& name) {
   QByteArray& previewed = context_.session.PreviewedPath;
-  if (previewed.isEmpty() || previewed != path) return;
+  if (previewed.size() != folder_.size() + name.size() || !previewed.startsWith(folder_) ||
+      !previewed.endsWith(name)) {
+    return;
+  }
   previewed.clear();
   context_.view.ResetPreview(QString());
 }

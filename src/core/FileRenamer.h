@@ -25,6 +25,8 @@ class FileRenamer {
   // otherwise the single file is renamed. Never replaces a file: an existing
   // target gives kFileAlreadyExists.
   int RenameFile(const QByteArray& oldPath, const QByteArray& newPath);
+  // The same for two names of the folder (no folder before them).
+  int RenameInFolder(const QByteArray& oldName, const QByteArray& newName);
 
   // Whether the last failing RenameFile or CheckCompanionTargets has told the
   // user itself (a file set's failure); if not, the caller does.
@@ -55,7 +57,8 @@ class FileRenamer {
 
  private:
   bool InFolder(const QByteArray& path) const;
-  void ReleasePreviewIfHeld(const QByteArray& path);
+  void ReleasePreviewIfHeld(const QByteArray& name);
+  int RenameNames(const NamePair& head);
   int RenameSingle(const NamePair& pair);
   int RenameWithCompanions(const NamePair& head, const std::vector<NamePair>& companions);
 

@@ -63,8 +63,11 @@ const FileSetFinder::SelectionSets& FileSetFinder::Selected() const {
   return sets;
 }
 
+std::vector<QByteArray> FileSetFinder::CompanionSuffixes() { return {kThm, kXmp}; }
+
 std::vector<NamePair> FileSetFinder::Companions(const QByteArray& head, const QByteArray& newHead) const {
   std::vector<NamePair> pairs;
+  if (index_.CountedNames() == 0) return pairs;
   if (TakesThm(head)) AddThm(head, BaseOf(newHead), &pairs);
   if (CanTakeSidecars(head)) AddSidecars(head, newHead, &pairs);
   return pairs;

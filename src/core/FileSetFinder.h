@@ -34,6 +34,11 @@ class FileSetFinder {
  public:
   FileSetFinder(const FolderIndex& index, const std::vector<platform::FileName>& selection);
 
+  // The endings of every file that can go along with another (in lower
+  // case): an index that counts them lets a folder without any skip the
+  // search.
+  static std::vector<QByteArray> CompanionSuffixes();
+
   // The companions of `head`, renamed for `newHead`; empty when it heads no
   // set. Pairs whose name would not change are left out.
   std::vector<NamePair> Companions(const QByteArray& head, const QByteArray& newHead) const;

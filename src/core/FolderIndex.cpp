@@ -14,7 +14,8 @@ bool SameFolded(QByteArrayView a, QByteArrayView b) { return AsciiFoldedName()(a
 
 }  // namespace
 
-FolderIndex::FolderIndex(const std::vector<QByteArray>& names) {
+FolderIndex::FolderIndex(const std::vector<QByteArray>& names, std::vector<QByteArray> countedSuffixes)
+    : countedSuffixes_(std::move(countedSuffixes)) {
   std::size_t size = 16;
   while (size < names.size() * 2) size *= 2;
   slots_.resize(size);
@@ -22,10 +23,18 @@ FolderIndex::FolderIndex(const std::vector<QByteArray>& names) {
   for (const QByteArray& name : names) Add(name);
 }
 
-FolderIndex FolderIndex::Read(platform::FileSystem& fs, const QByteArray& folder) {
+FolderIndex FolderIndex::Read(platform::FileSystem& fs, const QByteArray& folder,
+                              std::vector<QByteArray> countedSuffixes) {
   std::vector<QByteArray> names;
-  if (fs.ListFiles(folder, &names) != 0) return FolderIndex();
-  return FolderIndex(names);
+  if (fs.ListFiles(folder, &names) != 0) names.clear();
+  return FolderIndex(names, std::move(countedSuffixes));
+}
+
+bool FolderIndex::Counted(QByteArrayView name) const {
+  for (const QByteArray& suffix : countedSuffixes_) {
+    if (AsciiFoldedName::EndsWith(name, suffix)) return true;
+  }
+  return false;
 }
 
 qsizetype FolderIndex::FindExact(QByteArrayView name, std::uint64_t hash) const {
@@ -55,16 +64,30 @@ QByteArrayList FolderIndex::Spellings(QByteArrayView name) const {
   return spellings;
 }
 
+// One walk finds the name, or the place it goes: the first one a removal
+// left on its path, else the end of the path.
 void FolderIndex::Add(const QByteArray& name) {
   const std::uint64_t hash = HashOf(name);
-  if (FindExact(name, hash) >= 0) return;
-  if (static_cast<std::size_t>(used_ + 1) * 2 > slots_.size()) Grow();
-  Insert(name, hash);
+  if (static_cast<std::size_t>(used_ + 1) * 2 > slots_.size()) {
+    if (FindExact(name, hash) >= 0) return;
+    Grow();
+  }
+  const std::size_t mask = slots_.size() - 1;
+  std::size_t removed = slots_.size();  // none seen
+  std::size_t i = hash & mask;
+  for (;; i = (i + 1) & mask) {
+    const Slot& slot = slots_[i];
+    if (slot.name == kEmpty) break;
+    if (slot.name == kRemoved) {
+      if (removed == slots_.size()) removed = i;
+    } else if (slot.hash == hash && names_[slot.name] == name) {
+      return;
+    }
+  }
+  Place(removed == slots_.size() ? i : removed, name, hash);
 }
 
-// Takes the first free place on the name's probe path; the caller has made
-// sure the name is not there and that the table has room.
-void FolderIndex::Insert(const QByteArray& name, std::uint64_t hash) {
+void FolderIndex::Place(std::size_t at, const QByteArray& name, std::uint64_t hash) {
   std::int32_t entry;
   if (freeNames_.empty()) {
     entry = static_cast<std::int32_t>(names_.size());
@@ -74,11 +97,9 @@ void FolderIndex::Insert(const QByteArray& name, std::uint64_t hash) {
     freeNames_.pop_back();
     names_[entry] = name;
   }
-  const std::size_t mask = slots_.size() - 1;
-  std::size_t i = hash & mask;
-  while (slots_[i].name >= 0) i = (i + 1) & mask;
-  if (slots_[i].name == kEmpty) ++used_;
-  slots_[i] = {hash, entry};
+  if (slots_[at].name == kEmpty) ++used_;
+  slots_[at] = {hash, entry};
+  if (Counted(name)) ++counted_;
 }
 
 // Doubles the table (or rebuilds it at the same size when removals are
@@ -104,6 +125,7 @@ void FolderIndex::Remove(QByteArrayView name) {
   const qsizetype at = FindExact(name, HashOf(name));
   if (at < 0) return;
   Slot& slot = slots_[static_cast<std::size_t>(at)];
+  if (Counted(name)) --counted_;
   names_[slot.name] = QByteArray();
   freeNames_.push_back(slot.name);
   slot.name = kRemoved;

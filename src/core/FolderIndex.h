@@ -20,19 +20,27 @@ namespace renvale::core {
 // index out of the processor's caches; so the table is one flat array of
 // hashes that a lookup probes without touching the names, unless a hash
 // matches.
+//
+// It can also keep count of the names that end in some suffixes (any ASCII
+// letter case): most folders hold no file of the kinds that go with a
+// picture, and then nobody need look for them name by name.
 class FolderIndex {
  public:
   FolderIndex() = default;
-  explicit FolderIndex(const std::vector<QByteArray>& names);
+  explicit FolderIndex(const std::vector<QByteArray>& names, std::vector<QByteArray> countedSuffixes = {});
 
   // Lists `folder`. A folder that cannot be listed gives an empty index:
   // then no companion is found and every file is renamed on its own.
-  static FolderIndex Read(platform::FileSystem& fs, const QByteArray& folder);
+  static FolderIndex Read(platform::FileSystem& fs, const QByteArray& folder,
+                          std::vector<QByteArray> countedSuffixes = {});
 
   // True when a name spelled exactly like `name` is there.
   bool Contains(QByteArrayView name) const;
   // Every name equal to `name` without regard to ASCII letter case, sorted.
   QByteArrayList Spellings(QByteArrayView name) const;
+  // How many names end in one of the counted suffixes; -1 when none is
+  // counted, so that the answer is never taken for "none there".
+  qsizetype CountedNames() const { return countedSuffixes_.empty() ? -1 : counted_; }
 
   void Add(const QByteArray& name);
   void Remove(QByteArrayView name);
@@ -49,13 +57,17 @@ class FolderIndex {
 
   // The slot holding exactly `name`, or -1.
   qsizetype FindExact(QByteArrayView name, std::uint64_t hash) const;
-  void Insert(const QByteArray& name, std::uint64_t hash);
+  // Puts a name that is not there into the free slot `at`.
+  void Place(std::size_t at, const QByteArray& name, std::uint64_t hash);
   void Grow();
+  bool Counted(QByteArrayView name) const;
 
   std::vector<Slot> slots_;  // a power of two long, at most half in use
   std::vector<QByteArray> names_;
   std::vector<std::int32_t> freeNames_;  // entries of names_ left by removals
   qsizetype used_ = 0;                   // slots holding a name or kRemoved
+  std::vector<QByteArray> countedSuffixes_;  // in lower case
+  qsizetype counted_ = 0;
 };
 
 }  // namespace renvale::core

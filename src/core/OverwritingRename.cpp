@@ -22,21 +22,26 @@ OverwritingRename::OverwritingRename(const RenameContext& context, FileRenamer& 
 
 OverwriteOutcome OverwritingRename::Run(const platform::FileName& oldName, const QString& newName,
                                         bool targetKnown) {
-  if (!targetKnown) {
-    const OverwriteOutcome outcome = Rename(oldName, platform::FileName::TextToName(newName));
-    if (outcome.error != platform::kFileAlreadyExists || outcome.failureShown) return outcome;
-  }
-  return AskAndReplace(oldName, newName);
+  return Run(oldName, newName, platform::FileName::TextToName(newName), targetKnown);
 }
 
-OverwriteOutcome OverwritingRename::AskAndReplace(const platform::FileName& oldName, const QString& newName) {
+OverwriteOutcome OverwritingRename::Run(const platform::FileName& oldName, const QString& newName,
+                                        const QByteArray& target, bool targetKnown) {
+  if (!targetKnown) {
+    const OverwriteOutcome outcome = Rename(oldName, target);
+    if (outcome.error != platform::kFileAlreadyExists || outcome.failureShown) return outcome;
+  }
+  return AskAndReplace(oldName, newName, target);
+}
+
+OverwriteOutcome OverwritingRename::AskAndReplace(const platform::FileName& oldName, const QString& newName,
+                                                  const QByteArray& target) {
   const MessageAnswer answer =
       context_.messages.AskBeforeLoss(OverwriteQuestionText(newName), platform::MessageButtons::YesNoCancel,
                             platform::MessageIcon::Warning, texts::kOverwriteTitle);
   if (answer == MessageAnswer::No) return OverwriteOutcome{Kind::Declined};
   if (answer != MessageAnswer::Yes) return OverwriteOutcome{Kind::Cancelled};
 
-  const QByteArray target = platform::FileName::TextToName(newName);
   // On a case-folding file system "Photo.jpg" is the very file "photo.jpg":
   // deleting the target would delete the file being renamed.
   const bool caseOnly = target.compare(oldName.raw, Qt::CaseInsensitive) == 0;
@@ -63,8 +68,7 @@ int OverwritingRename::DeleteTarget(const QByteArray& newName) {
 }
 
 OverwriteOutcome OverwritingRename::Rename(const platform::FileName& oldName, const QByteArray& newName) {
-  const QByteArray& folder = renamer_.Folder();
-  const int error = renamer_.RenameFile(folder + oldName.raw, folder + newName);
+  const int error = renamer_.RenameInFolder(oldName.raw, newName);
   if (error == 0) return OverwriteOutcome{};
   return Failed(error, renamer_.FailureShown());
 }

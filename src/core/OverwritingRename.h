@@ -29,9 +29,13 @@ class OverwritingRename {
   // `targetKnown`: the caller found a file of the new name, so the
   // question comes first.
   OverwriteOutcome Run(const platform::FileName& oldName, const QString& newName, bool targetKnown);
+  // The same, with `newName` already turned into the name's bytes.
+  OverwriteOutcome Run(const platform::FileName& oldName, const QString& newName, const QByteArray& target,
+                       bool targetKnown);
 
  private:
-  OverwriteOutcome AskAndReplace(const platform::FileName& oldName, const QString& newName);
+  OverwriteOutcome AskAndReplace(const platform::FileName& oldName, const QString& newName,
+                                 const QByteArray& target);
   // Deletes the file of the new name; a failure is shown. Returns 0 or the error.
   int DeleteTarget(const QByteArray& newName);
   OverwriteOutcome Rename(const platform::FileName& oldName, const QByteArray& newName);

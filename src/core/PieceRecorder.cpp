@@ -14,13 +14,13 @@ PieceRecorder::~PieceRecorder() {
 void PieceRecorder::Submit(std::vector<PlanStep> steps) {
   inFlight_ = true;
   if (!background_) {
-    result_ = recorded_.Add(steps);
+    result_ = recorded_.Add(std::move(steps));
     return;
   }
   // Nothing else touches the recorder until Wait: the future's hand-over
   // orders the writes before the renames that rely on them.
   pending_ = std::async(std::launch::async,
-                        [this, piece = std::move(steps)] { return recorded_.Add(piece); });
+                        [this, piece = std::move(steps)]() mutable { return recorded_.Add(std::move(piece)); });
 }
 
 bool PieceRecorder::Settled() const {

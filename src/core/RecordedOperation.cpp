@@ -13,13 +13,15 @@ RecordedOperation::~RecordedOperation() {
   if (begun_) recorder_->End();
 }
 
-int RecordedOperation::Add(const std::vector<PlanStep>& steps) {
+// The steps are taken over, not copied: the first piece of a long batch
+// holds every one of its ten thousand renames.
+int RecordedOperation::Add(std::vector<PlanStep> steps) {
   if (recorder_ == nullptr || steps.empty() || error_ != 0) return error_;
   if (begun_) {
     error_ = recorder_->Extend(steps);
     return error_;
   }
-  start_.steps = steps;
+  start_.steps = std::move(steps);
   error_ = recorder_->Begin(start_);
   start_.steps.clear();
   begun_ = error_ == 0;

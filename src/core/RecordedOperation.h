@@ -21,7 +21,7 @@ class RecordedOperation {
 
   // Adds steps worked out on the way, durable before it returns; 0 or the
   // error, after which none of them may be taken.
-  int Add(const std::vector<PlanStep>& steps);
+  int Add(std::vector<PlanStep> steps);
 
   // Whether Add may run on a second thread (see OperationRecorder).
   bool FromAnyThread() const { return recorder_ != nullptr && recorder_->WritesFromAnyThread(); }

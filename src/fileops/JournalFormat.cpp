@@ -1,6 +1,7 @@
 #include "fileops/JournalFormat.h"
 
 #include <QList>
+#include <algorithm>
 #include <charconv>
 
 namespace renvale::fileops {
@@ -21,52 +22,60 @@ quint64 Checksum(const char* data, qint64 size) {
   return hash;
 }
 
-// A batch writes ten thousand paths before its first rename: the fields
-// go straight into the one buffer, with no string made per field.
-void AppendHex(QByteArray& out, const QByteArray& raw) {
+// A batch writes ten thousand paths before its first rename: each step
+// line is written in place into the one buffer, with no string made and
+// no size checked per field.
+char* PutHex(char* p, const QByteArray& raw) {
   if (raw.isEmpty()) {
-    out += '-';
-    return;
+    *p++ = '-';
+    return p;
   }
   static constexpr char kDigits[] = "0123456789abcdef";
-  const qsizetype at = out.size();
-  out.resize(at + 2 * raw.size());
-  char* p = out.data() + at;
   for (const char c : raw) {
     *p++ = kDigits[static_cast<unsigned char>(c) >> 4];
     *p++ = kDigits[static_cast<unsigned char>(c) & 15];
   }
+  return p;
+}
+
+void AppendHex(QByteArray& out, const QByteArray& raw) {
+  const qsizetype at = out.size();
+  out.resize(at + std::max<qsizetype>(1, 2 * raw.size()));
+  PutHex(out.data() + at, raw);
 }
 
 template <typename Integer>
-void AppendNumber(QByteArray& out, Integer value) {
-  char digits[24];
-  const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-  out.append(digits, end - digits);
+char* PutNumber(char* p, Integer value) {
+  *p++ = ' ';
+  return std::to_chars(p, p + 20, value).ptr;
 }
 
 void AppendStep(QByteArray& out, const core::PlanStep& step) {
+  // "step K " and the numbers' spaces, signs and at most 20 digits each.
+  constexpr qsizetype kMostBesidesPaths = 7 + 1 + 4 * 21 + 3;
   const core::FileIdentity& id = step.identity;
-  out += "step ";
-  out += static_cast<char>(step.kind);
-  out += ' ';
-  AppendHex(out, step.from);
-  out += ' ';
-  AppendHex(out, step.to);
-  for (const qint64 value : {id.size, id.modifiedNs}) {
-    out += ' ';
-    AppendNumber(out, value);
-  }
-  for (const quint64 value : {id.device, id.inode}) {
-    out += ' ';
-    AppendNumber(out, value);
-  }
-  out += id.inodeStable ? " 1\n" : " 0\n";
+  const qsizetype at = out.size();
+  out.resize(at + 2 * (step.from.size() + step.to.size()) + 2 + kMostBesidesPaths);
+  char* p = out.data() + at;
+  p = std::copy_n("step ", 5, p);
+  *p++ = static_cast<char>(step.kind);
+  *p++ = ' ';
+  p = PutHex(p, step.from);
+  *p++ = ' ';
+  p = PutHex(p, step.to);
+  p = PutNumber(p, id.size);
+  p = PutNumber(p, id.modifiedNs);
+  p = PutNumber(p, id.device);
+  p = PutNumber(p, id.inode);
+  p = std::copy_n(id.inodeStable ? " 1\n" : " 0\n", 3, p);
+  out.truncate(p - out.constData());
 }
 
 // Steps, then the checksum of everything from `start` on.
 void AppendSteps(QByteArray& out, qsizetype start, const std::vector<core::PlanStep>& steps) {
-  out.reserve(out.size() + static_cast<qsizetype>(steps.size()) * 160);
+  qsizetype most = out.size() + 64;
+  for (const core::PlanStep& step : steps) most += 2 * (step.from.size() + step.to.size()) + 128;
+  out.reserve(most);
   for (const core::PlanStep& step : steps) AppendStep(out, step);
   out += kSum + QByteArray::number(Checksum(out.constData() + start, out.size() - start), 16) + '\n';
 }

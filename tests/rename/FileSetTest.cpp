@@ -43,7 +43,7 @@ TEST(FileSetFinder, FindsCompanionsByTheirRules) {
 }
 
 TEST(FolderIndex, KeepsEverySpellingApartAndFoldsOnlyAsciiLetters) {
-  core::FolderIndex index(std::vector<QByteArray>{"a.jpg", "A.JPG", "b.jpg", "\xc3\x89.jpg"});
+  core::FolderIndex index(std::vector<QByteArray>{"a.jpg", "A.JPG", "b.jpg", "\xc3\x89.jpg"}, {".jpg"});
   EXPECT_EQ(index.Spellings("A.jpg"), QByteArrayList({"A.JPG", "a.jpg"}));
   EXPECT_TRUE(index.Spellings("\xc3\xa9.jpg").isEmpty()) << "e acute and E acute are different names";
   index.Move("A.JPG", "c.jpg");
@@ -54,6 +54,8 @@ TEST(FolderIndex, KeepsEverySpellingApartAndFoldsOnlyAsciiLetters) {
   EXPECT_EQ(index.Spellings("c.jpg").size(), 1);
   index.Remove("B.JPG");
   EXPECT_TRUE(index.Contains("b.jpg")) << "only the exact spelling is removed";
+  index.Move("b.jpg", "b.png");
+  EXPECT_EQ(index.CountedNames(), 3) << "a.jpg, c.jpg and the e acute one, each once";
 }
 
 TEST(FolderIndex, StaysExactThroughManyRenames) {
