@@ -310,26 +310,36 @@ bool BatchCommand::BasesUsable(const QString& base) {
   return true;
 }
 
+// A plain run's report names each file as it was given; its old name is
+// not worked out.
 std::vector<OutputRow> BatchCommand::RenameGroup(GroupRun& run, const core::RandomSeriesPool::RandomSource& random,
                                                  qint64* seriesTaken, QString* seriesAfter) {
   const Group& group = run.group;
   std::vector<OutputRow> rows;
   rows.reserve(group.files.size());
+  for (const QByteArray& given : group.given) rows.push_back(OutputRow{given, {}, {}, {}, {}, OutputRow::Status::Planned});
+  // Files are told in list order, except those that waited for a name to
+  // be left: only then is a file's row looked up.
+  size_t next = 0;
   QHash<QByteArray, size_t> rowOf;
-  rowOf.reserve(static_cast<qsizetype>(group.files.size()));
-  for (size_t i = 0; i < group.files.size(); ++i) {
-    rows.push_back(OutputRow{group.given[i], group.files[i].Display(), {}, {}, {}, OutputRow::Status::Planned});
-    rowOf.insert(group.files[i].raw, i);
-  }
+  const auto rowFor = [&](const QByteArray& raw) -> OutputRow& {
+    if (next >= group.files.size() || group.files[next].raw != raw) {
+      if (rowOf.isEmpty()) {
+        for (size_t i = group.files.size(); i-- > 0;) rowOf.insert(group.files[i].raw, i);
+      }
+      next = rowOf.value(raw);
+    }
+    return rows[next++];
+  };
   Select(run.session, group);
   const core::RenameContext context = Context(run.session, run.view);
   core::BatchRename batch(context, random);
   batch.ObserveTurns([&](const core::NamedFile& named, bool renamed) {
-    OutputRow& row = rows[rowOf.value(named.file.raw)];
+    OutputRow& row = rowFor(named.file.raw);
     row.newName = named.newName;
-    row.status = renamed                        ? OutputRow::Status::Renamed
-                 : row.newName == row.oldName ? OutputRow::Status::Unchanged
-                                                : OutputRow::Status::Skipped;
+    row.status = renamed ? OutputRow::Status::Renamed
+                 : named.sameName ? OutputRow::Status::Unchanged
+                                  : OutputRow::Status::Skipped;
     if (named.seriesTaken) {
       ++*seriesTaken;
       *seriesAfter = named.seriesAfter;
