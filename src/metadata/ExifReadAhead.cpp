@@ -8,10 +8,24 @@ ExifReadAhead::ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder,
                              const std::vector<QByteArray>& rawNames, const ExifDateFormats& formats)
     : fs_(fs), folder_(folder), held_(fs.HoldFolder(folder)), names_(rawNames), formats_(formats),
       results_(rawNames.size()), done_(rawNames.size(), 0), taken_(rawNames.size(), false) {
-  positions_.reserve(static_cast<qsizetype>(names_.size()));
-  // A name listed twice is read at its first place.
-  for (qsizetype i = static_cast<qsizetype>(names_.size()) - 1; i >= 0; --i) positions_.insert(names_[i], i);
   reader_ = std::jthread([this](const std::stop_token& stop) { Work(stop); });
+}
+
+qsizetype ExifReadAhead::PositionOf(const QByteArray& rawName, bool taking) {
+  const auto next = static_cast<size_t>(lastTaken_ + 1);
+  qsizetype at = -1;
+  if (next < names_.size() && names_[next] == rawName) {
+    at = lastTaken_ + 1;
+  } else {
+    if (positions_.isEmpty()) {
+      positions_.reserve(static_cast<qsizetype>(names_.size()));
+      // A name listed twice is found at its first place.
+      for (qsizetype i = static_cast<qsizetype>(names_.size()) - 1; i >= 0; --i) positions_.insert(names_[i], i);
+    }
+    at = positions_.value(rawName, -1);
+  }
+  if (taking && at >= 0) lastTaken_ = at;
+  return at;
 }
 
 ExifReadAhead::~ExifReadAhead() { Drop(); }
@@ -55,9 +69,8 @@ ExifReadAhead::Result ExifReadAhead::Read(size_t at) const {
 bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, const ExifDateFormats& formats,
                          Result* out) {
   if (folder != folder_ || formats.date != formats_.date || formats.time != formats_.time) return false;
-  const auto found = positions_.constFind(rawName);
-  if (found == positions_.cend()) return false;
-  const qsizetype at = *found;
+  const qsizetype at = PositionOf(rawName, true);
+  if (at < 0) return false;
   std::unique_lock<std::mutex> hold(lock_);
   // Asking for a file lets the reader go on to it however far it lies.
   wanted_ = std::max(wanted_, at + 1);
@@ -82,10 +95,10 @@ bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, co
 }
 
 bool ExifReadAhead::Ready(const QByteArray& rawName) {
-  const auto found = positions_.constFind(rawName);
-  if (found == positions_.cend()) return true;
+  const qsizetype at = PositionOf(rawName, false);
+  if (at < 0) return true;
   const std::lock_guard<std::mutex> hold(lock_);
-  return dropped_ || done_[static_cast<size_t>(*found)] != 0;
+  return dropped_ || done_[static_cast<size_t>(at)] != 0;
 }
 
 void ExifReadAhead::Drop() {

@@ -63,6 +63,8 @@ class ExifReadAhead {
   // the read; false when every file is claimed or reading was dropped.
   bool ReadNext(std::unique_lock<std::mutex>& hold);
   Result Read(size_t at) const;
+  // Where `rawName` stands in the list, or -1.
+  qsizetype PositionOf(const QByteArray& rawName, bool taking);
 
   platform::FileSystem& fs_;
   const QByteArray folder_;
@@ -71,6 +73,10 @@ class ExifReadAhead {
   const std::unique_ptr<platform::ReadableFolder> held_;
   const std::vector<QByteArray> names_;
   const ExifDateFormats formats_;
+  // Takers ask in list order, mostly: the name after the last one taken is
+  // looked at first, and the table of every name's place is made only the
+  // first time the answer is another. Used by the takers' thread alone.
+  qsizetype lastTaken_ = -1;
   QHash<QByteArray, qsizetype> positions_;
   std::vector<Result> results_;  // filled where done_ is set
   std::vector<char> done_;
