@@ -23,6 +23,16 @@ void PieceRecorder::Submit(std::vector<PlanStep> steps) {
                         [this, piece = std::move(steps)]() mutable { return recorded_.Add(std::move(piece)); });
 }
 
+void PieceRecorder::Submit(std::function<std::vector<PlanStep>()> describe) {
+  inFlight_ = true;
+  if (!background_) {
+    result_ = recorded_.Add(describe());
+    return;
+  }
+  pending_ = std::async(std::launch::async,
+                        [this, describe = std::move(describe)] { return recorded_.Add(describe()); });
+}
+
 bool PieceRecorder::Settled() const {
   return !inFlight_ || !background_ ||
          pending_.wait_for(std::chrono::seconds(0)) == std::future_status::ready;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <future>
 #include <vector>
 
@@ -24,6 +25,11 @@ class PieceRecorder {
 
   // Starts keeping `steps`; the piece before must have been waited for.
   void Submit(std::vector<PlanStep> steps);
+  // Starts keeping the steps `describe` gives. It runs where the piece is
+  // written, on the second thread where there is one, so that what it asks
+  // the system (the files' identities) is not asked between renames; it
+  // must read nothing the renames change.
+  void Submit(std::function<std::vector<PlanStep>()> describe);
   bool InFlight() const { return inFlight_; }
   // True once Wait would not block.
   bool Settled() const;

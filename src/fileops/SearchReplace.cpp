@@ -5,9 +5,12 @@
 #include <algorithm>
 
 #include "core/CoreTexts.h"
+#include "core/PieceRecorder.h"
+#include "core/PlanIdentity.h"
 #include "core/RecordedOperation.h"
 #include "fileops/FileopsTexts.h"
 #include "platform/ErrorNumbers.h"
+#include "platform/FileNumbers.h"
 
 namespace renvale::fileops {
 
@@ -100,6 +103,24 @@ bool NeedsPlanning(const std::vector<core::RenameMove>& moves, const core::Folde
   return false;
 }
 
+// A piece's renames as a plan lists them, each with its file's identity
+// now; it runs on the thread that writes the piece.
+std::vector<core::PlanStep> PieceSteps(platform::FileSystem& fs, const QByteArray& folder, bool inodeStable,
+                                       const std::vector<const core::RenameMove*>& piece) {
+  std::vector<core::PlanStep> steps;
+  steps.reserve(piece.size());
+  const auto add = [&](const core::NamePair& pair) {
+    QByteArray from = folder + pair.from;
+    core::FileIdentity identity = core::IdentityOf(fs, from, inodeStable);
+    steps.push_back({core::StepKind::Rename, std::move(from), folder + pair.to, identity});
+  };
+  for (const core::RenameMove* move : piece) {
+    add(move->head);
+    for (const core::NamePair& companion : move->companions) add(companion);
+  }
+  return steps;
+}
+
 }  // namespace
 
 SearchReplace::SearchReplace(const core::RenameContext& context, SearchReplaceView& view)
@@ -131,10 +152,10 @@ void SearchReplace::Execute(const SearchTerms& terms) {
 
 void SearchReplace::RunOver(const SearchTerms& terms) {
   const std::vector<platform::FileName> files = context_.view.SelectedFiles();
-  const int maximum = std::max(1, static_cast<int>(files.size()));
-  int progress = 0;
-  view_.SetProgressMaximum(maximum);
-  view_.SetProgress(progress);
+  maximum_ = std::max(1, static_cast<int>(files.size()));
+  progress_ = 0;
+  view_.SetProgressMaximum(maximum_);
+  view_.SetProgress(progress_);
   // The folder is held for the whole run: events that run meanwhile may
   // change the window's folder, never the files being renamed.
   core::FileRenamer renamer(context_, context_.session.CurrentFolder, files);
@@ -142,24 +163,97 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
   newNames.reserve(files.size());
   for (const platform::FileName& file : files) newNames.push_back(terms.Apply(file.raw));
   aside_.clear();
-  const std::vector<core::PlannedTurn> turns = Turns(files, newNames, renamer);
+  const Moves moves = FindMoves(files, newNames, renamer);
+  const bool inListOrder = !NeedsPlanning(moves.moves, renamer.Index());
+  const std::vector<core::PlannedTurn> turns =
+      inListOrder ? core::TurnsInListOrder(files.size(), {}, {}) : PlannedTurns(files.size(), moves, renamer);
+  const Run run{files, newNames, turns, renamer};
+  if (context_.recorder != nullptr && inListOrder) {
+    RunInPieces(run, moves);
+    return;
+  }
   const core::RecordedOperation recorded(
       context_.recorder,
       context_.recorder == nullptr ? core::OperationPlan{} : Plan(turns, files, newNames, renamer));
-  if (recorded.Error() != platform::kNoError) {
-    context_.messages.Notify(core::texts::kPlanNotKept.arg(platform::ErrorDescription(recorded.Error())),
-                             MessageIcon::Critical);
-    return;
-  }
-  for (const core::PlannedTurn& turn : turns) {
-    if (TakeTurn(turn, files[turn.file], newNames[turn.file], renamer) == Step::Stop) {
-      PutBackAside(renamer);
+  if (PlanKept(recorded.Error())) TakeTurns(run, 0, turns.size());
+}
+
+// Where the turns are the list's order the plan is kept a piece at a time,
+// each piece durable before its first rename and written while the pieces
+// before it are renamed: the flushes and the identities then cost the run
+// next to nothing. That is safe because in such a run no rename puts a file
+// at a name another step leaves from (no new name is held by any file of
+// the folder, in any letter case): the file found at a step's source,
+// however late its identity is taken, is the file that step moves.
+// A piece is handed over as soon as the one before it is durable, not when
+// the renames reach it, so the writing keeps ahead; pieces double, so a
+// long run flushes a dozen times at most, and the first is short, so that
+// renaming starts soon.
+void SearchReplace::RunInPieces(const Run& run, const Moves& moves) {
+  constexpr size_t kFirstPiece = 128;
+  core::RecordedOperation recorded(context_.recorder, {core::OperationKind::SearchReplace, run.renamer.Folder(),
+                                                       QDateTime::currentDateTimeUtc(), {}});
+  core::PieceRecorder pieces(recorded);
+  const bool inodeStable = platform::FileNumbersStable(run.renamer.Folder());
+  const size_t count = run.turns.size();
+  size_t handed = 0;   // turns whose piece was handed over
+  size_t durable = 0;  // turns whose piece is durable
+  size_t length = kFirstPiece / 2;
+  size_t move = 0;     // the first move not handed over
+  const auto handOver = [&] {
+    length *= 2;
+    const size_t end = std::min(handed + length, count);
+    std::vector<const core::RenameMove*> piece;
+    for (; move < moves.file.size() && moves.file[move] < end; ++move) {
+      if (!run.renamer.Sets().TravelsWithSelectedHead(moves.moves[move].head.from)) {
+        piece.push_back(&moves.moves[move]);
+      }
+    }
+    pieces.Submit([&fs = context_.fs, folder = run.renamer.Folder(), inodeStable, piece = std::move(piece)] {
+      return PieceSteps(fs, folder, inodeStable, piece);
+    });
+    handed = end;
+  };
+  if (count > 0) handOver();
+  int refused = 0;  // why the piece after the durable ones could not be kept
+  for (size_t t = 0; t < count; ++t) {
+    if (refused == 0 && pieces.InFlight() && (t == durable || pieces.Settled())) {
+      refused = pieces.Wait();
+      if (refused == 0) durable = handed;
+      if (refused == 0 && handed < count) handOver();
+    }
+    // The files of the pieces kept are renamed before a refusal stops the run.
+    if (t == durable) {
+      PlanKept(refused);
       return;
     }
-    if (progress < maximum) view_.SetProgress(++progress);
+    if (TakeTurns(run, t, t + 1) == Step::Stop) return;
+  }
+}
+
+SearchReplace::Step SearchReplace::TakeTurns(const Run& run, size_t begin, size_t end) {
+  for (size_t t = begin; t < end; ++t) {
+    const core::PlannedTurn& turn = run.turns[t];
+    if (TakeTurn(turn, run.files[turn.file], run.newNames[turn.file], run.renamer) == Step::Stop) {
+      PutBackAside(run.renamer);
+      return Step::Stop;
+    }
+    if (progress_ < maximum_) view_.SetProgress(++progress_);
     view_.ResultsSoFar(results_);
     view_.ProcessEvents();
   }
+  return Step::Next;
+}
+
+// A piece that cannot be kept stops the run before any of its files; the
+// pieces kept before it may have been renamed, and the results say where
+// the run stopped.
+bool SearchReplace::PlanKept(int error) {
+  if (error == platform::kNoError) return true;
+  const QString& text = folderChanged_ ? core::texts::kPlanRestNotKept : core::texts::kPlanNotKept;
+  context_.messages.Notify(text.arg(platform::ErrorDescription(error)), MessageIcon::Critical);
+  if (folderChanged_) AddLine(texts::kRunCancelled);
+  return false;
 }
 
 // The renames in the order the turns take them, hidden names included, so
@@ -194,36 +288,39 @@ core::OperationPlan SearchReplace::Plan(const std::vector<core::PlannedTurn>& tu
   return plan;
 }
 
+SearchReplace::Moves SearchReplace::FindMoves(const std::vector<platform::FileName>& files,
+                                              const std::vector<QByteArray>& newNames,
+                                              const core::FileRenamer& renamer) const {
+  Moves found;
+  found.moves.reserve(files.size());
+  found.file.reserve(files.size());
+  for (size_t i = 0; i < files.size(); ++i) {
+    if (newNames[i] == files[i].raw) continue;
+    found.moves.push_back({{files[i].raw, newNames[i]}, renamer.Sets().Companions(files[i].raw, newNames[i])});
+    found.file.push_back(i);
+  }
+  return found;
+}
+
 // Names that another file of the run leaves are taken after it has left
 // them, through a hidden name where names form a cycle: no question, no loss.
 // A file that moves with a renamed picture keeps its turn and finds itself gone.
-std::vector<core::PlannedTurn> SearchReplace::Turns(const std::vector<platform::FileName>& files,
-                                                    const std::vector<QByteArray>& newNames,
-                                                    core::FileRenamer& renamer) const {
-  std::vector<core::RenameMove> moves;
-  std::vector<size_t> moveFile;
-  moves.reserve(files.size());
-  moveFile.reserve(files.size());
-  for (size_t i = 0; i < files.size(); ++i) {
-    if (newNames[i] == files[i].raw) continue;
-    moves.push_back({{files[i].raw, newNames[i]}, renamer.Sets().Companions(files[i].raw, newNames[i])});
-    moveFile.push_back(i);
-  }
-  if (!NeedsPlanning(moves, renamer.Index())) return core::TurnsInListOrder(files.size(), {}, {});
+std::vector<core::PlannedTurn> SearchReplace::PlannedTurns(size_t fileCount, const Moves& moves,
+                                                           const core::FileRenamer& renamer) const {
   QSet<QByteArray> companions;
-  for (const core::RenameMove& move : moves) {
+  for (const core::RenameMove& move : moves.moves) {
     for (const core::NamePair& pair : move.companions) companions.insert(pair.from);
   }
   std::vector<core::RenameMove> planned;
   std::vector<size_t> plannedFile;
-  for (size_t m = 0; m < moves.size(); ++m) {
-    if (companions.contains(moves[m].head.from)) continue;
-    planned.push_back(moves[m]);
-    plannedFile.push_back(moveFile[m]);
+  for (size_t m = 0; m < moves.moves.size(); ++m) {
+    if (companions.contains(moves.moves[m].head.from)) continue;
+    planned.push_back(moves.moves[m]);
+    plannedFile.push_back(moves.file[m]);
   }
   const core::RenamePlan plan =
       core::PlanRenames(planned, [&renamer](const QByteArray& name) { return renamer.Index().Contains(name); });
-  return core::TurnsInListOrder(files.size(), plannedFile, plan);
+  return core::TurnsInListOrder(fileCount, plannedFile, plan);
 }
 
 SearchReplace::Step SearchReplace::TakeTurn(const core::PlannedTurn& turn, const platform::FileName& file,

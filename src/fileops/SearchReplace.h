@@ -31,9 +31,29 @@ class SearchReplace {
  private:
   enum class Step { Next, Stop };
 
+  // The files whose names change, with the companions that go along, as
+  // the folder holds them before the first rename.
+  struct Moves {
+    std::vector<core::RenameMove> moves;
+    std::vector<size_t> file;  // each move's place in the list, ascending
+  };
+
+  // The files and their new names, in the order the run takes them.
+  struct Run {
+    const std::vector<platform::FileName>& files;
+    const std::vector<QByteArray>& newNames;
+    const std::vector<core::PlannedTurn>& turns;
+    core::FileRenamer& renamer;
+  };
+
   void RunOver(const SearchTerms& terms);
-  std::vector<core::PlannedTurn> Turns(const std::vector<platform::FileName>& files,
-                                       const std::vector<QByteArray>& newNames, core::FileRenamer& renamer) const;
+  void RunInPieces(const Run& run, const Moves& moves);
+  Step TakeTurns(const Run& run, size_t begin, size_t end);
+  bool PlanKept(int error);
+  Moves FindMoves(const std::vector<platform::FileName>& files, const std::vector<QByteArray>& newNames,
+                  const core::FileRenamer& renamer) const;
+  std::vector<core::PlannedTurn> PlannedTurns(size_t fileCount, const Moves& moves,
+                                              const core::FileRenamer& renamer) const;
   Step TakeTurn(const core::PlannedTurn& turn, const platform::FileName& file, const QByteArray& newName,
                 core::FileRenamer& renamer);
   core::OperationPlan Plan(const std::vector<core::PlannedTurn>& turns, const std::vector<platform::FileName>& files,
@@ -57,6 +77,8 @@ class SearchReplace {
   const core::RenameContext& context_;
   SearchReplaceView& view_;
   QString results_;
+  int progress_ = 0;
+  int maximum_ = 1;
   bool anyRenamed_ = false;
   bool folderChanged_ = false;
   std::vector<core::NamePair> aside_;  // files under a hidden name until their turn: old -> hidden

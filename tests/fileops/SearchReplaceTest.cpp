@@ -1,5 +1,9 @@
 #include "fileops/SearchReplace.h"
 
+#include <QFile>
+
+#include "core/OperationRecorder.h"
+#include "core/PlanIdentity.h"
 #include "platform/ErrorNumbers.h"
 #include "rename/RenameFixture.h"
 
@@ -186,6 +190,50 @@ TEST_F(SearchReplaceRun, FilesTradingNamesAreNeitherAskedAboutNorLost) {
     EXPECT_EQ(Folder(), row.after);
     EXPECT_EQ(port.Texts(), QStringList{kComplete});
   }
+}
+
+// Takes each piece after checking that its files are still where its steps
+// say; refuses piece `refused`. Written meanwhile unless the second is refused.
+struct PieceCheckingRecorder : core::OperationRecorder {
+  int Begin(const core::OperationPlan& plan) override { return Extend(plan.steps); }
+  int Extend(const std::vector<core::PlanStep>& steps) override {
+    for (const auto& step : steps) EXPECT_TRUE(core::HoldsFile(platform::RealFileSystem(), step.from, step.identity));
+    if (pieces.size() == refused) return platform::kErrnoBase + ENOSPC;
+    pieces.push_back(steps.size());
+    return 0;
+  }
+  void End() override {}
+  bool WritesFromAnyThread() const override { return refused != 1; }
+  size_t refused = SIZE_MAX;
+  std::vector<size_t> pieces;
+};
+
+// 300 files go in pieces of 128 and 172. A refused piece stops the run
+// before its first file, saying whether files were renamed before it.
+TEST_F(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
+  const QString why = " could not be saved for Undo (No space left on device).";
+  const struct { size_t refused; std::vector<size_t> pieces; int renamed; QString first; } rows[] = {
+      {SIZE_MAX, {128, 172}, 300, kComplete},
+      {1, {128}, 128, "The remaining files were not renamed: the plan of the rest of this operation" + why},
+      {0, {}, 0, "Nothing was changed: the plan of this operation" + why}};
+  for (const auto& row : rows) {
+    Remake({});
+    view.selected.clear();
+    for (int i = 1000; i < 1300; ++i) {
+      view.selected.push_back(platform::FileName{"IMG_" + QByteArray::number(i) + ".jpg"});
+      QFile(QString::fromUtf8(Path(view.selected.back().raw))).open(QIODevice::WriteOnly);
+    }
+    PieceCheckingRecorder recorder;
+    recorder.refused = row.refused;
+    context.recorder = &recorder;
+    port.Clear();
+    Run({{"IMG", "Pic"}});
+    EXPECT_EQ(recorder.pieces, row.pieces);
+    EXPECT_EQ(Folder().count("Pic_" + QByteArray::number(999 + row.renamed) + ".jpg"), row.renamed > 0 ? 1U : 0U);
+    EXPECT_EQ(Folder().count("IMG_" + QByteArray::number(1000 + row.renamed) + ".jpg"), row.renamed < 300 ? 1U : 0U);
+    EXPECT_EQ(port.messages.at(0).text, row.first);
+  }
+  EXPECT_TRUE(search.results[1].endsWith("\nThe file renaming operation was cancelled."));
 }
 
 }  // namespace
