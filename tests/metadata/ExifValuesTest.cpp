@@ -1,9 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include "QStringPrinter.h"
 
 #include "metadata/DateTimePicture.h"
 #include "metadata/ExifDateTime.h"
+#include "metadata/ExifReadAhead.h"
 #include "metadata/ExifReader.h"
 #include "metadata/ExifValues.h"
 #include "metadata/FileDates.h"
@@ -11,6 +15,7 @@
 #include "metadata/PreviewOrientation.h"
 #include "metadata/ReportFormat.h"
 #include "platform/ErrorNumbers.h"
+#include "platform/FileSystem.h"
 #include "support/MemoryFileSystem.h"
 #include "support/SampleAudio.h"
 #include "support/SampleImages.h"
@@ -88,6 +93,28 @@ TEST_F(ExifValuesTest, ReaderErrorIsShownAndGivesNothing) {
   EXPECT_EQ(messages.Last().text, "EXIF Error: " + reader.Status());
   EXPECT_EQ(messages.Last().buttons, platform::MessageButtons::Ok);
   EXPECT_EQ(messages.Last().title, platform::kProgramTitle);
+}
+
+// A taker that asks out of list order still gets each file's own values,
+// once. Real files: both threads read, as in a batch.
+TEST(ExifReadAhead, HandsEachFileItsOwnValuesInAnyOrder) {
+  QTemporaryDir dir;
+  const QByteArray folder = QFile::encodeName(dir.path()) + '/';
+  platform::FileSystem& fs = platform::RealFileSystem();
+  ExifFields exif = TypicalExifFields();
+  fs.WriteWholeFile(folder + "exif.jpg", MakeExifJpeg(&exif));
+  exif.imageNumber = -1;
+  fs.WriteWholeFile(folder + "noserial.jpg", MakeExifJpeg(&exif));
+  fs.WriteWholeFile(folder + "plain.jpg", MakeExifJpeg(nullptr));
+  metadata::ExifReadAhead ahead(fs, folder, {"plain.jpg", "exif.jpg", "noserial.jpg"}, kFormats);
+  metadata::ExifReadAhead::Result got;
+  ASSERT_TRUE(ahead.Take(folder, "exif.jpg", kFormats, &got));
+  EXPECT_EQ(got.values.serial, "1234567");
+  ASSERT_TRUE(ahead.Take(folder, "plain.jpg", kFormats, &got));
+  EXPECT_NE(got.values.dateOrigin, metadata::DateOrigin::ExifOriginal);
+  ASSERT_TRUE(ahead.Take(folder, "noserial.jpg", kFormats, &got));
+  EXPECT_EQ(got.values.date + got.values.serial, "2004-07-15");
+  EXPECT_FALSE(ahead.Take(folder, "exif.jpg", kFormats, &got));
 }
 
 TEST(PreviewTurn, FirstThreeLettersOfTheWordDecide) {
