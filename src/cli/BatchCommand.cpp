@@ -189,13 +189,6 @@ bool BatchCommand::PreviewAll(const BatchArguments& args, std::vector<std::uniqu
     auto run = std::make_unique<GroupRun>(group, base, series, args.randomSeries);
     Select(run->session, group);
     run->preview = core::PreviewBatch(Context(run->session, run->view), random);
-    if (!run->preview.stopText.isEmpty()) {
-      // The window's words point at its Help button; the one way to meet
-      // them here is a name that is the first file's own.
-      const bool ownName = base.compare(group.files.front().Display(), Qt::CaseInsensitive) == 0;
-      Fail(ownName ? texts::kNameIsFirstFile.arg(base) : HeadlessMessagePort::OneLine(run->preview.stopText));
-      return false;
-    }
     if (args.randomSeries) {
       const auto& named = run->preview.naming.files;
       number += std::count_if(named.begin(), named.end(), [](const core::NamedFile& f) { return f.seriesTaken; });
@@ -222,6 +215,7 @@ std::vector<OutputRow> BatchCommand::TakeRows(GroupRun& run) const {
 }
 
 int BatchCommand::RunName(const BatchArguments& args) {
+  if (!BasesUsable(args.name)) return kFailed;
   if (NamesAsItGoes(args)) return RenameAsNamed(args);
   std::vector<std::unique_ptr<GroupRun>>& runs = runs_;
   if (!PreviewAll(args, &runs)) return kFailed;
@@ -278,7 +272,6 @@ void BatchCommand::ReadAhead(const BatchArguments& args) {
 
 // The series runs on from one folder to the next, as in the preview.
 int BatchCommand::RenameAsNamed(const BatchArguments& args) {
-  if (!BasesUsable(args.name)) return kFailed;
   qint64 number = args.series.value_or(1);
   QString series = SeriesBox(number);
   const core::RandomSeriesPool::RandomSource random =
@@ -303,6 +296,8 @@ bool BatchCommand::BasesUsable(const QString& base) {
     const QString& first = group.files.front().Display();
     const core::BatchBaseVerdict verdict = core::CheckBatchBase(base, first, services_.settings.exifTime);
     if (!verdict.Stops()) continue;
+    // The window's words point at its Help button; the one way to meet
+    // them here is a name that is the first file's own.
     const bool ownName = base.compare(first, Qt::CaseInsensitive) == 0;
     Fail(ownName ? texts::kNameIsFirstFile.arg(base) : HeadlessMessagePort::OneLine(verdict.text));
     return false;
