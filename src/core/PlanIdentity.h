@@ -7,6 +7,8 @@ namespace renvale::core {
 
 // The identity of the file at `path` now; size -1 when there is none.
 FileIdentity IdentityOf(platform::FileSystem& fs, const QByteArray& path, bool inodeStable);
+// The same for the file called `name` in a folder held open.
+FileIdentity IdentityOf(platform::ReadableFolder& folder, const QByteArray& name, bool inodeStable);
 
 // Whether `info` is the file `recorded` describes. Size and modification
 // time always count; the inode only where the file system keeps it. A copy

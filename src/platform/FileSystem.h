@@ -50,6 +50,8 @@ class ReadableFolder {
   virtual ~ReadableFolder() = default;
   // As FileSystem::OpenForRead of the name joined to the folder's path.
   virtual int OpenForRead(const QByteArray& name, std::unique_ptr<ReadableFile>* file) = 0;
+  // As FileSystem::StatIdentity of the name joined to the folder's path.
+  virtual int StatIdentity(const QByteArray& name, FileInfo* info) = 0;
 };
 
 // The one door to the file system. Paths are raw bytes. Every call returns
@@ -134,6 +136,9 @@ class JoinedPathFolder : public ReadableFolder {
   JoinedPathFolder(FileSystem& fs, const QByteArray& folder) : fs_(fs), folder_(folder) {}
   int OpenForRead(const QByteArray& name, std::unique_ptr<ReadableFile>* file) override {
     return fs_.OpenForRead(JoinPath(folder_, name), file);
+  }
+  int StatIdentity(const QByteArray& name, FileInfo* info) override {
+    return fs_.StatIdentity(JoinPath(folder_, name), info);
   }
 
  private:

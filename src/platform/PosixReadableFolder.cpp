@@ -1,11 +1,22 @@
 #include "platform/PosixReadableFolder.h"
 
+#include <sys/stat.h>
+
+#include "platform/ErrorNumbers.h"
 #include "platform/PosixOpen.h"
 
 namespace renvale::platform {
 
 int PosixReadableFolder::OpenForRead(const QByteArray& name, std::unique_ptr<ReadableFile>* file) {
   return OpenReadableFileAt(fd_.get(), name, file);
+}
+
+int PosixReadableFolder::StatIdentity(const QByteArray& name, FileInfo* info) {
+  *info = FileInfo{};
+  struct stat st;
+  if (::fstatat(fd_.get(), name.constData(), &st, 0) != 0) return ErrorNumberFromErrno(errno);
+  FillIdentity(st, info);
+  return kNoError;
 }
 
 }  // namespace renvale::platform

@@ -12,6 +12,7 @@ class PosixReadableFolder : public ReadableFolder {
  public:
   explicit PosixReadableFolder(UniqueFd fd) : fd_(std::move(fd)) {}
   int OpenForRead(const QByteArray& name, std::unique_ptr<ReadableFile>* file) override;
+  int StatIdentity(const QByteArray& name, FileInfo* info) override;
 
  private:
   UniqueFd fd_;
