@@ -17,7 +17,8 @@ class OperationRecorder {
   // Adds steps to the plan begun, durable on return; 0 or an error number.
   // An operation that works its steps out as it goes adds each batch of
   // them before taking the first; on an error it takes none of them.
-  virtual int Extend(const std::vector<PlanStep>& steps) = 0;
+  // The steps are taken over: a long batch hands thousands at a time.
+  virtual int Extend(std::vector<PlanStep> steps) = 0;
   virtual void End() = 0;
   // True when Begin and Extend may run on a second thread while the
   // operation changes files on the first (never two calls at once).

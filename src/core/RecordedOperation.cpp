@@ -18,7 +18,7 @@ RecordedOperation::~RecordedOperation() {
 int RecordedOperation::Add(std::vector<PlanStep> steps) {
   if (recorder_ == nullptr || steps.empty() || error_ != 0) return error_;
   if (begun_) {
-    error_ = recorder_->Extend(steps);
+    error_ = recorder_->Extend(std::move(steps));
     return error_;
   }
   start_.steps = std::move(steps);

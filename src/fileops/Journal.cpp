@@ -84,7 +84,7 @@ int Journal::Begin(const core::OperationPlan& plan) {
   return platform::kFileAlreadyExists;
 }
 
-int Journal::Extend(const std::vector<core::PlanStep>& steps) {
+int Journal::Extend(std::vector<core::PlanStep> steps) {
   if (current_.isEmpty()) return platform::ErrorNumberFromErrno(EINVAL);
   const QByteArray addition = JournalFormat::Addition(steps);
   const int error = fs_.AppendToFile(current_, addition);
@@ -93,7 +93,8 @@ int Journal::Extend(const std::vector<core::PlanStep>& steps) {
     return error;
   }
   written_.size += addition.size();
-  written_.plan.steps.insert(written_.plan.steps.end(), steps.begin(), steps.end());
+  written_.plan.steps.insert(written_.plan.steps.end(), std::make_move_iterator(steps.begin()),
+                             std::make_move_iterator(steps.end()));
   return 0;
 }
 

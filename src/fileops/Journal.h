@@ -35,7 +35,7 @@ class Journal : public core::OperationRecorder {
   Journal(platform::FileSystem& fs, const QByteArray& folder, platform::MessagePort& messages);
 
   int Begin(const core::OperationPlan& plan) override;
-  int Extend(const std::vector<core::PlanStep>& steps) override;
+  int Extend(std::vector<core::PlanStep> steps) override;
   void End() override;
   bool WritesFromAnyThread() const override { return fs_.WritableFromAnyThread(); }
 

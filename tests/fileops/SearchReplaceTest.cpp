@@ -196,7 +196,7 @@ TEST_F(SearchReplaceRun, FilesTradingNamesAreNeitherAskedAboutNorLost) {
 // say; refuses piece `refused`. Written meanwhile unless the second is refused.
 struct PieceCheckingRecorder : core::OperationRecorder {
   int Begin(const core::OperationPlan& plan) override { return Extend(plan.steps); }
-  int Extend(const std::vector<core::PlanStep>& steps) override {
+  int Extend(std::vector<core::PlanStep> steps) override {
     for (const auto& step : steps) EXPECT_TRUE(core::HoldsFile(platform::RealFileSystem(), step.from, step.identity));
     if (pieces.size() == refused) return platform::kErrnoBase + ENOSPC;
     pieces.push_back(steps.size());

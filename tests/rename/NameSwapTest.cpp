@@ -31,7 +31,7 @@ class CheckingRecorder : public core::OperationRecorder {
     };
   }
   int Begin(const core::OperationPlan& plan) override { return Extend(plan.steps); }
-  int Extend(const std::vector<core::PlanStep>& steps) override {
+  int Extend(std::vector<core::PlanStep> steps) override {
     if (fromAnyThread) std::this_thread::sleep_for(std::chrono::milliseconds(5));
     if (piecesKept >= 0 && piecesKept-- == 0) return platform::kErrnoBase + ENOSPC;
     const std::lock_guard<std::mutex> hold(lock_);
