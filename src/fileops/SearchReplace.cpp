@@ -105,14 +105,13 @@ bool NeedsPlanning(const std::vector<core::RenameMove>& moves, const core::Folde
 
 // A piece's renames as a plan lists them, each with its file's identity
 // now; it runs on the thread that writes the piece.
-std::vector<core::PlanStep> PieceSteps(platform::FileSystem& fs, const QByteArray& folder, bool inodeStable,
+std::vector<core::PlanStep> PieceSteps(platform::ReadableFolder& held, const QByteArray& folder, bool inodeStable,
                                        const std::vector<const core::RenameMove*>& piece) {
   std::vector<core::PlanStep> steps;
   steps.reserve(piece.size());
   const auto add = [&](const core::NamePair& pair) {
-    QByteArray from = folder + pair.from;
-    core::FileIdentity identity = core::IdentityOf(fs, from, inodeStable);
-    steps.push_back({core::StepKind::Rename, std::move(from), folder + pair.to, identity});
+    const core::FileIdentity identity = core::IdentityOf(held, pair.from, inodeStable);
+    steps.push_back({core::StepKind::Rename, folder + pair.from, folder + pair.to, identity});
   };
   for (const core::RenameMove* move : piece) {
     add(move->head);
@@ -193,6 +192,9 @@ void SearchReplace::RunInPieces(const Run& run, const Moves& moves) {
   constexpr size_t kFirstPiece = 128;
   core::RecordedOperation recorded(context_.recorder, {core::OperationKind::SearchReplace, run.renamer.Folder(),
                                                        QDateTime::currentDateTimeUtc(), {}});
+  // Held before the pieces, which take identities through it until the
+  // last one is written.
+  const std::unique_ptr<platform::ReadableFolder> held = context_.fs.HoldFolder(run.renamer.Folder());
   core::PieceRecorder pieces(recorded);
   const bool inodeStable = platform::FileNumbersStable(run.renamer.Folder());
   const size_t count = run.turns.size();
@@ -209,8 +211,8 @@ void SearchReplace::RunInPieces(const Run& run, const Moves& moves) {
         piece.push_back(&moves.moves[move]);
       }
     }
-    pieces.Submit([&fs = context_.fs, folder = run.renamer.Folder(), inodeStable, piece = std::move(piece)] {
-      return PieceSteps(fs, folder, inodeStable, piece);
+    pieces.Submit([&held = *held, folder = run.renamer.Folder(), inodeStable, piece = std::move(piece)] {
+      return PieceSteps(held, folder, inodeStable, piece);
     });
     handed = end;
   };
@@ -326,8 +328,7 @@ std::vector<core::PlannedTurn> SearchReplace::PlannedTurns(size_t fileCount, con
 SearchReplace::Step SearchReplace::TakeTurn(const core::PlannedTurn& turn, const platform::FileName& file,
                                             const QByteArray& newName, core::FileRenamer& renamer) {
   for (const core::PlannedRename& aside : turn.asides) {
-    const QByteArray& folder = renamer.Folder();
-    const int error = renamer.RenameFile(folder + aside.head.from, folder + aside.head.to);
+    const int error = renamer.RenameInFolder(aside.head.from, aside.head.to);
     if (error != platform::kNoError) return Failed(error, renamer.FailureShown());
     aside_.push_back(aside.head);
   }
@@ -352,7 +353,7 @@ void SearchReplace::PutBackAside(core::FileRenamer& renamer) {
 // A file that stepped aside but was not renamed after all gets its old name
 // back; where that is taken meanwhile it stays, complete, under the hidden one.
 void SearchReplace::PutBack(const core::NamePair& aside, core::FileRenamer& renamer) {
-  renamer.RenameFile(renamer.Folder() + aside.to, renamer.Folder() + aside.from);
+  renamer.RenameInFolder(aside.to, aside.from);
 }
 
 // `from` is the file's present name: its own, or the hidden one it stepped
@@ -376,8 +377,7 @@ SearchReplace::Step SearchReplace::ProcessFile(const platform::FileName& file, c
 // one found beforehand; after the user's Yes it is not asked again.
 SearchReplace::Step SearchReplace::Rename(const platform::FileName& file, const QByteArray& from,
                                           const QByteArray& newName, core::FileRenamer& renamer, bool mayAsk) {
-  const QByteArray& folder = renamer.Folder();
-  const int error = renamer.RenameFile(folder + from, folder + newName);
+  const int error = renamer.RenameInFolder(from, newName);
   if (error == platform::kNoError) {
     anyRenamed_ = true;
     folderChanged_ = true;
