@@ -66,7 +66,9 @@ TEST_P(SearchReplaceRun, ChainsTermsOverTheSelectionAndReportsEachRename) {
   Select({"IMG_1.jpg", "DSC_3.jpg", "IMG_2.jpg"});
   Run({{"", "x"}});
   Run({{" ", "x"}, {"img", "Pic"}});  // blanks are a term; letter case counts
+  session.PreviewedPath = Path("IMG_2.jpg");
   Run({{"IMG", "Pic"}, {"", ""}, {"Pic", "Ph\u00f6to"}});
+  EXPECT_TRUE(session.PreviewedPath.isEmpty());
   EXPECT_EQ(Folder(), (Files{{"Ph\xc3\xb6to_1.jpg", "IMG_1.jpg"}, {"DSC_3.jpg", "DSC_3.jpg"},
                              {"Ph\xc3\xb6to_2.jpg", "IMG_2.jpg"}, {"IMG_4.jpg", "IMG_4.jpg"}}));
   EXPECT_EQ(port.Texts(), (QStringList{"Please fill in the text boxes for at least one Search Term.", kNoMatch,
@@ -147,13 +149,18 @@ TEST_P(SearchReplaceRun, AFailureIsToldInTheWordsOfItsNumber) {
     MakeClash({row.remove ? MessageAnswer::Yes : row.answer});
     if (row.remove) port.Script(row.answer);
     if (row.remove) fs.FailRemove(Path("Pic_1.jpg"), row.error);
-    if (!row.remove) fs.FailRename(Path("IMG_2.jpg"), row.error);
+    if (!row.remove) {
+      Make({"IMG_3.jpg"});
+      Select({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg", "IMG_3.jpg"});
+      fs.FailRename(Path("IMG_2.jpg"), row.error);
+    }
     Run({{"IMG", "Pic"}});
     ASSERT_EQ(port.messages.size(), 3u);
     EXPECT_EQ(port.messages[1].text, row.text);
     EXPECT_EQ(port.messages[1].icon, row.icon);
     EXPECT_EQ(search.results, QStringList{row.results});
     EXPECT_EQ(Folder()["Pic_1.jpg"], "Pic_1.jpg");
+    EXPECT_EQ(Folder().count("IMG_3.jpg"), row.remove ? 0u : 1u);  // nothing moves once the run has stopped
   }
 }
 
