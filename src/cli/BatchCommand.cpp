@@ -105,7 +105,14 @@ void BatchCommand::GroupFiles(const std::vector<QByteArray>& files) {
     Place place = PlaceOf(given);
     if (groups_.empty() || groups_[at].folder != place.folder) {
       auto group = std::find_if(groups_.begin(), groups_.end(), [&](const Group& g) { return g.folder == place.folder; });
-      if (group == groups_.end()) group = groups_.insert(groups_.end(), Group{place.folder, {}, {}, {}, false});
+      if (group == groups_.end()) {
+        group = groups_.insert(groups_.end(), Group{place.folder, {}, {}, {}, false});
+        // A card's files mostly share the first file's folder.
+        if (groups_.size() == 1) {
+          group->files.reserve(files.size());
+          group->given.reserve(files.size());
+        }
+      }
       at = static_cast<size_t>(group - groups_.begin());
     }
     groups_[at].files.push_back(platform::FileName{std::move(place.name)});
@@ -122,7 +129,7 @@ bool BatchCommand::AllThere() {
   for (Group& group : groups_) {
     std::vector<QByteArray> names;
     group.listed = group.files.size() >= kListFrom && services_.fs.ListFiles(group.folder, &names) == 0;
-    const QSet<QByteArray> listing(names.begin(), names.end());
+    const core::FolderIndex listing(names);
     for (size_t i = 0; i < group.files.size(); ++i) {
       if (!Found(group.given[i], {group.folder, group.files[i].raw}, group.listed ? &listing : nullptr)) return false;
     }
@@ -139,8 +146,8 @@ BatchCommand::Place BatchCommand::PlaceOf(const QByteArray& given) const {
   return {path.left(slash + 1), path.mid(slash + 1)};
 }
 
-bool BatchCommand::Found(const QByteArray& given, const Place& place, const QSet<QByteArray>* listing) {
-  if (listing != nullptr && listing->contains(place.name)) return true;
+bool BatchCommand::Found(const QByteArray& given, const Place& place, const core::FolderIndex* listing) {
+  if (listing != nullptr && listing->Contains(place.name)) return true;
   platform::FileInfo info;
   if (services_.fs.Stat(place.folder + place.name, &info) != 0) {
     Fail(texts::kMissingFile.arg(platform::FileName::NameToText(given)));

@@ -9,6 +9,7 @@
 #include "cli/BatchOutput.h"
 #include "cli/HeadlessMessagePort.h"
 #include "core/BatchPreview.h"
+#include "core/FolderIndex.h"
 #include "core/RenameSession.h"
 #include "core/SettingsRecord.h"
 #include "fileops/Journal.h"
@@ -69,7 +70,7 @@ class BatchCommand {
   void GroupFiles(const std::vector<QByteArray>& files);
   bool AllThere();
   Place PlaceOf(const QByteArray& given) const;
-  bool Found(const QByteArray& given, const Place& place, const QSet<QByteArray>* listing);
+  bool Found(const QByteArray& given, const Place& place, const core::FolderIndex* listing);
   core::RenameContext Context(core::RenameSession& session, core::RenameView& view);
   void Select(core::RenameSession& session, const Group& group);
 
