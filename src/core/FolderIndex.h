@@ -51,14 +51,14 @@ class FolderIndex {
   static constexpr std::int32_t kRemoved = -2;
 
   struct Slot {
-    std::uint64_t hash = 0;
+    std::uint32_t hash = 0;
     std::int32_t name = kEmpty;  // index into names_, or kEmpty / kRemoved
   };
 
   // The slot holding exactly `name`, or -1.
-  qsizetype FindExact(QByteArrayView name, std::uint64_t hash) const;
+  qsizetype FindExact(QByteArrayView name, std::uint32_t hash) const;
   // Puts a name that is not there into the free slot `at`.
-  void Place(std::size_t at, const QByteArray& name, std::uint64_t hash);
+  void Place(std::size_t at, const QByteArray& name, std::uint32_t hash);
   void Grow();
   bool Counted(QByteArrayView name) const;
 
