@@ -68,9 +68,9 @@ class BatchCommand {
   };
 
   void GroupFiles(const std::vector<QByteArray>& files);
-  bool AllThere();
+  bool AllThere(bool keepListing);
   Place PlaceOf(const QByteArray& given) const;
-  bool Found(const QByteArray& given, const Place& place, const core::FolderIndex* listing);
+  bool Found(const QByteArray& given, const Place& place);
   core::RenameContext Context(core::RenameSession& session, core::RenameView& view);
   void Select(core::RenameSession& session, const Group& group);
 
