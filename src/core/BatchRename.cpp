@@ -1,6 +1,5 @@
 #include "core/BatchRename.h"
 
-#include <algorithm>
 #include <chrono>
 #include <optional>
 
@@ -262,10 +261,7 @@ BatchRename::Ending BatchRename::RenameRecorded(Naming& naming, FileRenamer& ren
   std::vector<NamedFile> flying;  // handed over, not durable yet
   std::vector<NamedFile> ready;   // durable; those from `turn` on wait for their turns
   size_t turn = 0;
-  // Room for the most a list ever holds, so that no list moves its files
-  // to a larger one while the batch runs; pages are touched only as used.
-  const size_t room = std::min(kMostAhead, total_);
-  for (std::vector<NamedFile>* list : {&piece, &flying, &ready}) list->reserve(room);
+  piece.reserve(kFirstPiece);
   const auto handOver = [&] {
     pieces.Submit(DescribePiece(piece, renamer));
     flying.swap(piece);
