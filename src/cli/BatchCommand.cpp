@@ -74,14 +74,17 @@ int BatchCommand::Run(const BatchArguments& args) {
     case Action::Name: {
       GroupFiles(args.files);
       ReadAhead(args);
-      const int status = AllThere() ? RunName(args) : kFailed;
+      const int status = AllThere(true) ? RunName(args) : kFailed;
       // The process ends right after: no file may still be being read then.
       tokens_.StopReadingAhead();
+      // A run that stopped before its batch read the folder leaves no
+      // listing for a later one.
+      core::FolderIndex::DropKept();
       return status;
     }
     case Action::Replace:
       GroupFiles(args.files);
-      return AllThere() ? RunReplace(args) : kFailed;
+      return AllThere(false) ? RunReplace(args) : kFailed;
     case Action::History:
       return RunHistory(args);
     case Action::Undo:
@@ -105,7 +108,14 @@ void BatchCommand::GroupFiles(const std::vector<QByteArray>& files) {
     Place place = PlaceOf(given);
     if (groups_.empty() || groups_[at].folder != place.folder) {
       auto group = std::find_if(groups_.begin(), groups_.end(), [&](const Group& g) { return g.folder == place.folder; });
-      if (group == groups_.end()) group = groups_.insert(groups_.end(), Group{place.folder, {}, {}, {}, false});
+      if (group == groups_.end()) {
+        group = groups_.insert(groups_.end(), Group{place.folder, {}, {}, {}, false});
+        // A card's files mostly share the first file's folder.
+        if (groups_.size() == 1) {
+          group->files.reserve(files.size());
+          group->given.reserve(files.size());
+        }
+      }
       at = static_cast<size_t>(group - groups_.begin());
     }
     groups_[at].files.push_back(platform::FileName{std::move(place.name)});
@@ -118,14 +128,23 @@ void BatchCommand::GroupFiles(const std::vector<QByteArray>& files) {
 // from one folder is checked against one reading of the folder, not a look
 // at each file; a name missing from it is looked at on its own, for the
 // exact reason (or because it appeared since).
-bool BatchCommand::AllThere() {
+//
+// One folder's listing that holds every file goes on to the batch's own
+// index of the folder: nothing is renamed before the batch reads it.
+bool BatchCommand::AllThere(bool keepListing) {
   for (Group& group : groups_) {
     std::vector<QByteArray> names;
     group.listed = group.files.size() >= kListFrom && services_.fs.ListFiles(group.folder, &names) == 0;
-    const QSet<QByteArray> listing(names.begin(), names.end());
+    const bool keep = keepListing && group.listed && groups_.size() == 1;
+    core::FolderIndex listing(names, keep ? core::FileSetFinder::CompanionSuffixes() : std::vector<QByteArray>{});
+    bool allListed = group.listed;
     for (size_t i = 0; i < group.files.size(); ++i) {
-      if (!Found(group.given[i], {group.folder, group.files[i].raw}, group.listed ? &listing : nullptr)) return false;
+      const Place place{group.folder, group.files[i].raw};
+      if (group.listed && listing.Contains(place.name)) continue;
+      allListed = false;
+      if (!Found(group.given[i], place)) return false;
     }
+    if (keep && allListed) core::FolderIndex::KeepForNextRead(group.folder, std::move(listing));
   }
   return true;
 }
@@ -139,8 +158,7 @@ BatchCommand::Place BatchCommand::PlaceOf(const QByteArray& given) const {
   return {path.left(slash + 1), path.mid(slash + 1)};
 }
 
-bool BatchCommand::Found(const QByteArray& given, const Place& place, const QSet<QByteArray>* listing) {
-  if (listing != nullptr && listing->contains(place.name)) return true;
+bool BatchCommand::Found(const QByteArray& given, const Place& place) {
   platform::FileInfo info;
   if (services_.fs.Stat(place.folder + place.name, &info) != 0) {
     Fail(texts::kMissingFile.arg(platform::FileName::NameToText(given)));

@@ -9,6 +9,7 @@
 #include "cli/BatchOutput.h"
 #include "cli/HeadlessMessagePort.h"
 #include "core/BatchPreview.h"
+#include "core/FolderIndex.h"
 #include "core/RenameSession.h"
 #include "core/SettingsRecord.h"
 #include "fileops/Journal.h"
@@ -67,9 +68,9 @@ class BatchCommand {
   };
 
   void GroupFiles(const std::vector<QByteArray>& files);
-  bool AllThere();
+  bool AllThere(bool keepListing);
   Place PlaceOf(const QByteArray& given) const;
-  bool Found(const QByteArray& given, const Place& place, const QSet<QByteArray>* listing);
+  bool Found(const QByteArray& given, const Place& place);
   core::RenameContext Context(core::RenameSession& session, core::RenameView& view);
   void Select(core::RenameSession& session, const Group& group);
 

@@ -1,5 +1,6 @@
 #include "core/BatchFileNamer.h"
 
+#include "core/AsciiFoldedName.h"
 #include "core/FileNameRules.h"
 #include "core/SeriesFormat.h"
 
@@ -7,7 +8,7 @@ namespace renvale::core {
 
 namespace {
 
-const QString kMp3 = QStringLiteral(".mp3");
+constexpr QByteArrayView kMp3 = ".mp3";
 
 }  // namespace
 
@@ -20,25 +21,36 @@ BatchFileNamer::BatchFileNamer(const RenameContext& context, SeriesBox& box, con
   }
 }
 
-QString BatchFileNamer::Unexpanded(const platform::FileName& file) const {
-  return base_ + SplitFileName(file.Display(), context_.settings.forceLowerCaseExtension).extension;
-}
-
-QString BatchFileNamer::Expand(const platform::FileName& file, const QString& unexpanded) {
-  seriesTaken_ = false;
-  if (SplitFileName(file.Display(), false).extension.toLower() == kMp3) {
-    id3_ = context_.tokens.Id3(folder_, file);
+// Made in one piece: this runs for every file of a card.
+QString BatchFileNamer::Unexpanded(const QString& shown) const {
+  const qsizetype dot = shown.lastIndexOf(u'.');
+  if (dot < 0) return base_;
+  QString unexpanded;
+  unexpanded.reserve(base_.size() + shown.size() - dot);
+  unexpanded += base_;
+  if (context_.settings.forceLowerCaseExtension) {
+    unexpanded += shown.sliced(dot).toLower();
+  } else {
+    unexpanded += QStringView(shown).sliced(dot);
   }
-  return ExpandBatchTokens(unexpanded, [&](Token token) { return TokenValue(file, token); });
+  return unexpanded;
 }
 
-QString BatchFileNamer::TokenValue(const platform::FileName& file, Token token) {
+// The extension runs from the last dot, so the raw name ends in ".mp3"
+// exactly when the shown one's extension is ".mp3" in any letter case.
+QString BatchFileNamer::Expand(const platform::FileName& file, const QString& shown, const QString& unexpanded) {
+  seriesTaken_ = false;
+  if (AsciiFoldedName::EndsWith(file.raw, kMp3)) id3_ = context_.tokens.Id3(folder_, file);
+  return ExpandBatchTokens(unexpanded, [&](Token token) { return TokenValue(file, shown, token); });
+}
+
+QString BatchFileNamer::TokenValue(const platform::FileName& file, const QString& shown, Token token) {
   switch (token) {
     case Token::Title: return id3_.title;
     case Token::Artist: return id3_.artist;
     case Token::Album: return id3_.album;
     case Token::Track: return id3_.track;
-    case Token::OrigFn: return SplitFileName(file.Display(), false).base;
+    case Token::OrigFn: return SplitFileName(shown, false).base;
     case Token::Series: return NextSeriesText();
     default: return context_.tokens.ExifValue(folder_, file, token);
   }

@@ -24,15 +24,16 @@ class BatchFileNamer {
                  std::optional<int> randomCount,
                  RandomSeriesPool::RandomSource random = RandomSeriesPool::TimeSeededSource());
 
-  // The base followed by the file's extension, tokens still in it.
-  QString Unexpanded(const platform::FileName& file) const;
-  // The new name of `file` made from Unexpanded(file).
-  QString Expand(const platform::FileName& file, const QString& unexpanded);
+  // The base followed by the file's extension, tokens still in it;
+  // `shown` is file.Display(), which the caller has at hand.
+  QString Unexpanded(const QString& shown) const;
+  // The new name of `file` made from Unexpanded(shown).
+  QString Expand(const platform::FileName& file, const QString& shown, const QString& unexpanded);
   // Whether the last Expand took a series number.
   bool SeriesTaken() const { return seriesTaken_; }
 
  private:
-  QString TokenValue(const platform::FileName& file, Token token);
+  QString TokenValue(const platform::FileName& file, const QString& shown, Token token);
   QString NextSeriesText();
 
   const RenameContext& context_;

@@ -85,10 +85,11 @@ NamedFile BatchNames::Next(const platform::FileName& file) {
   named.file = file;
   named.travels = renamer_.Sets().TravelsWithSelectedHead(file.raw);
   if (!named.travels) {
-    named.unexpanded = parts_->namer.Unexpanded(file);
-    named.newName = parts_->namer.Expand(file, named.unexpanded);
-    named.target = platform::FileName::TextToName(named.newName);
-    named.sameName = named.newName == file.Display();
+    const QString shown = file.Display();
+    named.unexpanded = parts_->namer.Unexpanded(shown);
+    named.newName = parts_->namer.Expand(file, shown, named.unexpanded);
+    named.sameName = named.newName == shown;
+    named.target = named.sameName ? file.raw : platform::FileName::TextToName(named.newName);
     named.seriesTaken = parts_->namer.SeriesTaken();
     named.messages = parts_->collected.Take();
     named.identityRead = context_.tokens.TakeReadIdentity(renamer_.Folder(), file, &named.identity);

@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <algorithm>
+#include <bitset>
 #include <cstdint>
 #include <unordered_map>
 
@@ -16,6 +17,15 @@ namespace {
 
 constexpr qsizetype kLongestName = 255;  // bytes, on every file system a card or disk uses
 const QString kForbidden = QStringLiteral("\\/:*?\"<>|");
+
+bool IsForbidden(QChar c) {
+  static const std::bitset<0x80> forbidden = [] {
+    std::bitset<0x80> set;
+    for (const QChar f : kForbidden) set.set(f.unicode());
+    return set;
+  }();
+  return c.unicode() < 0x80 && forbidden.test(c.unicode());
+}
 
 using FoldedRows = std::unordered_multimap<QByteArray, size_t, AsciiFoldedName, AsciiFoldedName>;
 
@@ -32,8 +42,8 @@ Facts Gather(const BatchNaming& naming, const FileRenamer& renamer) {
   facts.targets.resize(naming.files.size());
   for (size_t i = 0; i < naming.files.size(); ++i) {
     const NamedFile& named = naming.files[i];
-    if (named.travels || named.newName == named.file.Display()) continue;
-    const QByteArray target = platform::FileName::TextToName(named.newName);
+    if (named.travels || named.sameName) continue;
+    const QByteArray& target = named.target;
     facts.targets[i] = target;
     facts.leaving.insert(named.file.raw, i);
     facts.byTarget.emplace(target, i);
@@ -95,10 +105,14 @@ PreviewRow Row(const BatchNaming& naming, const Facts& facts, const FileRenamer&
     shown.notes << texts::kNoteUnchanged;
     return shown;
   }
-  for (const QChar c : kForbidden) {
-    if (named.newName.contains(c)) {
-      shown.notes << texts::kNoteForbiddenCharacter.arg(c);
-      break;
+  // Most names hold none: one look at each character tells, before the
+  // first forbidden one in the note's order is looked for.
+  if (std::any_of(named.newName.cbegin(), named.newName.cend(), IsForbidden)) {
+    for (const QChar c : kForbidden) {
+      if (named.newName.contains(c)) {
+        shown.notes << texts::kNoteForbiddenCharacter.arg(c);
+        break;
+      }
     }
   }
   if (facts.targets[row].size() > kLongestName) {

@@ -1,6 +1,8 @@
 #include "core/FolderIndex.h"
 
 #include <algorithm>
+#include <mutex>
+#include <optional>
 
 #include "core/AsciiFoldedName.h"
 
@@ -8,7 +10,9 @@ namespace renvale::core {
 
 namespace {
 
-std::uint64_t HashOf(QByteArrayView name) { return AsciiFoldedName()(name); }
+// The low half is all a table of up to 2^32 places looks at, and a slot
+// of two 32-bit numbers is half the memory a batch walks per question.
+std::uint32_t HashOf(QByteArrayView name) { return static_cast<std::uint32_t>(AsciiFoldedName()(name)); }
 
 bool SameFolded(QByteArrayView a, QByteArrayView b) { return AsciiFoldedName()(a, b); }
 
@@ -23,8 +27,45 @@ FolderIndex::FolderIndex(const std::vector<QByteArray>& names, std::vector<QByte
   for (const QByteArray& name : names) Add(name);
 }
 
+namespace {
+
+struct KeptListing {
+  std::mutex lock;
+  QByteArray folder;
+  std::optional<FolderIndex> index;
+};
+
+KeptListing& Kept() {
+  static KeptListing kept;
+  return kept;
+}
+
+}  // namespace
+
+void FolderIndex::KeepForNextRead(const QByteArray& folder, FolderIndex index) {
+  KeptListing& kept = Kept();
+  const std::lock_guard<std::mutex> hold(kept.lock);
+  kept.folder = folder;
+  kept.index = std::move(index);
+}
+
+void FolderIndex::DropKept() {
+  KeptListing& kept = Kept();
+  const std::lock_guard<std::mutex> hold(kept.lock);
+  kept.index.reset();
+}
+
 FolderIndex FolderIndex::Read(platform::FileSystem& fs, const QByteArray& folder,
                               std::vector<QByteArray> countedSuffixes) {
+  {
+    KeptListing& kept = Kept();
+    const std::lock_guard<std::mutex> hold(kept.lock);
+    if (kept.index && kept.folder == folder && kept.index->countedSuffixes_ == countedSuffixes) {
+      FolderIndex index = std::move(*kept.index);
+      kept.index.reset();
+      return index;
+    }
+  }
   std::vector<QByteArray> names;
   if (fs.ListFiles(folder, &names) != 0) names.clear();
   return FolderIndex(names, std::move(countedSuffixes));
@@ -37,7 +78,7 @@ bool FolderIndex::Counted(QByteArrayView name) const {
   return false;
 }
 
-qsizetype FolderIndex::FindExact(QByteArrayView name, std::uint64_t hash) const {
+qsizetype FolderIndex::FindExact(QByteArrayView name, std::uint32_t hash) const {
   if (slots_.empty()) return -1;
   const std::size_t mask = slots_.size() - 1;
   for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
@@ -52,7 +93,7 @@ bool FolderIndex::Contains(QByteArrayView name) const { return FindExact(name, H
 QByteArrayList FolderIndex::Spellings(QByteArrayView name) const {
   QByteArrayList spellings;
   if (slots_.empty()) return spellings;
-  const std::uint64_t hash = HashOf(name);
+  const std::uint32_t hash = HashOf(name);
   const std::size_t mask = slots_.size() - 1;
   for (std::size_t i = hash & mask; slots_[i].name != kEmpty; i = (i + 1) & mask) {
     const Slot& slot = slots_[i];
@@ -67,7 +108,7 @@ QByteArrayList FolderIndex::Spellings(QByteArrayView name) const {
 // One walk finds the name, or the place it goes: the first one a removal
 // left on its path, else the end of the path.
 void FolderIndex::Add(const QByteArray& name) {
-  const std::uint64_t hash = HashOf(name);
+  const std::uint32_t hash = HashOf(name);
   if (static_cast<std::size_t>(used_ + 1) * 2 > slots_.size()) {
     if (FindExact(name, hash) >= 0) return;
     Grow();
@@ -87,7 +128,7 @@ void FolderIndex::Add(const QByteArray& name) {
   Place(removed == slots_.size() ? i : removed, name, hash);
 }
 
-void FolderIndex::Place(std::size_t at, const QByteArray& name, std::uint64_t hash) {
+void FolderIndex::Place(std::size_t at, const QByteArray& name, std::uint32_t hash) {
   std::int32_t entry;
   if (freeNames_.empty()) {
     entry = static_cast<std::int32_t>(names_.size());

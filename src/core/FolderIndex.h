@@ -34,6 +34,14 @@ class FolderIndex {
   static FolderIndex Read(platform::FileSystem& fs, const QByteArray& folder,
                           std::vector<QByteArray> countedSuffixes = {});
 
+  // Hands a listing of `folder` just read for another purpose to the next
+  // Read of that folder with the same counted suffixes, once, so that the
+  // folder is not read twice in a row. Whoever keeps one must change
+  // nothing in the folder before that Read.
+  static void KeepForNextRead(const QByteArray& folder, FolderIndex index);
+  // Lets go of a kept listing no Read has taken.
+  static void DropKept();
+
   // True when a name spelled exactly like `name` is there.
   bool Contains(QByteArrayView name) const;
   // Every name equal to `name` without regard to ASCII letter case, sorted.
@@ -51,14 +59,14 @@ class FolderIndex {
   static constexpr std::int32_t kRemoved = -2;
 
   struct Slot {
-    std::uint64_t hash = 0;
+    std::uint32_t hash = 0;
     std::int32_t name = kEmpty;  // index into names_, or kEmpty / kRemoved
   };
 
   // The slot holding exactly `name`, or -1.
-  qsizetype FindExact(QByteArrayView name, std::uint64_t hash) const;
+  qsizetype FindExact(QByteArrayView name, std::uint32_t hash) const;
   // Puts a name that is not there into the free slot `at`.
-  void Place(std::size_t at, const QByteArray& name, std::uint64_t hash);
+  void Place(std::size_t at, const QByteArray& name, std::uint32_t hash);
   void Grow();
   bool Counted(QByteArrayView name) const;
 

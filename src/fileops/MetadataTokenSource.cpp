@@ -12,9 +12,12 @@ namespace renvale::fileops {
 
 const metadata::ExifTokenValues& MetadataTokenSource::Values(const QByteArray& folder,
                                                            const platform::FileName& file) {
-  const QByteArray path = platform::JoinPath(folder, file.raw);
-  if (path != cachedPath_) {
-    cachedPath_ = path;
+  // Asked several times per file: the folder and name are compared as they
+  // are, without a path made for each question.
+  if (!cachedKnown_ || file.raw != cachedName_ || folder != cachedFolder_) {
+    cachedFolder_ = folder;
+    cachedName_ = file.raw;
+    cachedKnown_ = true;
     cached_ = ReadValues(folder, file);
   }
   return cached_;
@@ -51,9 +54,9 @@ metadata::ExifTokenValues MetadataTokenSource::ReadValues(const QByteArray& fold
                                                         &ahead.identity, &ahead.identityKnown);
   }
   if (!ahead.errorMessage.isEmpty()) Show(ahead.errorMessage);
-  identityPath_.clear();
+  identityFresh_ = false;
   if (ahead.identityKnown && !ahead.identity.isDir) {
-    identityPath_ = cachedPath_;
+    identityFresh_ = true;
     identity_ = {ahead.identity.size, ahead.identity.modifiedNs, ahead.identity.device, ahead.identity.inode, true};
   }
   return ahead.values;
@@ -63,7 +66,7 @@ metadata::ExifTokenValues MetadataTokenSource::ReadValues(const QByteArray& fold
 // asking for the same files next keeps that reading, as long as nothing has
 // been taken from it.
 void MetadataTokenSource::ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files) {
-  identityPath_.clear();
+  identityFresh_ = false;
   if (!fs_.ReadableFromAnyThread()) return;
   if (readAhead_ != nullptr && !readAheadTaken_ && folder == readAheadFolder_ &&
       std::equal(files.begin(), files.end(), readAheadNames_.begin(), readAheadNames_.end(),
@@ -86,8 +89,8 @@ bool MetadataTokenSource::ValuesAtHand(const QByteArray& folder, const platform:
 // earlier one may describe a file that has changed since.
 bool MetadataTokenSource::TakeReadIdentity(const QByteArray& folder, const platform::FileName& file,
                                            core::FileIdentity* identity) {
-  const bool found = !identityPath_.isEmpty() && identityPath_ == platform::JoinPath(folder, file.raw);
-  identityPath_.clear();
+  const bool found = identityFresh_ && file.raw == cachedName_ && folder == cachedFolder_;
+  identityFresh_ = false;
   if (found) *identity = identity_;
   return found;
 }

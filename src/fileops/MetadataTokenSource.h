@@ -46,11 +46,15 @@ class MetadataTokenSource : public core::TokenSource {
   platform::FileSystem& fs_;
   platform::MessagePort& messages_;
   const core::SettingsRecord& settings_;
-  QByteArray cachedPath_;
+  // The file whose values are kept.
+  bool cachedKnown_ = false;
+  QByteArray cachedFolder_;
+  QByteArray cachedName_;
   metadata::ExifTokenValues cached_;
   std::unique_ptr<metadata::ExifReadAhead> readAhead_;
-  // The identity the last read of this batch found, until handed out.
-  QByteArray identityPath_;
+  // The identity the last read of this batch found (of the kept file's),
+  // until handed out.
+  bool identityFresh_ = false;
   core::FileIdentity identity_;
   QByteArray readAheadFolder_;
   std::vector<QByteArray> readAheadNames_;

@@ -51,7 +51,7 @@ bool ExifReadAhead::ReadNext(std::unique_lock<std::mutex>& hold) {
   if (dropped_ || next_ >= static_cast<qsizetype>(names_.size())) return false;
   const auto at = static_cast<size_t>(next_++);
   hold.unlock();
-  Result result = Read(at);
+  std::unique_ptr<Result> result = Read(at);
   hold.lock();
   results_[at] = std::move(result);
   done_[at] = 1;
@@ -59,10 +59,10 @@ bool ExifReadAhead::ReadNext(std::unique_lock<std::mutex>& hold) {
   return true;
 }
 
-ExifReadAhead::Result ExifReadAhead::Read(size_t at) const {
-  Result result;
-  result.values = ReadExifTokenValuesQuietly(fs_, *held_, folder_, names_[at], formats_, &result.errorMessage,
-                                             &result.identity, &result.identityKnown);
+std::unique_ptr<ExifReadAhead::Result> ExifReadAhead::Read(size_t at) const {
+  auto result = std::make_unique<Result>();
+  result->values = ReadExifTokenValuesQuietly(fs_, *held_, folder_, names_[at], formats_, &result->errorMessage,
+                                              &result->identity, &result->identityKnown);
   return result;
 }
 
@@ -90,7 +90,8 @@ bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, co
   }
   if (dropped_ || taken_[static_cast<size_t>(at)]) return false;
   taken_[static_cast<size_t>(at)] = true;
-  *out = std::move(results_[static_cast<size_t>(at)]);
+  *out = std::move(*results_[static_cast<size_t>(at)]);
+  results_[static_cast<size_t>(at)].reset();
   return true;
 }
 

@@ -62,7 +62,7 @@ class ExifReadAhead {
   // Reads the next file nobody has claimed yet, with `hold` released for
   // the read; false when every file is claimed or reading was dropped.
   bool ReadNext(std::unique_lock<std::mutex>& hold);
-  Result Read(size_t at) const;
+  std::unique_ptr<Result> Read(size_t at) const;
   // Where `rawName` stands in the list, or -1.
   qsizetype PositionOf(const QByteArray& rawName, bool taking);
 
@@ -78,7 +78,11 @@ class ExifReadAhead {
   // first time the answer is another. Used by the takers' thread alone.
   qsizetype lastTaken_ = -1;
   QHash<QByteArray, qsizetype> positions_;
-  std::vector<Result> results_;  // filled where done_ is set
+  // Filled where done_ is set, by the thread that read the file, and let go
+  // when taken: a card's worth of empty results made up front cost the
+  // batch's thread milliseconds before its first file, and the results
+  // handed out are made again in memory already in use.
+  std::vector<std::unique_ptr<Result>> results_;
   std::vector<char> done_;
   std::vector<bool> taken_;
 
