@@ -41,13 +41,6 @@ int FileRenamer::RenameInFolder(const QByteArray& oldName, const QByteArray& new
   return RenameNames({oldName, newName});
 }
 
-bool FileRenamer::RenamesAlone(const QByteArray& oldName, const QByteArray& newName) const {
-  if (oldName.isEmpty() || newName.isEmpty() || oldName == newName) return false;
-  if (oldName.contains('/') || newName.contains('/')) return false;
-  if (!index_.Contains(oldName) || index_.Contains(newName)) return false;
-  return !Previewed(oldName) && finder_.Companions(oldName, newName).empty();
-}
-
 int FileRenamer::RenameNames(const NamePair& head) {
   ReleasePreviewIfHeld(head.from);
   const std::vector<NamePair> companions = finder_.Companions(head.from, head.to);
@@ -105,15 +98,13 @@ bool FileRenamer::HasSeparateEntries(const QByteArray& a, const QByteArray& b) {
 
 // The preview may hold a file open (a playing video); it lets go of it
 // before the name changes under it.
-bool FileRenamer::Previewed(const QByteArray& name) const {
-  const QByteArray& previewed = context_.session.PreviewedPath;
-  return previewed.size() == folder_.size() + name.size() && previewed.startsWith(folder_) &&
-         previewed.endsWith(name);
-}
-
 void FileRenamer::ReleasePreviewIfHeld(const QByteArray& name) {
-  if (!Previewed(name)) return;
-  context_.session.PreviewedPath.clear();
+  QByteArray& previewed = context_.session.PreviewedPath;
+  if (previewed.size() != folder_.size() + name.size() || !previewed.startsWith(folder_) ||
+      !previewed.endsWith(name)) {
+    return;
+  }
+  previewed.clear();
   context_.view.ResetPreview(QString());
 }
 

@@ -43,15 +43,6 @@ class FileRenamer {
   void DescribeRename(const QByteArray& oldName, const QByteArray& newName, OperationPlan* plan,
                       const FileIdentity* known = nullptr);
 
-  // True when RenameInFolder(oldName, newName) would rename that one file
-  // and nothing else: it is there, the new name is free, no companion goes
-  // along and the preview does not hold it. Such renames may be taken by a
-  // RenameRelay, and the index told with Renamed.
-  bool RenamesAlone(const QByteArray& oldName, const QByteArray& newName) const;
-  // Keeps the index current after a rename taken elsewhere; the other way
-  // round takes it back.
-  void Renamed(const QByteArray& oldName, const QByteArray& newName) { index_.Move(oldName, newName); }
-
   // Removes a file of the folder that the caller has deleted.
   void Forget(const QByteArray& name) { index_.Remove(name); }
 
@@ -66,7 +57,6 @@ class FileRenamer {
 
  private:
   bool InFolder(const QByteArray& path) const;
-  bool Previewed(const QByteArray& name) const;
   void ReleasePreviewIfHeld(const QByteArray& name);
   int RenameNames(const NamePair& head);
   int RenameSingle(const NamePair& pair);

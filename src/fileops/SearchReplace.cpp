@@ -8,7 +8,6 @@
 #include "core/PieceRecorder.h"
 #include "core/PlanIdentity.h"
 #include "core/RecordedOperation.h"
-#include "core/RenameRelay.h"
 #include "fileops/FileopsTexts.h"
 #include "platform/ErrorNumbers.h"
 #include "platform/FileNumbers.h"
@@ -219,105 +218,33 @@ void SearchReplace::RunInPieces(const Run& run, const Moves& moves) {
   };
   if (count > 0) handOver();
   int refused = 0;  // why the piece after the durable ones could not be kept
-  const auto settle = [&] {
-    refused = pieces.Wait();
-    if (refused == 0) durable = handed;
-    if (refused == 0 && handed < count) handOver();
-  };
-  const auto keepAhead = [&] {
-    if (refused == 0 && pieces.InFlight() && pieces.Settled()) settle();
-  };
-  for (size_t t = 0; t < count;) {
-    if (t == durable && refused == 0 && pieces.InFlight()) settle();
+  for (size_t t = 0; t < count; ++t) {
+    if (refused == 0 && pieces.InFlight() && (t == durable || pieces.Settled())) {
+      refused = pieces.Wait();
+      if (refused == 0) durable = handed;
+      if (refused == 0 && handed < count) handOver();
+    }
     // The files of the pieces kept are renamed before a refusal stops the run.
     if (t == durable) {
       PlanKept(refused);
       return;
     }
-    const size_t end = durable;
-    if (TakeTurns(run, t, end, keepAhead) == Step::Stop) return;
-    t = end;
+    if (TakeTurns(run, t, t + 1) == Step::Stop) return;
   }
 }
 
-SearchReplace::Step SearchReplace::TakeTurns(const Run& run, size_t begin, size_t end,
-                                             const std::function<void()>& between) {
-  if (context_.fs.WritableFromAnyThread()) return TakeTurnsAlongside(run, begin, end, between);
-  return TakeTurnsOneByOne(run, begin, end, between);
-}
-
-SearchReplace::Step SearchReplace::TakeTurnsOneByOne(const Run& run, size_t begin, size_t end,
-                                                     const std::function<void()>& between) {
+SearchReplace::Step SearchReplace::TakeTurns(const Run& run, size_t begin, size_t end) {
   for (size_t t = begin; t < end; ++t) {
     const core::PlannedTurn& turn = run.turns[t];
     if (TakeTurn(turn, run.files[turn.file], run.newNames[turn.file], run.renamer) == Step::Stop) {
       PutBackAside(run.renamer);
       return Step::Stop;
     }
-    AfterTurn();
-    if (between) between();
+    if (progress_ < maximum_) view_.SetProgress(++progress_);
+    view_.ResultsSoFar(results_);
+    view_.ProcessEvents();
   }
   return Step::Next;
-}
-
-// Most turns rename one file to a free name. Those go to a relay that
-// renames them on a second thread, in turn order, while this one writes
-// their results and lets the window's events run; the index is told of
-// each before it is handed over, so the next turn is judged as if it were
-// done. At the first rename the relay cannot take, the files after it are
-// taken back from the index, and that turn goes the way of one by one:
-// it is tried again there and asked about or told like any other.
-SearchReplace::Step SearchReplace::TakeTurnsAlongside(const Run& run, size_t begin, size_t end,
-                                                      const std::function<void()>& between) {
-  core::RenameRelay relay(context_.fs, run.renamer.Folder());
-  size_t t = begin;
-  while (t < end) {
-    std::vector<size_t> taken;
-    std::vector<core::NamePair> pairs;
-    for (; t < end && RenamesAlone(run, t); ++t) {
-      const core::PlannedTurn& turn = run.turns[t];
-      run.renamer.Renamed(run.files[turn.file].raw, run.newNames[turn.file]);
-      taken.push_back(t);
-      pairs.push_back({run.files[turn.file].raw, run.newNames[turn.file]});
-    }
-    if (taken.empty()) {
-      if (TakeTurnsOneByOne(run, t, t + 1, between) == Step::Stop) return Step::Stop;
-      ++t;
-      continue;
-    }
-    relay.Start(std::move(pairs));
-    for (size_t done = 0; done < taken.size();) {
-      const size_t settled = relay.WaitPast(done);
-      for (; done < settled && relay.Error(done) == 0; ++done) {
-        const core::PlannedTurn& turn = run.turns[taken[done]];
-        NoteRenamed(run.files[turn.file], run.newNames[turn.file]);
-        AfterTurn();
-      }
-      if (between) between();
-      if (done == settled) continue;
-      for (size_t k = taken.size(); k-- > done;) {
-        const core::PlannedTurn& turn = run.turns[taken[k]];
-        run.renamer.Renamed(run.newNames[turn.file], run.files[turn.file].raw);
-      }
-      t = taken[done];
-      if (TakeTurnsOneByOne(run, t, t + 1, between) == Step::Stop) return Step::Stop;
-      ++t;
-      break;
-    }
-  }
-  return Step::Next;
-}
-
-bool SearchReplace::RenamesAlone(const Run& run, size_t t) const {
-  const core::PlannedTurn& turn = run.turns[t];
-  return turn.asides.empty() && aside_.empty() &&
-         run.renamer.RenamesAlone(run.files[turn.file].raw, run.newNames[turn.file]);
-}
-
-void SearchReplace::AfterTurn() {
-  if (progress_ < maximum_) view_.SetProgress(++progress_);
-  view_.ResultsSoFar(results_);
-  view_.ProcessEvents();
 }
 
 // A piece that cannot be kept stops the run before any of its files; the
@@ -452,26 +379,22 @@ SearchReplace::Step SearchReplace::Rename(const platform::FileName& file, const 
                                           const QByteArray& newName, core::FileRenamer& renamer, bool mayAsk) {
   const int error = renamer.RenameInFolder(from, newName);
   if (error == platform::kNoError) {
-    NoteRenamed(file, newName);
+    anyRenamed_ = true;
+    folderChanged_ = true;
+    results_ += texts::kLf;
+    results_ += kQuote;
+    AppendDisplay(results_, file.raw);
+    results_ += kQuote;
+    results_ += texts::kWasRenamedTo;
+    results_ += kQuote;
+    AppendDisplay(results_, newName);
+    results_ += kQuote;
     return Step::Next;
   }
   if (error == platform::kFileAlreadyExists && mayAsk && !renamer.FailureShown()) {
     return AskAboutClash(file, from, newName, renamer);
   }
   return Failed(error, renamer.FailureShown());
-}
-
-void SearchReplace::NoteRenamed(const platform::FileName& file, const QByteArray& newName) {
-  anyRenamed_ = true;
-  folderChanged_ = true;
-  results_ += texts::kLf;
-  results_ += kQuote;
-  AppendDisplay(results_, file.raw);
-  results_ += kQuote;
-  results_ += texts::kWasRenamedTo;
-  results_ += kQuote;
-  AppendDisplay(results_, newName);
-  results_ += kQuote;
 }
 
 SearchReplace::Step SearchReplace::AskAboutClash(const platform::FileName& file, const QByteArray& from,

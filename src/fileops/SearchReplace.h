@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QString>
-#include <functional>
 
 #include "core/FileRenamer.h"
 #include "core/RenameContext.h"
@@ -49,13 +48,7 @@ class SearchReplace {
 
   void RunOver(const SearchTerms& terms);
   void RunInPieces(const Run& run, const Moves& moves);
-  // `between`, when given, runs between turns (or groups of them) while
-  // the window's events do.
-  Step TakeTurns(const Run& run, size_t begin, size_t end, const std::function<void()>& between = {});
-  Step TakeTurnsOneByOne(const Run& run, size_t begin, size_t end, const std::function<void()>& between);
-  Step TakeTurnsAlongside(const Run& run, size_t begin, size_t end, const std::function<void()>& between);
-  bool RenamesAlone(const Run& run, size_t t) const;
-  void AfterTurn();
+  Step TakeTurns(const Run& run, size_t begin, size_t end);
   bool PlanKept(int error);
   Moves FindMoves(const std::vector<platform::FileName>& files, const std::vector<QByteArray>& newNames,
                   const core::FileRenamer& renamer) const;
@@ -71,7 +64,6 @@ class SearchReplace {
                    core::FileRenamer& renamer);
   Step Rename(const platform::FileName& file, const QByteArray& from, const QByteArray& newName,
               core::FileRenamer& renamer, bool mayAsk);
-  void NoteRenamed(const platform::FileName& file, const QByteArray& newName);
   Step AskAboutClash(const platform::FileName& file, const QByteArray& from, const QByteArray& newName,
                      core::FileRenamer& renamer);
   Step ReplaceTarget(const platform::FileName& file, const QByteArray& from, const QByteArray& newName,

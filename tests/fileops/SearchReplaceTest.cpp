@@ -36,10 +36,8 @@ const QString kRenamed2 = "\n\"IMG_2.jpg\" was renamed to \"Pic_2.jpg\"";
 const QString kNotRenamed1 =
     "\nThe file 'IMG_1.jpg' was not renamed to 'Pic_1.jpg' because the new proposed filename already existed.";
 
-// Each case runs with the renames taken one by one and on a second thread.
-class SearchReplaceRun : public RenameFixture, public ::testing::WithParamInterface<bool> {
+class SearchReplaceRun : public RenameFixture {
  protected:
-  SearchReplaceRun() { fs.writableFromAnyThread = GetParam(); }
   void Run(std::initializer_list<std::pair<const char*, const char*>> pairs) {
     fileops::SearchTerms terms;
     int k = 0;
@@ -61,7 +59,7 @@ class SearchReplaceRun : public RenameFixture, public ::testing::WithParamInterf
 };
 
 // A term is matched and written as its UTF-8 bytes.
-TEST_P(SearchReplaceRun, ChainsTermsOverTheSelectionAndReportsEachRename) {
+TEST_F(SearchReplaceRun, ChainsTermsOverTheSelectionAndReportsEachRename) {
   Make({"IMG_1.jpg", "DSC_3.jpg", "IMG_2.jpg", "IMG_4.jpg"});
   Select({"IMG_1.jpg", "DSC_3.jpg", "IMG_2.jpg"});
   Run({{"", "x"}});
@@ -80,7 +78,7 @@ TEST_P(SearchReplaceRun, ChainsTermsOverTheSelectionAndReportsEachRename) {
   EXPECT_EQ(view.refreshes, 1);
 }
 
-TEST_P(SearchReplaceRun, AClashIsAskedWithNoAsDefaultAndEachAnswerKeepsItsWord) {
+TEST_F(SearchReplaceRun, AClashIsAskedWithNoAsDefaultAndEachAnswerKeepsItsWord) {
   // `left`: IMG_* and Pic_1 afterwards; Pic_0 and Pic_2 when renamed.
   struct Row { std::initializer_list<MessageAnswer> answers; QStringList messages; QString results; Files left; };
   const Row rows[] = {
@@ -109,7 +107,7 @@ TEST_P(SearchReplaceRun, AClashIsAskedWithNoAsDefaultAndEachAnswerKeepsItsWord) 
 
 // On ext4 "bAnAnA.jpg" beside "banana.jpg" is a distinct file: the case
 // change is asked about like any clash, never made over it.
-TEST_P(SearchReplaceRun, ACaseOnlyChangeRenamesWithoutAskingUnlessADistinctFileHasTheName) {
+TEST_F(SearchReplaceRun, ACaseOnlyChangeRenamesWithoutAskingUnlessADistinctFileHasTheName) {
   Make({"banana.jpg", "cat.jpg", "cAt.jpg"});
   Select({"banana.jpg", "cat.jpg"});
   port.Script(MessageAnswer::No);
@@ -121,7 +119,7 @@ TEST_P(SearchReplaceRun, ACaseOnlyChangeRenamesWithoutAskingUnlessADistinctFileH
 
 // A target that cannot be deleted asks whether to go on; a failed rename
 // stops the run. Either way the first message is the clash question.
-TEST_P(SearchReplaceRun, AFailureIsToldInTheWordsOfItsNumber) {
+TEST_F(SearchReplaceRun, AFailureIsToldInTheWordsOfItsNumber) {
   const QString goOn = "\rClick OK to continue renaming files or Cancel to cancel the file renaming operation.";
   const QString stop =
       "\rThe file being renamed is 'Read Only' or the source folder is Write Protected.\r\r"
@@ -164,7 +162,7 @@ TEST_P(SearchReplaceRun, AFailureIsToldInTheWordsOfItsNumber) {
   }
 }
 
-TEST_P(SearchReplaceRun, NamesThatAreNotUtf8KeepTheirBytesAndASetMovesTogether) {
+TEST_F(SearchReplaceRun, NamesThatAreNotUtf8KeepTheirBytesAndASetMovesTogether) {
   Make({"IMG_\xff" "1.CRW", "IMG_\xff" "1.THM"});
   Select({"IMG_\xff" "1.CRW", "IMG_\xff" "1.THM"});
   Run({{"IMG", "Pic"}});
@@ -178,7 +176,7 @@ TEST_P(SearchReplaceRun, NamesThatAreNotUtf8KeepTheirBytesAndASetMovesTogether) 
 // that is not selected needs the name. A listed file that another program
 // removed meanwhile keeps its turn: the file that takes its name is not
 // renamed a second time.
-TEST_P(SearchReplaceRun, FilesTradingNamesAreNeitherAskedAboutNorLost) {
+TEST_F(SearchReplaceRun, FilesTradingNamesAreNeitherAskedAboutNorLost) {
   const struct {
     std::initializer_list<const char*> files, selected;
     std::initializer_list<std::pair<const char*, const char*>> terms;
@@ -219,7 +217,7 @@ struct PieceCheckingRecorder : core::OperationRecorder {
 
 // 300 files go in pieces of 128 and 172. A refused piece stops the run
 // before its first file, saying whether files were renamed before it.
-TEST_P(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
+TEST_F(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
   const QString why = " could not be saved for Undo (No space left on device).";
   const struct { size_t refused; std::vector<size_t> pieces; int renamed; QString first; } rows[] = {
       {SIZE_MAX, {128, 172}, 300, kComplete},
@@ -244,8 +242,6 @@ TEST_P(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
   }
   EXPECT_TRUE(search.results[1].endsWith("\nThe file renaming operation was cancelled."));
 }
-
-INSTANTIATE_TEST_SUITE_P(BothWays, SearchReplaceRun, ::testing::Bool());
 
 }  // namespace
 }  // namespace renvale::test

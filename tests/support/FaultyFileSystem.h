@@ -34,10 +34,6 @@ class FaultyFileSystem : public platform::FileSystem {
   // what the preview holds at that moment.
   std::function<void(const QByteArray&)> beforeRename;
   void ClearFaults() { faults_.clear(); }
-  // Lets a second thread rename too, as the real file system does; the
-  // faults must then be set before the run and no callback is called.
-  bool writableFromAnyThread = false;
-  bool WritableFromAnyThread() const override { return writableFromAnyThread; }
 
   int ListFiles(const QByteArray& folder, std::vector<QByteArray>* names) override {
     return inner_.ListFiles(folder, names);
