@@ -77,9 +77,6 @@ int BatchCommand::Run(const BatchArguments& args) {
       const int status = AllThere(true) ? RunName(args) : kFailed;
       // The process ends right after: no file may still be being read then.
       tokens_.StopReadingAhead();
-      // A run that stopped before its batch read the folder leaves no
-      // listing for a later one.
-      core::FolderIndex::DropKept();
       return status;
     }
     case Action::Replace:
@@ -144,7 +141,7 @@ bool BatchCommand::AllThere(bool keepListing) {
       allListed = false;
       if (!Found(group.given[i], place)) return false;
     }
-    if (keep && allListed) core::FolderIndex::KeepForNextRead(group.folder, std::move(listing));
+    if (keep && allListed) listing_ = std::move(listing);
   }
   return true;
 }
@@ -178,6 +175,9 @@ core::RenameContext BatchCommand::Context(core::RenameSession& session, core::Re
 // As the window's selection of the group's files, the first one current.
 void BatchCommand::Select(core::RenameSession& session, const Group& group) {
   session.CurrentFolder = group.folder;
+  // Kept by AllThere for the one folder of the run.
+  session.FreshListing = std::move(listing_);
+  listing_.reset();
   core::ApplySelection(session, static_cast<int>(group.files.size()), &group.files.front(), services_.settings);
   session.BatchMode = true;
 }

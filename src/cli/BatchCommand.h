@@ -102,6 +102,8 @@ class BatchCommand {
   HeadlessMessagePort port_;
   fileops::MetadataTokenSource tokens_;
   std::vector<Group> groups_;
+  // The one folder's listing from AllThere, for its batch to take.
+  std::optional<core::FolderIndex> listing_;
   // Kept as long as the command: a process may end without freeing them.
   std::vector<std::unique_ptr<GroupRun>> runs_;
   QStringList shownLines_;

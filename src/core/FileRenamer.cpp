@@ -9,11 +9,27 @@
 
 namespace renvale::core {
 
+namespace {
+
+// A listing the session holds for the folder is taken, once.
+FolderIndex ListingOf(const RenameContext& context, const QByteArray& folder) {
+  std::vector<QByteArray> suffixes = FileSetFinder::CompanionSuffixes();
+  std::optional<FolderIndex>& fresh = context.session.FreshListing;
+  if (fresh && folder == context.session.CurrentFolder && fresh->Counts(suffixes)) {
+    FolderIndex index = std::move(*fresh);
+    fresh.reset();
+    return index;
+  }
+  return FolderIndex::Read(context.fs, folder, std::move(suffixes));
+}
+
+}  // namespace
+
 FileRenamer::FileRenamer(const RenameContext& context, const QByteArray& folder,
                          const std::vector<platform::FileName>& selection)
     : context_(context),
       folder_(folder),
-      index_(FolderIndex::Read(context.fs, folder, FileSetFinder::CompanionSuffixes())),
+      index_(ListingOf(context, folder)),
       finder_(index_, selection),
       setRenamer_(context.fs, context.messages) {}
 

@@ -1,8 +1,6 @@
 #include "core/FolderIndex.h"
 
 #include <algorithm>
-#include <mutex>
-#include <optional>
 
 #include "core/AsciiFoldedName.h"
 
@@ -27,45 +25,8 @@ FolderIndex::FolderIndex(const std::vector<QByteArray>& names, std::vector<QByte
   for (const QByteArray& name : names) Add(name);
 }
 
-namespace {
-
-struct KeptListing {
-  std::mutex lock;
-  QByteArray folder;
-  std::optional<FolderIndex> index;
-};
-
-KeptListing& Kept() {
-  static KeptListing kept;
-  return kept;
-}
-
-}  // namespace
-
-void FolderIndex::KeepForNextRead(const QByteArray& folder, FolderIndex index) {
-  KeptListing& kept = Kept();
-  const std::lock_guard<std::mutex> hold(kept.lock);
-  kept.folder = folder;
-  kept.index = std::move(index);
-}
-
-void FolderIndex::DropKept() {
-  KeptListing& kept = Kept();
-  const std::lock_guard<std::mutex> hold(kept.lock);
-  kept.index.reset();
-}
-
 FolderIndex FolderIndex::Read(platform::FileSystem& fs, const QByteArray& folder,
                               std::vector<QByteArray> countedSuffixes) {
-  {
-    KeptListing& kept = Kept();
-    const std::lock_guard<std::mutex> hold(kept.lock);
-    if (kept.index && kept.folder == folder && kept.index->countedSuffixes_ == countedSuffixes) {
-      FolderIndex index = std::move(*kept.index);
-      kept.index.reset();
-      return index;
-    }
-  }
   std::vector<QByteArray> names;
   if (fs.ListFiles(folder, &names) != 0) names.clear();
   return FolderIndex(names, std::move(countedSuffixes));

@@ -34,13 +34,8 @@ class FolderIndex {
   static FolderIndex Read(platform::FileSystem& fs, const QByteArray& folder,
                           std::vector<QByteArray> countedSuffixes = {});
 
-  // Hands a listing of `folder` just read for another purpose to the next
-  // Read of that folder with the same counted suffixes, once, so that the
-  // folder is not read twice in a row. Whoever keeps one must change
-  // nothing in the folder before that Read.
-  static void KeepForNextRead(const QByteArray& folder, FolderIndex index);
-  // Lets go of a kept listing no Read has taken.
-  static void DropKept();
+  // Whether the index keeps count of exactly these suffixes.
+  bool Counts(const std::vector<QByteArray>& suffixes) const { return countedSuffixes_ == suffixes; }
 
   // True when a name spelled exactly like `name` is there.
   bool Contains(QByteArrayView name) const;

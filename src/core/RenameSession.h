@@ -2,7 +2,9 @@
 
 #include <QByteArray>
 #include <QString>
+#include <optional>
 
+#include "core/FolderIndex.h"
 #include "platform/FileName.h"
 
 namespace renvale::core {
@@ -22,6 +24,10 @@ struct RenameSession {
   bool FirstActivation = true;
   QString HelpFilePath;
   bool Busy = false;                    // while set, file-list clicks are ignored
+  // CurrentFolder's names as just read for another purpose, taken by the
+  // next renamer of that folder instead of reading it again. Set only
+  // where nothing in the folder is renamed before that.
+  std::optional<FolderIndex> FreshListing;
 };
 
 }  // namespace renvale::core
