@@ -23,15 +23,15 @@ BatchFileNamer::BatchFileNamer(const RenameContext& context, SeriesBox& box, con
 
 // Made in one piece: this runs for every file of a card.
 QString BatchFileNamer::Unexpanded(const QString& shown) const {
-  const qsizetype dot = shown.lastIndexOf(u'.');
-  if (dot < 0) return base_;
+  const QStringView extension = ExtensionOf(shown);
+  if (extension.isEmpty()) return base_;
   QString unexpanded;
-  unexpanded.reserve(base_.size() + shown.size() - dot);
+  unexpanded.reserve(base_.size() + extension.size());
   unexpanded += base_;
   if (context_.settings.forceLowerCaseExtension) {
-    unexpanded += shown.sliced(dot).toLower();
+    unexpanded += extension.toString().toLower();
   } else {
-    unexpanded += QStringView(shown).sliced(dot);
+    unexpanded += extension;
   }
   return unexpanded;
 }

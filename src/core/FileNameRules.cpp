@@ -2,19 +2,21 @@
 
 namespace renvale::core {
 
-SplitName SplitFileName(const QString& name, bool forceLowerCaseExtension) {
+QStringView ExtensionOf(QStringView name) {
   const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-  if (dot < 0) return {name, QString()};
-  QString extension = name.mid(dot);
-  if (forceLowerCaseExtension) extension = extension.toLower();
-  return {name.left(dot), extension};
+  return dot < 0 ? QStringView() : name.sliced(dot);
+}
+
+SplitName SplitFileName(const QString& name, bool forceLowerCaseExtension) {
+  const QStringView extension = ExtensionOf(name);
+  const QString base = name.left(name.size() - extension.size());
+  return {base, forceLowerCaseExtension ? extension.toString().toLower() : extension.toString()};
 }
 
 QString ApplyForcedExtensionCase(const QString& name, bool forceLowerCaseExtension) {
-  if (!forceLowerCaseExtension) return name;
-  const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
-  if (dot < 0) return name;
-  return name.left(dot) + name.mid(dot).toLower();
+  const QStringView extension = ExtensionOf(name);
+  if (!forceLowerCaseExtension || extension.isEmpty()) return name;
+  return name.left(name.size() - extension.size()) + extension.toString().toLower();
 }
 
 QString CutExtension(const QString& fileName, const QString& extension) {

@@ -16,6 +16,9 @@ struct SplitName {
   QString extension;
 };
 
+// The part of `name` from its last dot on, dot included; empty without one.
+QStringView ExtensionOf(QStringView name);
+
 // Splits `name` at its last dot: "a.b.jpg" -> "a.b" + ".jpg",
 // "README" -> "README" + "", "name." -> "name" + ".", ".xmp" -> "" + ".xmp".
 // With `forceLowerCaseExtension` the extension comes back lower-cased.
