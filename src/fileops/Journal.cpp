@@ -93,20 +93,25 @@ int Journal::Extend(std::vector<core::PlanStep> steps) {
     return error;
   }
   written_.size += addition.size();
-  written_.plan.steps.insert(written_.plan.steps.end(), std::make_move_iterator(steps.begin()),
-                             std::make_move_iterator(steps.end()));
+  written_.pieces.push_back(std::move(steps));
   return 0;
 }
 
 void Journal::RememberWritten(const QByteArray& path, const core::OperationPlan& plan, qint64 size) {
-  written_ = {Stem(path), size, plan};
+  written_ = {Stem(path), size, {plan.kind, plan.folder, plan.started, {}}, {plan.steps}};
 }
 
 bool Journal::FromWritten(const QByteArray& path, core::OperationPlan* plan) {
   if (written_.size < 0 || Stem(path) != written_.stem) return false;
   platform::FileInfo info;
   if (fs_.StatIdentity(path, &info) != 0 || info.size != written_.size) return false;
-  *plan = written_.plan;
+  *plan = written_.start;
+  size_t count = 0;
+  for (const std::vector<core::PlanStep>& piece : written_.pieces) count += piece.size();
+  plan->steps.reserve(count);
+  for (const std::vector<core::PlanStep>& piece : written_.pieces) {
+    plan->steps.insert(plan->steps.end(), piece.begin(), piece.end());
+  }
   return true;
 }
 

@@ -69,11 +69,14 @@ class Journal : public core::OperationRecorder {
   // for the newest plan after every operation, and reading back the
   // megabyte a large batch wrote would cost a good part of the batch again.
   // Whether its file is still the one written is told by its stem and size:
-  // journals are only ever appended to.
+  // journals are only ever appended to. The steps stay in the pieces they
+  // came in: joining them as they come would copy a long batch's plan into
+  // fresh memory while the batch runs, for a caption asked for after it.
   struct Written {
     QByteArray stem;
     qint64 size = -1;
-    core::OperationPlan plan;
+    core::OperationPlan start;  // without steps
+    std::vector<std::vector<core::PlanStep>> pieces;
   } written_;
   // Held on `current_` while the operation runs, so that another program
   // sharing the journal does not take a running plan for one cut short.
