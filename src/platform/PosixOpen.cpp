@@ -2,6 +2,7 @@
 
 #include <fcntl.h>
 
+#include <atomic>
 #include <cerrno>
 
 #include "platform/ErrorNumbers.h"
@@ -11,12 +12,32 @@ namespace renvale::platform {
 
 static_assert(kNoContents == kErrnoBase + ENODEV);
 
+namespace {
+
+// Reading a picture for its date is not the person opening it: the access
+// time their tools show stays as it was, and a card is spared a directory
+// write for every file a batch reads. Only the file's owner may ask for
+// that; once a file says no, the rest of the run opens files plainly
+// rather than asking twice for each.
+std::atomic<bool> keepAccessTimes{true};
+
+UniqueFd OpenLeavingAccessTime(int dirFd, const QByteArray& path, int flags) {
+  if (keepAccessTimes.load(std::memory_order_relaxed)) {
+    UniqueFd opened(::openat(dirFd, path.constData(), flags | O_NOATIME));
+    if (opened.valid() || errno != EPERM) return opened;
+    keepAccessTimes.store(false, std::memory_order_relaxed);
+  }
+  return UniqueFd(::openat(dirFd, path.constData(), flags));
+}
+
+}  // namespace
+
 // Never waits: open() on a named pipe waits for a writer that may never
 // come, and a device or a socket has no contents to read. The file stays in
 // non-blocking mode: Linux ignores that flag for a regular file's reads
 // (open(2)), and clearing it would cost two calls on every file a batch reads.
 int OpenRegularFileAt(int dirFd, const QByteArray& path, UniqueFd* fd, struct stat* st) {
-  UniqueFd opened(::openat(dirFd, path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+  UniqueFd opened = OpenLeavingAccessTime(dirFd, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
   if (!opened.valid()) return errno == ENXIO ? kNoContents : ErrorNumberFromErrno(errno);
   if (::fstat(opened.get(), st) != 0) return ErrorNumberFromErrno(errno);
   if (S_ISDIR(st->st_mode)) return ErrorNumberFromErrno(EISDIR);

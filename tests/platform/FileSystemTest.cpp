@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -151,6 +152,47 @@ TEST(FileSystemWholeFiles, WriteReadAndReadAt) {
     EXPECT_EQ(fs.OpenForRead(path, &file), platform::kNoContents) << path.constData();
     EXPECT_EQ(fs.ReadWholeFile(path, 8, &contents), platform::kNoContents) << path.constData();
   }
+}
+
+// An access time older than the contents is one a plain read brings up to
+// date (relatime); reading a file for its date must leave it. A file of
+// another owner may not be read that way, and is then read plainly.
+TEST(FileSystemWholeFiles, ReadingLeavesTheAccessTime) {
+  ScratchFolder folder;
+  const QByteArray path = folder / "p.jpg";
+  ASSERT_EQ(RealFileSystem().WriteWholeFile(path, "picture"), 0);
+  const auto accessed = [&] {
+    struct stat st {};
+    EXPECT_EQ(::stat(path.constData(), &st), 0);
+    return st.st_atim.tv_sec;
+  };
+  const timespec old[2] = {{1000000000, 0}, {UTIME_OMIT, 0}};
+  ASSERT_EQ(::utimensat(AT_FDCWD, path.constData(), old, 0), 0);
+  char byte = 0;
+  const int plain = ::open(path.constData(), O_RDONLY);
+  ASSERT_EQ(::read(plain, &byte, 1), 1);
+  ::close(plain);
+  if (accessed() == old[0].tv_sec) GTEST_SKIP() << "this file system keeps no access times";
+  ASSERT_EQ(::utimensat(AT_FDCWD, path.constData(), old, 0), 0);
+
+  std::unique_ptr<platform::ReadableFile> file;
+  ASSERT_EQ(RealFileSystem().HoldFolder(folder.path())->OpenForRead("p.jpg", &file), 0);
+  EXPECT_EQ(file->ReadAt(0, &byte, 1), 1);
+  QByteArray contents;
+  EXPECT_EQ(RealFileSystem().ReadWholeFile(path, 16, &contents), 0);
+  EXPECT_EQ(accessed(), old[0].tv_sec);
+
+  if (::geteuid() != 0) return;
+  const pid_t child = ::fork();
+  if (child == 0) {
+    // Nobody owns none of the system's files and may still read them.
+    const bool read = ::setgid(65534) == 0 && ::setuid(65534) == 0 &&
+                      RealFileSystem().ReadWholeFile("/etc/passwd", 1 << 20, &contents) == 0 && !contents.isEmpty();
+    ::_exit(read ? 0 : 1);
+  }
+  int status = -1;
+  ASSERT_EQ(::waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0) << "a file of another owner could not be read";
 }
 
 TEST(AttributeLetters, LettersInTheirOrderFromTheFilesState) {
