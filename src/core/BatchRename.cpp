@@ -1,5 +1,6 @@
 #include "core/BatchRename.h"
 
+#include <algorithm>
 #include <chrono>
 #include <optional>
 
@@ -24,8 +25,11 @@ constexpr size_t kFirstPiece = 256;
 // Files named after each rename from values already read: more than the
 // reading gives meanwhile, so the naming keeps up with it.
 constexpr size_t kNamedPerTurn = 4;
-// How far the naming may run ahead of the renames.
-constexpr size_t kMostAhead = 8192;
+// How far the naming may run ahead of the renames. A batch's three lists of
+// named files are made this long at its start and never grow: lists that
+// grew with the pieces would take fresh memory, page by page, for each
+// larger piece.
+constexpr size_t kMostAhead = 1024;
 // Told when the person stops at a duplicate-name warning: the moment they
 // look for a way to make every name unique.
 constexpr int kUniqueNamesTip = 21;
@@ -261,7 +265,7 @@ BatchRename::Ending BatchRename::RenameRecorded(Naming& naming, FileRenamer& ren
   std::vector<NamedFile> flying;  // handed over, not durable yet
   std::vector<NamedFile> ready;   // durable; those from `turn` on wait for their turns
   size_t turn = 0;
-  piece.reserve(kFirstPiece);
+  for (std::vector<NamedFile>* list : {&piece, &flying, &ready}) list->reserve(std::min(kMostAhead, total_));
   const auto handOver = [&] {
     pieces.Submit(DescribePiece(piece, renamer));
     flying.swap(piece);
