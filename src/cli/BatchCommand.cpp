@@ -9,6 +9,7 @@
 #include <unordered_set>
 
 #include "cli/CliTexts.h"
+#include "cli/PlainReport.h"
 #include "core/AsciiFoldedName.h"
 #include "core/BatchBaseCheck.h"
 #include "core/BatchRename.h"
@@ -288,23 +289,27 @@ void BatchCommand::ReadAhead(const BatchArguments& args) {
   tokens_.ExpectExifValues(groups_.front().folder, groups_.front().files);
 }
 
-// The series runs on from one folder to the next, as in the preview.
+// The series runs on from one folder to the next, as in the preview. The
+// files are told of folder by folder, as they end.
 int BatchCommand::RenameAsNamed(const BatchArguments& args) {
   qint64 number = args.series.value_or(1);
   QString series = SeriesBox(number);
   const core::RandomSeriesPool::RandomSource random =
       args.seed ? SeededSource(*args.seed) : core::RandomSeriesPool::TimeSeededSource();
-  std::vector<std::vector<OutputRow>> rows;
+  bool everyFileNamed = true;
   for (Group& group : groups_) {
     runs_.push_back(std::make_unique<GroupRun>(group, args.name, series, args.randomSeries));
     qint64 taken = 0;
     QString after = series;
-    rows.push_back(RenameGroup(*runs_.back(), random, &taken, &after));
+    PlainReport report(out_, port_.lines, group.given);
+    if (!port_.failed) RenameGroup(*runs_.back(), random, &report, &taken, &after);
     number += taken;
     series = args.randomSeries ? SeriesBox(number) : after;
-    if (port_.failed) break;
+    everyFileNamed = report.Finish() && everyFileNamed;
   }
-  return Report(Joined(std::move(rows)), false, false);
+  FlushMessages();
+  if (port_.failed) return kFailed;
+  return everyFileNamed ? kEveryFileNamed : kSomeSkipped;
 }
 
 // Every folder's base is checked before the first file is renamed: a base
@@ -325,41 +330,36 @@ bool BatchCommand::BasesUsable(const QString& base) {
 
 // A plain run's report names each file as it was given; its old name is
 // not worked out.
-std::vector<OutputRow> BatchCommand::RenameGroup(GroupRun& run, const core::RandomSeriesPool::RandomSource& random,
-                                                 qint64* seriesTaken, QString* seriesAfter) {
+void BatchCommand::RenameGroup(GroupRun& run, const core::RandomSeriesPool::RandomSource& random,
+                               PlainReport* report, qint64* seriesTaken, QString* seriesAfter) {
   const Group& group = run.group;
-  std::vector<OutputRow> rows;
-  rows.reserve(group.files.size());
-  for (const QByteArray& given : group.given) rows.push_back(OutputRow{given, {}, {}, {}, {}, OutputRow::Status::Planned});
-  // Files are told in list order, except those that waited for a name to
-  // be left: only then is a file's row looked up.
+  // Files end in list order, except those that waited for a name to be
+  // left: only then is a file's place looked up.
   size_t next = 0;
-  QHash<QByteArray, size_t> rowOf;
-  const auto rowFor = [&](const QByteArray& raw) -> OutputRow& {
+  QHash<QByteArray, size_t> placeOf;
+  const auto placeFor = [&](const QByteArray& raw) {
     if (next >= group.files.size() || group.files[next].raw != raw) {
-      if (rowOf.isEmpty()) {
-        for (size_t i = group.files.size(); i-- > 0;) rowOf.insert(group.files[i].raw, i);
+      if (placeOf.isEmpty()) {
+        for (size_t i = group.files.size(); i-- > 0;) placeOf.insert(group.files[i].raw, i);
       }
-      next = rowOf.value(raw);
+      next = placeOf.value(raw);
     }
-    return rows[next++];
+    return next++;
   };
   Select(run.session, group);
   const core::RenameContext context = Context(run.session, run.view);
   core::BatchRename batch(context, random);
   batch.ObserveTurns([&](const core::NamedFile& named, bool renamed) {
-    OutputRow& row = rowFor(named.file.raw);
-    row.newName = named.newName;
-    row.status = renamed ? OutputRow::Status::Renamed
-                 : named.sameName ? OutputRow::Status::Unchanged
-                                  : OutputRow::Status::Skipped;
+    const OutputRow::Status status = renamed          ? OutputRow::Status::Renamed
+                                     : named.sameName ? OutputRow::Status::Unchanged
+                                                      : OutputRow::Status::Skipped;
+    report->Ended(placeFor(named.file.raw), status, named.newName);
     if (named.seriesTaken) {
       ++*seriesTaken;
       *seriesAfter = named.seriesAfter;
     }
   });
   batch.StartBatchRename();
-  return rows;
 }
 
 // ---- --replace -------------------------------------------------------------

@@ -8,6 +8,7 @@
 #include "cli/BatchArguments.h"
 #include "cli/BatchOutput.h"
 #include "cli/HeadlessMessagePort.h"
+#include "cli/PlainReport.h"
 #include "core/BatchPreview.h"
 #include "core/FolderIndex.h"
 #include "core/RenameSession.h"
@@ -79,8 +80,8 @@ class BatchCommand {
   void ReadAhead(const BatchArguments& args);
   int RenameAsNamed(const BatchArguments& args);
   bool BasesUsable(const QString& base);
-  std::vector<OutputRow> RenameGroup(GroupRun& run, const core::RandomSeriesPool::RandomSource& random,
-                                     qint64* seriesTaken, QString* seriesAfter);
+  void RenameGroup(GroupRun& run, const core::RandomSeriesPool::RandomSource& random, PlainReport* report,
+                   qint64* seriesTaken, QString* seriesAfter);
   QString SeriesBox(qint64 number);
   bool PreviewAll(const BatchArguments& args, std::vector<std::unique_ptr<GroupRun>>* runs);
   std::vector<OutputRow> TakeRows(GroupRun& run) const;

@@ -7,6 +7,7 @@
 #include "cli/BatchArguments.h"
 #include "cli/BatchCommand.h"
 #include "core/CoreTexts.h"
+#include "support/FaultyFileSystem.h"
 
 namespace renvale::cli {
 namespace {
@@ -90,7 +91,8 @@ class BatchRun : public ::testing::Test {
   QTemporaryDir dir;
   QByteArray card = QFile::encodeName(dir.path()) + '/';
   QByteArray state = QFile::encodeName(dir.path()) + "/.state/";
-  platform::FileSystem& fs = platform::RealFileSystem();
+  test::FaultyFileSystem faulty{platform::RealFileSystem()};
+  platform::FileSystem& fs = faulty;
   core::SettingsRecord settings;
   HeadlessMessagePort journalPort;
   fileops::Journal journal{fs, (QDir().mkpath(QFile::decodeName(state)), state), journalPort};
@@ -194,6 +196,19 @@ TEST_F(BatchRun, APlainRunCarriesTheSeriesOnAndReplaceChainsPairs) {
   EXPECT_EQ(Run({"--replace", "Day 0=x", "--replace", "x8=Day 1", "Day 08.JPG"}), kEveryFileNamed);
   EXPECT_EQ(out, QStringLiteral("Day 08.JPG \u2192 Day 1.JPG\n"));
   EXPECT_EQ(Holds("Day 1.JPG"), "IMG_1.JPG");
+
+  // A rename the disk refuses ends the run: every file after it, in this
+  // folder and the next, is told it was not reached.
+  for (const char* name : {"c.jpg", "d.jpg", "e.jpg", "sub/f.jpg"}) Make(name);
+  faulty.FailRename(card + "d.jpg", EIO);
+  EXPECT_EQ(Run({"--name", "End %SERIES%", "c.jpg", "d.jpg", "e.jpg", "sub/f.jpg"}), kFailed);
+  EXPECT_EQ(out, QStringLiteral("c.jpg \u2192 End 01.jpg\n"));
+  EXPECT_TRUE(err.endsWith(QStringLiteral("renvale-batch: 'd.jpg' was not renamed: the run stopped before its turn\n"
+                                          "renvale-batch: 'e.jpg' was not renamed: the run stopped before its turn\n"
+                                          "renvale-batch: 'sub/f.jpg' was not renamed: the run stopped before its "
+                                          "turn\n")))
+      << err.toStdString();
+  EXPECT_EQ(Holds("sub/f.jpg"), "sub/f.jpg");
 }
 
 }  // namespace
