@@ -17,22 +17,23 @@
 
 namespace {
 
-// About what a file given on the command line takes on the main thread:
-// its name, new name, row and share of the batch's lists.
-constexpr std::size_t kHeapPerFile = 1536;
+// About what a file given on the command line takes on the main thread at
+// most: a plain run holds little more than its name and new name once the
+// batch has moved past it; a run that works out every name before it
+// starts, or shows them, holds every name and row at once.
+constexpr std::size_t kHeapPerFileNamedAsItGoes = 800;
+constexpr std::size_t kHeapPerFileNamedFirst = 1536;
+
+std::size_t HeapPerFile(const renvale::cli::BatchArguments& parsed) {
+  const bool asItGoes =
+      parsed.action == renvale::cli::Action::Name && !parsed.dryRun && !parsed.json && !parsed.failOnClash;
+  return asItGoes ? kHeapPerFileNamedAsItGoes : kHeapPerFileNamedFirst;
+}
 
 }  // namespace
 
 int main(int argc, char** argv) {
   using namespace renvale;
-  // A card's worth of files is made room for at once rather than page by
-  // page as the batch goes.
-  platform::ReserveHeap(static_cast<std::size_t>(argc) * kHeapPerFile);
-  // Qt Core only: the tool runs where there is no display at all.
-  QCoreApplication app(argc, argv);
-  QCoreApplication::setOrganizationName(QStringLiteral("MorventSoftware"));
-  QCoreApplication::setApplicationName(QStringLiteral("Renvale"));
-
   // The arguments as bytes: a file name on a card need not be valid UTF-8.
   // They point into argv, which lives as long as the process: a card's
   // ten thousand names are not copied one allocation each.
@@ -42,6 +43,13 @@ int main(int argc, char** argv) {
     args.push_back(QByteArray::fromRawData(argv[i], static_cast<qsizetype>(qstrlen(argv[i]))));
   }
   const cli::BatchArguments parsed = cli::ParseBatchArguments(args);
+  // A card's worth of files is made room for at once rather than page by
+  // page as the batch goes.
+  platform::ReserveHeap(parsed.files.size() * HeapPerFile(parsed));
+  // Qt Core only: the tool runs where there is no display at all.
+  QCoreApplication app(argc, argv);
+  QCoreApplication::setOrganizationName(QStringLiteral("MorventSoftware"));
+  QCoreApplication::setApplicationName(QStringLiteral("Renvale"));
 
   // The window's settings, only read: the window keeps no series number
   // between batches, so a batch here has nothing to write back either.
@@ -58,7 +66,8 @@ int main(int argc, char** argv) {
   const bool renames = parsed.action == cli::Action::Name || parsed.action == cli::Action::Replace;
   if (renames ? !parsed.dryRun : parsed.action != cli::Action::Help) {
     QDir().mkpath(platform::StateFolder() + QStringLiteral("damaged"));
-    journal.emplace(fs, QFile::encodeName(platform::StateFolder()), journalMessages);
+    journal.emplace(fs, QFile::encodeName(platform::StateFolder()), journalMessages,
+                    fileops::Journal::WrittenPlans::Forgotten);
   }
   cli::BatchServices services{fs, settings, journal ? &*journal : nullptr, platform::CurrentDirectory()};
   cli::BatchCommand command(services, out, err);

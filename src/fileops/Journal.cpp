@@ -43,8 +43,9 @@ QByteArray Stem(const QByteArray& path) { return path.left(path.lastIndexOf('.')
 
 }  // namespace
 
-Journal::Journal(platform::FileSystem& fs, const QByteArray& folder, platform::MessagePort& messages)
-    : fs_(fs), folder_(folder), messages_(messages) {}
+Journal::Journal(platform::FileSystem& fs, const QByteArray& folder, platform::MessagePort& messages,
+                 WrittenPlans written)
+    : fs_(fs), folder_(folder), messages_(messages), keep_(written) {}
 
 QByteArray Journal::NameFor(const core::OperationPlan& plan, int sequence) const {
   return folder_ + QByteArray::number(plan.started.toMSecsSinceEpoch()).rightJustified(15, '0') + '-' +
@@ -98,6 +99,7 @@ int Journal::Extend(std::vector<core::PlanStep> steps) {
 }
 
 void Journal::RememberWritten(const QByteArray& path, const core::OperationPlan& plan, qint64 size) {
+  if (keep_ == WrittenPlans::Forgotten) return;
   written_ = {Stem(path), size, {plan.kind, plan.folder, plan.started, {}}, {plan.steps}};
 }
 

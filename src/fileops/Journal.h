@@ -30,9 +30,15 @@ class Journal : public core::OperationRecorder {
  public:
   static constexpr size_t kKept = 200;
 
+  // Whether the plans this journal writes are also kept in memory: the
+  // window asks for the newest after every operation, while a process that
+  // makes one operation and ends would only fill fresh memory with them.
+  enum class WrittenPlans { Kept, Forgotten };
+
   // `folder` ends in '/' and holds a "damaged/" folder for journals that
   // cannot be read.
-  Journal(platform::FileSystem& fs, const QByteArray& folder, platform::MessagePort& messages);
+  Journal(platform::FileSystem& fs, const QByteArray& folder, platform::MessagePort& messages,
+          WrittenPlans written = WrittenPlans::Kept);
 
   int Begin(const core::OperationPlan& plan) override;
   int Extend(std::vector<core::PlanStep> steps) override;
@@ -64,6 +70,7 @@ class Journal : public core::OperationRecorder {
   platform::FileSystem& fs_;
   QByteArray folder_;
   platform::MessagePort& messages_;
+  const WrittenPlans keep_;
   QByteArray current_;  // the open journal of the running operation
   // The plan this journal wrote last, kept as written: the Undo caption asks
   // for the newest plan after every operation, and reading back the
