@@ -21,8 +21,8 @@ namespace {
 // most: a plain run holds little more than its name and new name once the
 // batch has moved past it; a run that works out every name before it
 // starts, or shows them, holds every name and row at once.
-constexpr std::size_t kHeapPerFileNamedAsItGoes = 800;
-constexpr std::size_t kHeapPerFileNamedFirst = 1536;
+constexpr std::size_t kHeapPerFileNamedAsItGoes = 720;
+constexpr std::size_t kHeapPerFileNamedFirst = 1400;
 
 std::size_t HeapPerFile(const renvale::cli::BatchArguments& parsed) {
   const bool asItGoes =
@@ -42,7 +42,7 @@ int main(int argc, char** argv) {
   for (int i = 1; i < argc; ++i) {
     args.push_back(QByteArray::fromRawData(argv[i], static_cast<qsizetype>(qstrlen(argv[i]))));
   }
-  const cli::BatchArguments parsed = cli::ParseBatchArguments(args);
+  const cli::BatchArguments parsed = cli::ParseBatchArguments(std::move(args));
   // A card's worth of files is made room for at once rather than page by
   // page as the batch goes.
   platform::ReserveHeap(parsed.files.size() * HeapPerFile(parsed));

@@ -26,19 +26,24 @@ QString OptionName(Action action) {
 
 class Parser {
  public:
-  explicit Parser(const std::vector<QByteArray>& args) : args_(args) {}
+  explicit Parser(std::vector<QByteArray> args) : args_(std::move(args)) {}
 
+  // The files stay in the list they were given in, moved up over the
+  // options: a card's ten thousand names are not copied into a second one.
   BatchArguments Run() && {
-    out_.files.reserve(args_.size());
-    while (next_ < args_.size() && out_.error.isEmpty()) Take(args_[next_++]);
+    while (next_ < args_.size() && out_.error.isEmpty()) Take(next_++);
+    args_.resize(kept_);
+    out_.files = std::move(args_);
     if (out_.error.isEmpty()) Check();
     return std::move(out_);
   }
 
  private:
-  void Take(const QByteArray& arg) {
+  void Take(size_t at) {
+    const QByteArray& arg = args_[at];
     if (endOfOptions_ || !arg.startsWith('-') || arg == "-") {
-      out_.files.push_back(arg);
+      if (kept_ != at) args_[kept_] = std::move(args_[at]);
+      ++kept_;
       return;
     }
     if (arg == "--") {
@@ -183,14 +188,15 @@ class Parser {
     if (out_.error.isEmpty()) out_.error = error;
   }
 
-  const std::vector<QByteArray>& args_;
+  std::vector<QByteArray> args_;
   size_t next_ = 0;
+  size_t kept_ = 0;  // files so far, at the start of args_
   bool endOfOptions_ = false;
   BatchArguments out_;
 };
 
 }  // namespace
 
-BatchArguments ParseBatchArguments(const std::vector<QByteArray>& args) { return Parser(args).Run(); }
+BatchArguments ParseBatchArguments(std::vector<QByteArray> args) { return Parser(std::move(args)).Run(); }
 
 }  // namespace renvale::cli

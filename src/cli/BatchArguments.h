@@ -31,6 +31,6 @@ struct BatchArguments {
 
 // `args` excludes the program name. File arguments stay bytes: a name on a
 // card need not be valid UTF-8.
-BatchArguments ParseBatchArguments(const std::vector<QByteArray>& args);
+BatchArguments ParseBatchArguments(std::vector<QByteArray> args);
 
 }  // namespace renvale::cli

@@ -69,14 +69,14 @@ void MetadataTokenSource::ExpectExifValues(const QByteArray& folder, const std::
   identityFresh_ = false;
   if (!fs_.ReadableFromAnyThread()) return;
   if (readAhead_ != nullptr && !readAheadTaken_ && folder == readAheadFolder_ &&
-      std::equal(files.begin(), files.end(), readAheadNames_.begin(), readAheadNames_.end(),
+      std::equal(files.begin(), files.end(), readAhead_->Names().begin(), readAhead_->Names().end(),
                  [](const platform::FileName& file, const QByteArray& name) { return file.raw == name; })) {
     return;
   }
-  readAheadNames_.clear();
-  readAheadNames_.reserve(files.size());
-  for (const platform::FileName& file : files) readAheadNames_.push_back(file.raw);
-  readAhead_ = std::make_unique<metadata::ExifReadAhead>(fs_, folder, readAheadNames_, Formats());
+  std::vector<QByteArray> names;
+  names.reserve(files.size());
+  for (const platform::FileName& file : files) names.push_back(file.raw);
+  readAhead_ = std::make_unique<metadata::ExifReadAhead>(fs_, folder, std::move(names), Formats());
   readAheadFolder_ = folder;
   readAheadTaken_ = false;
 }

@@ -57,7 +57,6 @@ class MetadataTokenSource : public core::TokenSource {
   bool identityFresh_ = false;
   core::FileIdentity identity_;
   QByteArray readAheadFolder_;
-  std::vector<QByteArray> readAheadNames_;
   bool readAheadTaken_ = false;  // a value was asked of it: it no longer reads "from now"
 
   QStringList* sink_ = nullptr;

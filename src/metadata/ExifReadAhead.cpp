@@ -5,9 +5,9 @@
 namespace renvale::metadata {
 
 ExifReadAhead::ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder,
-                             const std::vector<QByteArray>& rawNames, const ExifDateFormats& formats)
-    : fs_(fs), folder_(folder), held_(fs.HoldFolder(folder)), names_(rawNames), formats_(formats),
-      results_(rawNames.size()), done_(rawNames.size(), 0), taken_(rawNames.size(), false) {
+                             std::vector<QByteArray> rawNames, const ExifDateFormats& formats)
+    : fs_(fs), folder_(folder), held_(fs.HoldFolder(folder)), names_(std::move(rawNames)), formats_(formats),
+      results_(names_.size()), done_(names_.size(), 0), taken_(names_.size(), false) {
   reader_ = std::jthread([this](const std::stop_token& stop) { Work(stop); });
 }
 

@@ -38,10 +38,13 @@ class ExifReadAhead {
   };
 
   // `fs` must be readable from any thread. Starts reading at once.
-  ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder, const std::vector<QByteArray>& rawNames,
+  ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder, std::vector<QByteArray> rawNames,
                 const ExifDateFormats& formats);
   // Stops the reading (after the file at hand) and waits for it.
   ~ExifReadAhead();
+
+  // The files it reads, in its order.
+  const std::vector<QByteArray>& Names() const { return names_; }
   ExifReadAhead(const ExifReadAhead&) = delete;
   ExifReadAhead& operator=(const ExifReadAhead&) = delete;
 
