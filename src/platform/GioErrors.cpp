@@ -7,38 +7,13 @@
 #include <cerrno>
 
 #include "platform/ErrorNumbers.h"
+#include "platform/GioErrorCodes.h"
 
 namespace renvale::platform {
-namespace {
-
-struct GioErrorToErrno {
-  int gioCode;
-  int errnum;
-};
-
-constexpr GioErrorToErrno kGioErrors[] = {
-    {G_IO_ERROR_NOT_FOUND, ENOENT},         {G_IO_ERROR_EXISTS, EEXIST},
-    {G_IO_ERROR_PERMISSION_DENIED, EACCES}, {G_IO_ERROR_READ_ONLY, EROFS},
-    {G_IO_ERROR_BUSY, EBUSY},               {G_IO_ERROR_NO_SPACE, ENOSPC},
-    {G_IO_ERROR_IS_DIRECTORY, EISDIR},      {G_IO_ERROR_NOT_DIRECTORY, ENOTDIR},
-    {G_IO_ERROR_FILENAME_TOO_LONG, ENAMETOOLONG}, {G_IO_ERROR_INVALID_FILENAME, EINVAL},
-    {G_IO_ERROR_NOT_SUPPORTED, EOPNOTSUPP}, {G_IO_ERROR_TOO_MANY_LINKS, ELOOP},
-    {G_IO_ERROR_CANCELLED, ECANCELED},      {G_IO_ERROR_TIMED_OUT, ETIMEDOUT},
-    {G_IO_ERROR_HOST_NOT_FOUND, EHOSTUNREACH}, {G_IO_ERROR_HOST_UNREACHABLE, EHOSTUNREACH},
-    {G_IO_ERROR_NETWORK_UNREACHABLE, ENETUNREACH}, {G_IO_ERROR_CONNECTION_REFUSED, ECONNREFUSED},
-    {G_IO_ERROR_CONNECTION_CLOSED, ECONNRESET}, {G_IO_ERROR_NOT_MOUNTED, ENOENT},
-};
-
-}  // namespace
 
 int ErrorNumberFromGError(const GError* error) {
-  int errnum = EIO;
-  if (error != nullptr && error->domain == G_IO_ERROR) {
-    for (const GioErrorToErrno& entry : kGioErrors) {
-      if (entry.gioCode == error->code) errnum = entry.errnum;
-    }
-  }
-  return ErrorNumberFromErrno(errnum);
+  if (error != nullptr && error->domain == G_IO_ERROR) return ErrorNumberFromGioCode(error->code);
+  return ErrorNumberFromErrno(EIO);
 }
 
 }  // namespace renvale::platform
