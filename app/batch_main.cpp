@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTextStream>
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -46,8 +47,11 @@ int main(int argc, char** argv) {
   // A card's worth of files is made room for at once rather than page by
   // page as the batch goes.
   platform::ReserveHeap(parsed.files.size() * HeapPerFile(parsed));
-  // Qt Core only: the tool runs where there is no display at all.
-  QCoreApplication app(argc, argv);
+  // Qt Core only: the tool runs where there is no display at all. It runs
+  // no event loop, so it makes no application object either (that object
+  // looks at each of ten thousand arguments for options of Qt's own); the
+  // C library's locale is the person's, as the object would have set it.
+  std::setlocale(LC_ALL, "");
   QCoreApplication::setOrganizationName(QStringLiteral("MorventSoftware"));
   QCoreApplication::setApplicationName(QStringLiteral("Renvale"));
 
