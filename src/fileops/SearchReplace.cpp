@@ -401,6 +401,7 @@ SearchReplace::Step SearchReplace::AskAboutClash(const platform::FileName& file,
                                                  const QByteArray& newName, core::FileRenamer& renamer) {
   const QString question = texts::kClashPrefix + Display(newName) + texts::kClashSuffix + texts::kCr +
                            texts::kClashWarning;
+  view_.ShowProgressNow();
   const MessageAnswer answer =
       context_.messages.AskBeforeLoss(question, MessageButtons::YesNoCancel, MessageIcon::Warning);
   if (answer == MessageAnswer::Yes) return ReplaceTarget(file, from, newName, renamer);
@@ -437,6 +438,7 @@ SearchReplace::Step SearchReplace::ReplaceTarget(const platform::FileName& file,
 
 SearchReplace::Step SearchReplace::NotOverwritten(const platform::FileName& file, const QByteArray& newName,
                                                   int error) {
+  view_.ShowProgressNow();
   if (context_.messages.Ask(OverwriteFailureText(error), MessageButtons::OkCancel, MessageIcon::Warning) !=
       MessageAnswer::Ok) {
     return Cancel();
@@ -446,6 +448,7 @@ SearchReplace::Step SearchReplace::NotOverwritten(const platform::FileName& file
 }
 
 SearchReplace::Step SearchReplace::Failed(int error, bool failureShown) {
+  view_.ShowProgressNow();
   if (!failureShown) context_.messages.Notify(RenameErrorText(error), MessageIcon::Critical);
   AddLine(texts::kRunCancelledNotWritable);
   return Step::Stop;

@@ -17,6 +17,9 @@ class SearchReplaceView {
   // The progress bar: `maximum` once per run, then the files done so far.
   virtual void SetProgressMaximum(int maximum) = 0;
   virtual void SetProgress(int value) = 0;
+  // Shows the files done so far at once: a question is about to stop the
+  // run, and the bar must not read less than was done while it waits.
+  virtual void ShowProgressNow() {}
   // Lets pending window events run; may skip the work when called faster
   // than the screen refreshes.
   virtual void ProcessEvents() = 0;

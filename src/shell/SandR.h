@@ -34,6 +34,7 @@ class SandR : public QDialog, public fileops::SearchReplaceView {
   void SetRunning(bool running) override;
   void SetProgressMaximum(int maximum) override;
   void SetProgress(int value) override;
+  void ShowProgressNow() override { ShowHeldProgress(); }
   void ProcessEvents() override;
   void ResultsSoFar(const QString& results) override;
   void ShowResults(const QString& results) override;

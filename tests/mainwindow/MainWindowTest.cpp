@@ -17,6 +17,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -58,16 +59,23 @@ namespace {
 
 using MainWindowFileOps = MainWindowFixture;
 
-// Terms typed in the dialog rename the selection and are listed; then "DEL" trashes one.
+// Terms typed in the dialog rename the selection and are listed, a clash
+// asked about with the files done so far on the bar; then "DEL" trashes one.
 TEST_F(MainWindowFileOps, SearchAndReplaceThroughTheDialogThenDelTrashesTheSelection) {
-  MakeFiles({"IMG_1.jpg", "IMG_2.jpg", "IMG_3.jpg"});
+  MakeFiles({"IMG_1.jpg", "IMG_2.jpg", "IMG_3.jpg", "Pic_2.jpg"});
   shell::MainWindow& main = Open();
   main.Ui().FSR->trigger();
   EXPECT_EQ(messages.Texts(), QStringList{"Please select file(s) to search first."});
   ClickRow(0);
   ClickRow(1, Qt::ShiftModifier);
   QString results;
+  int doneAtQuestion = -1;
+  messages.Script(platform::MessageAnswer::No);
   messages.onShow = [&] {
+    if (messages.Last().text.startsWith("The file 'Pic_2.jpg'")) {
+      doneAtQuestion = QApplication::activeModalWidget()->findChild<QProgressBar*>("ProgressBar1")->value();
+      return;
+    }
     QTimer::singleShot(0, [&] {
       QWidget* window = QApplication::activeModalWidget();
       results = window->findChild<QPlainTextEdit*>("textResults")->toPlainText();
@@ -85,12 +93,14 @@ TEST_F(MainWindowFileOps, SearchAndReplaceThroughTheDialogThenDelTrashesTheSelec
   main.Ui().FSR->trigger();
   messages.onShow = nullptr;
   EXPECT_EQ(messages.Last().text, "Search & Replace Renaming Complete.  Click OK for the results.");
-  EXPECT_EQ(results, "\n\"IMG_1.jpg\" was renamed to \"Pic_1.jpg\"\n\"IMG_2.jpg\" was renamed to \"Pic_2.jpg\"");
-  EXPECT_EQ(ListedNames(), (QStringList{"IMG_3.jpg", "Pic_1.jpg", "Pic_2.jpg"}));
+  EXPECT_EQ(doneAtQuestion, 1);
+  EXPECT_EQ(results, "\n\"IMG_1.jpg\" was renamed to \"Pic_1.jpg\"\nThe file 'IMG_2.jpg' was not renamed to "
+                     "'Pic_2.jpg' because the new proposed filename already existed.");
+  EXPECT_EQ(ListedNames(), (QStringList{"IMG_2.jpg", "IMG_3.jpg", "Pic_1.jpg", "Pic_2.jpg"}));
   EXPECT_EQ(main.Ui().selectionLabel->text(), "( No File Selected )");
   ClickRow(0);
   main.Ui().Command4->click();
-  EXPECT_EQ(ListedNames(), (QStringList{"Pic_1.jpg", "Pic_2.jpg"}));
+  EXPECT_EQ(ListedNames(), (QStringList{"IMG_3.jpg", "Pic_1.jpg", "Pic_2.jpg"}));
   EXPECT_EQ(tips.offered, (std::vector<int>{17, 6}));
 }
 
