@@ -27,6 +27,7 @@ bool PlainReport::Finish() {
 }
 
 void PlainReport::Tell(size_t file, OutputRow::Status status, const QString& newName) {
+  if (status == OutputRow::Status::Unchanged) return;
   const QString given = platform::FileName::NameToText(given_[file]);
   switch (status) {
     case OutputRow::Status::Renamed:

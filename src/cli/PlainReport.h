@@ -32,7 +32,7 @@ class PlainReport {
   QStringList& errors_;
   const std::vector<QByteArray>& given_;
   std::vector<OutputRow::Status> status_;
-  QHash<size_t, QString> held_;  // new names of files that ended before one given earlier
+  QHash<size_t, QString> held_;  // new names of files that ended while one given before them had not
   size_t next_ = 0;              // the first file not told yet
   bool everyFileNamed_ = true;
 };

@@ -100,7 +100,8 @@ int Journal::Extend(std::vector<core::PlanStep> steps) {
 
 void Journal::RememberWritten(const QByteArray& path, const core::OperationPlan& plan, qint64 size) {
   if (keep_ == WrittenPlans::Forgotten) return;
-  written_ = {Stem(path), size, {plan.kind, plan.folder, plan.started, {}}, {plan.steps}};
+  written_ = {Stem(path), size, {plan.kind, plan.folder, plan.started, {}}, {}};
+  written_.pieces.push_back(plan.steps);
 }
 
 bool Journal::FromWritten(const QByteArray& path, core::OperationPlan* plan) {

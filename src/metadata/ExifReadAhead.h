@@ -42,11 +42,11 @@ class ExifReadAhead {
                 const ExifDateFormats& formats);
   // Stops the reading (after the file at hand) and waits for it.
   ~ExifReadAhead();
+  ExifReadAhead(const ExifReadAhead&) = delete;
+  ExifReadAhead& operator=(const ExifReadAhead&) = delete;
 
   // The files it reads, in its order.
   const std::vector<QByteArray>& Names() const { return names_; }
-  ExifReadAhead(const ExifReadAhead&) = delete;
-  ExifReadAhead& operator=(const ExifReadAhead&) = delete;
 
   // The values of `rawName` in `folder` read with `formats`, reading them
   // (and the files after it) if the reader has not got there yet. False when that file was not read ahead
