@@ -18,11 +18,13 @@ class FakeSearchView : public fileops::SearchReplaceView {
   void SetRunning(bool on) override { running.push_back(on); }
   void SetProgressMaximum(int maximum) override { progress.push_back(-maximum); }
   void SetProgress(int value) override { progress.push_back(value); }
+  void ShowProgressNow() override { shownBeforeQuestions.push_back(progress.back()); }
   void ProcessEvents() override {}
   void ShowResults(const QString& text) override { results << text; }
 
   std::vector<bool> running;
   std::vector<int> progress;  // a maximum as its negative
+  std::vector<int> shownBeforeQuestions;
   QStringList results;
 };
 
@@ -51,6 +53,7 @@ class SearchReplaceRun : public RenameFixture {
     Select({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg"});
     port.Clear();
     search.results.clear();
+    search.shownBeforeQuestions.clear();
     fs.ClearFaults();
     for (MessageAnswer answer : answers) port.Script(answer);
   }
@@ -157,6 +160,8 @@ TEST_F(SearchReplaceRun, AFailureIsToldInTheWordsOfItsNumber) {
     EXPECT_EQ(port.messages[1].text, row.text);
     EXPECT_EQ(port.messages[1].icon, row.icon);
     EXPECT_EQ(search.results, QStringList{row.results});
+    // The bar shows IMG_0 done at the clash, and at the failure after it.
+    EXPECT_EQ(search.shownBeforeQuestions, (std::vector<int>{1, row.remove ? 1 : 2}));
     EXPECT_EQ(Folder()["Pic_1.jpg"], "Pic_1.jpg");
     EXPECT_EQ(Folder().count("IMG_3.jpg"), row.remove ? 0u : 1u);  // nothing moves once the run has stopped
   }
