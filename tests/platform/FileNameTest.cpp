@@ -1,3 +1,6 @@
+// GIO's headers use `signals` as a plain name, which Qt's headers turn into a
+// keyword macro; so GIO comes first.
+#include <gio/gio.h>
 #include <gtest/gtest.h>
 
 #include <cerrno>
@@ -5,6 +8,7 @@
 
 #include "platform/ErrorNumbers.h"
 #include "platform/FileName.h"
+#include "platform/GioErrorCodes.h"
 
 namespace renvale::test {
 namespace {
@@ -57,6 +61,9 @@ TEST(ErrorNumbers, FromErrnoAndDescribedByTheSystemText) {
     }
   }
   EXPECT_TRUE(platform::ErrorDescription(5).isEmpty());
+  // GIO reports its own codes (the trash does), each told by its errno's number.
+  EXPECT_EQ(platform::ErrorNumberFromGioCode(G_IO_ERROR_NO_SPACE), platform::ErrorNumberFromErrno(ENOSPC));
+  EXPECT_EQ(platform::ErrorNumberFromGioCode(G_IO_ERROR_FAILED), platform::ErrorNumberFromErrno(EIO));
 }
 
 }  // namespace
