@@ -27,18 +27,17 @@ bool PlainReport::Finish() {
 }
 
 void PlainReport::Tell(size_t file, OutputRow::Status status, const QString& newName) {
-  if (status == OutputRow::Status::Unchanged) return;
-  const QString given = platform::FileName::NameToText(given_[file]);
+  const auto given = [&] { return platform::FileName::NameToText(given_[file]); };
   switch (status) {
     case OutputRow::Status::Renamed:
-      out_ << given << texts::kArrow << newName << '\n';
+      out_ << given() << texts::kArrow << newName << '\n';
       break;
     case OutputRow::Status::Skipped:
-      errors_ << texts::kErrorPrefix + texts::kSkipped.arg(given, newName);
+      errors_ << texts::kErrorPrefix + texts::kSkipped.arg(given(), newName);
       everyFileNamed_ = false;
       break;
     case OutputRow::Status::Planned:
-      errors_ << texts::kErrorPrefix + texts::kNotReached.arg(given);
+      errors_ << texts::kErrorPrefix + texts::kNotReached.arg(given());
       everyFileNamed_ = false;
       break;
     case OutputRow::Status::Unchanged:
