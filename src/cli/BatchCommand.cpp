@@ -481,20 +481,13 @@ bool BatchCommand::ClashFound(const std::vector<OutputRow>& rows) {
 int BatchCommand::Report(const std::vector<OutputRow>& rows, bool dryRun, bool json) {
   bool skipped = false;
   for (const OutputRow& row : rows) {
-    const bool clash = std::any_of(row.notes.begin(), row.notes.end(), IsClashNote);
-    skipped = skipped || row.status == OutputRow::Status::Skipped || (dryRun && clash);
-    if (json) {
-      out_ << JsonLine(row) << '\n';
-    } else if (dryRun) {
-      out_ << PlainLine(row) << '\n';
-    } else if (row.status == OutputRow::Status::Renamed) {
-      out_ << platform::FileName::NameToText(row.given) << texts::kArrow << row.newName << '\n';
-    }
-    if (row.status == OutputRow::Status::Skipped) {
-      port_.lines << texts::kErrorPrefix + texts::kSkipped.arg(platform::FileName::NameToText(row.given), row.newName);
-    } else if (!dryRun && row.status == OutputRow::Status::Planned) {
-      skipped = true;
-      port_.lines << texts::kErrorPrefix + texts::kNotReached.arg(platform::FileName::NameToText(row.given));
+    if (json) out_ << JsonLine(row) << '\n';
+    if (dryRun) {
+      if (!json) out_ << PlainLine(row) << '\n';
+      skipped = skipped || std::any_of(row.notes.begin(), row.notes.end(), IsClashNote);
+    } else {
+      const bool named = PlainReport::TellOne(json ? nullptr : &out_, port_.lines, row.given, row.status, row.newName);
+      skipped = skipped || !named;
     }
   }
   FlushMessages();

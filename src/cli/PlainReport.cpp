@@ -27,22 +27,25 @@ bool PlainReport::Finish() {
 }
 
 void PlainReport::Tell(size_t file, OutputRow::Status status, const QString& newName) {
-  const auto given = [&] { return platform::FileName::NameToText(given_[file]); };
+  everyFileNamed_ = TellOne(&out_, errors_, given_[file], status, newName) && everyFileNamed_;
+}
+
+bool PlainReport::TellOne(QTextStream* out, QStringList& errors, const QByteArray& given, OutputRow::Status status,
+                          const QString& newName) {
   switch (status) {
     case OutputRow::Status::Renamed:
-      out_ << given() << texts::kArrow << newName << '\n';
-      break;
+      if (out != nullptr) *out << platform::FileName::NameToText(given) << texts::kArrow << newName << '\n';
+      return true;
     case OutputRow::Status::Skipped:
-      errors_ << texts::kErrorPrefix + texts::kSkipped.arg(given(), newName);
-      everyFileNamed_ = false;
-      break;
+      errors << texts::kErrorPrefix + texts::kSkipped.arg(platform::FileName::NameToText(given), newName);
+      return false;
     case OutputRow::Status::Planned:
-      errors_ << texts::kErrorPrefix + texts::kNotReached.arg(given());
-      everyFileNamed_ = false;
-      break;
+      errors << texts::kErrorPrefix + texts::kNotReached.arg(platform::FileName::NameToText(given));
+      return false;
     case OutputRow::Status::Unchanged:
-      break;
+      return true;
   }
+  return true;
 }
 
 }  // namespace renvale::cli

@@ -25,6 +25,12 @@ class PlainReport {
   // when every file got its name or kept its own.
   bool Finish();
 
+  // One file's end as any run that renames tells it: on `out` (unless null)
+  // the line of a renamed file, in `errors` the line of one skipped or never
+  // reached. False for those two: the file did not get its name.
+  static bool TellOne(QTextStream* out, QStringList& errors, const QByteArray& given, OutputRow::Status status,
+                      const QString& newName);
+
  private:
   void Tell(size_t file, OutputRow::Status status, const QString& newName);
 
