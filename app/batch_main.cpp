@@ -26,8 +26,7 @@ constexpr std::size_t kHeapPerFileNamedAsItGoes = 720;
 constexpr std::size_t kHeapPerFileNamedFirst = 1400;
 
 std::size_t HeapPerFile(const renvale::cli::BatchArguments& parsed) {
-  const bool asItGoes =
-      parsed.action == renvale::cli::Action::Name && !parsed.dryRun && !parsed.json && !parsed.failOnClash;
+  const bool asItGoes = parsed.action == renvale::cli::Action::Name && !renvale::cli::NamesEveryFileFirst(parsed);
   return asItGoes ? kHeapPerFileNamedAsItGoes : kHeapPerFileNamedFirst;
 }
 

@@ -29,6 +29,11 @@ struct BatchArguments {
   QString error;
 };
 
+// Whether the run works out every file's name before it renames any: what
+// it prints first (a dry run, JSON with its notes) or decides first
+// (--on-clash=fail) needs every name beforehand.
+inline bool NamesEveryFileFirst(const BatchArguments& args) { return args.dryRun || args.json || args.failOnClash; }
+
 // `args` excludes the program name. File arguments stay bytes: a name on a
 // card need not be valid UTF-8.
 BatchArguments ParseBatchArguments(std::vector<QByteArray> args);

@@ -269,11 +269,10 @@ int BatchCommand::RunName(const BatchArguments& args) {
 
 // A plain run needs no name before the file's turn: each file is named just
 // before it, as in the window, so that the files are read while earlier
-// ones are renamed. What is printed first (a dry run, JSON with its notes)
-// or decided first (--on-clash=fail) needs every name beforehand; so does a
-// file that travels with another, whose name its head's gives it.
+// ones are renamed. Besides the runs that name every file first, a file
+// that travels with another needs its head's name beforehand.
 bool BatchCommand::NamesAsItGoes(const BatchArguments& args) const {
-  if (args.dryRun || args.json || args.failOnClash) return false;
+  if (NamesEveryFileFirst(args)) return false;
   return std::none_of(groups_.begin(), groups_.end(), [](const Group& group) {
     return std::any_of(group.files.begin(), group.files.end(),
                        [](const platform::FileName& file) { return core::FileSetFinder::MayTravel(file.raw); });
