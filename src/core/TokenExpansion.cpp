@@ -1,5 +1,7 @@
 #include "core/TokenExpansion.h"
 
+#include <algorithm>
+#include <bit>
 #include <initializer_list>
 
 #include "core/CoreTexts.h"
@@ -30,45 +32,17 @@ bool StartsWithNoCase(QStringView text, const QString& token) {
   return true;
 }
 
-// Searching without regard to case finds what searching the upper-cased
-// text finds, without making an upper-cased copy for every token. Every token
-// begins with "%", which no other character folds to, so only the places
-// where a "%" stands need a comparison.
-bool ContainsNoCase(const QString& text, const QString& token) {
-  for (qsizetype at = text.indexOf(u'%'); at >= 0; at = text.indexOf(u'%', at + 1)) {
-    if (StartsWithNoCase(QStringView(text).sliced(at), token)) return true;
-  }
-  return false;
-}
-
-bool IsFound(const QString& text, Token token, Detection detection) {
-  if (detection == Detection::UpperCasedText) return ContainsNoCase(text, TokenUpper(token));
-  return text.contains(TokenUpper(token)) || text.contains(TokenLower(token));
-}
-
-QString Expand(QString text, std::initializer_list<Step> steps, Detection detection,
-               const TokenValueFunction& valueOf) {
-  for (const Step& step : steps) {
-    if (!IsFound(text, step.token, detection)) continue;
-    const QString value = valueOf(step.token);
-    text.replace(TokenUpper(step.token), value);
-    text.replace(step.replaceLower ? TokenLower(step.token) : TokenUpper(step.token), value);
-  }
-  return text;
-}
-
-}  // namespace
-
-namespace {
-
 constexpr int kTokenCount = static_cast<int>(Token::Track) + 1;
+
+using TokenSet = unsigned;
 
 struct Spellings {
   QString upper[kTokenCount];
   QString lower[kTokenCount];
+  TokenSet byLetter[128] = {};  // the tokens whose first letter folds to this ASCII character
 };
 
-// Built once: expansion asks for every spelling of every token per file.
+// Built once: expansion looks for every token in every file's name.
 const Spellings& TokenSpellings() {
   static const Spellings spellings = [] {
     Spellings s;
@@ -79,10 +53,73 @@ const Spellings& TokenSpellings() {
     for (int i = 0; i < kTokenCount; ++i) {
       s.upper[i] = upper[i];
       s.lower[i] = upper[i].toLower();
+      s.byLetter[s.upper[i][1].unicode()] |= 1u << i;
+      s.byLetter[s.lower[i][1].unicode()] |= 1u << i;
     }
     return s;
   }();
   return spellings;
+}
+
+TokenSet Bit(Token token) { return 1u << static_cast<int>(token); }
+
+// Every token begins with "%", which no other character folds to, so only
+// the places where a "%" stands need a comparison; searching there without
+// regard to case finds what searching the upper-cased text would find.
+bool StartsWithSpelling(QStringView text, const Spellings& spellings, int token, Detection detection) {
+  if (detection == Detection::UpperCasedText) return StartsWithNoCase(text, spellings.upper[token]);
+  return text.startsWith(spellings.upper[token]) || text.startsWith(spellings.lower[token]);
+}
+
+// The tokens the text holds, found in one pass: a name is expanded for
+// every file of a card, and most tokens are in no name. The letter after a
+// "%" rules out most tokens before any comparison, unless it lies beyond
+// ASCII and might fold to one.
+TokenSet FoundTokens(QStringView text, Detection detection) {
+  const Spellings& spellings = TokenSpellings();
+  const char16_t* chars = text.utf16();
+  TokenSet found = 0;
+  for (qsizetype at = 0; at + 1 < text.size(); ++at) {
+    if (chars[at] != u'%') continue;
+    const char16_t next = chars[at + 1];
+    const TokenSet candidates = next < 0x80 ? spellings.byLetter[next] : ~TokenSet{0};
+    for (TokenSet left = candidates & ~found; left != 0; left &= left - 1) {
+      const int t = std::countr_zero(left);
+      if (StartsWithSpelling(text.sliced(at), spellings, t, detection)) found |= 1u << t;
+    }
+  }
+  return found;
+}
+
+// What QString::replace does for a spelling, in place and without building
+// a matcher for each call. False when the spelling is not there.
+bool ReplaceSpelling(QString* text, const QString& spelling, const QString& value) {
+  const qsizetype length = spelling.size();
+  const QChar* wanted = spelling.constData();
+  bool found = false;
+  for (qsizetype at = 0;; at += value.size()) {
+    const QChar* chars = text->constData();
+    const qsizetype last = text->size() - length;
+    while (at <= last && (chars[at] != wanted[0] || !std::equal(wanted + 1, wanted + length, chars + at + 1))) ++at;
+    if (at > last) return found;
+    text->replace(at, length, value);
+    found = true;
+  }
+}
+
+// A replacement may bring a spelling in with its value, or make or break
+// one across its edges, so the text is searched again after each.
+QString Expand(QString text, std::initializer_list<Step> steps, Detection detection,
+               const TokenValueFunction& valueOf) {
+  TokenSet found = FoundTokens(text, detection);
+  for (const Step* step = steps.begin(); step != steps.end(); ++step) {
+    if ((found & Bit(step->token)) == 0) continue;
+    const QString value = valueOf(step->token);
+    bool changed = ReplaceSpelling(&text, TokenUpper(step->token), value);
+    changed |= ReplaceSpelling(&text, step->replaceLower ? TokenLower(step->token) : TokenUpper(step->token), value);
+    if (changed && step + 1 != steps.end()) found = FoundTokens(text, detection);
+  }
+  return text;
 }
 
 }  // namespace
@@ -92,10 +129,8 @@ const QString& TokenUpper(Token token) { return TokenSpellings().upper[static_ca
 const QString& TokenLower(Token token) { return TokenSpellings().lower[static_cast<int>(token)]; }
 
 bool MentionsExifToken(const QString& name) {
-  for (Token token : {Token::Date, Token::Time, Token::DateTime, Token::Serial}) {
-    if (IsFound(name, token, Detection::UpperCasedText)) return true;
-  }
-  return false;
+  const TokenSet fromFile = Bit(Token::Date) | Bit(Token::Time) | Bit(Token::DateTime) | Bit(Token::Serial);
+  return (FoundTokens(name, Detection::UpperCasedText) & fromFile) != 0;
 }
 
 QString ExpandIndividualTokens(const QString& name, const TokenValueFunction& valueOf) {
