@@ -1,5 +1,7 @@
 #include "core/SeriesFormat.h"
 
+#include <algorithm>
+
 namespace renvale::core {
 
 namespace {
@@ -42,17 +44,21 @@ QString SeriesPattern(int placeholders) {
   }
 }
 
+// Made in one piece: a batch formats two numbers for every file.
 QString FormatSeriesNumber(qint64 value, const QString& pattern) {
   if (pattern.isEmpty()) return QString();
   const qsizetype firstZero = pattern.indexOf(QLatin1Char('0'));
   const qsizetype minimumDigits = firstZero < 0 ? 0 : pattern.size() - firstZero;
-  const quint64 magnitude =
-      value < 0 ? 0 - static_cast<quint64>(value) : static_cast<quint64>(value);
-  QString digits = magnitude == 0 ? QString() : QString::number(magnitude);
-  if (digits.size() < minimumDigits) {
-    digits.prepend(QString(minimumDigits - digits.size(), QLatin1Char('0')));
-  }
-  return value < 0 ? QLatin1Char('-') + digits : digits;
+  quint64 magnitude = value < 0 ? 0 - static_cast<quint64>(value) : static_cast<quint64>(value);
+  char16_t digits[20];  // the last first
+  qsizetype count = 0;
+  for (; magnitude != 0; magnitude /= 10) digits[count++] = static_cast<char16_t>(u'0' + magnitude % 10);
+  const qsizetype sign = value < 0 ? 1 : 0;
+  QString text(sign + std::max(count, minimumDigits), QLatin1Char('0'));
+  QChar* end = text.data() + text.size();
+  for (qsizetype i = 0; i < count; ++i) *--end = QChar(digits[i]);
+  if (sign != 0) text[0] = QLatin1Char('-');
+  return text;
 }
 
 QString SeriesSeparator(const QString& seriesSpacing) {
