@@ -7,6 +7,7 @@
 #include <set>
 #include <vector>
 
+#include "core/AsciiFoldedName.h"
 #include "core/BatchBaseCheck.h"
 #include "core/FileNameRules.h"
 #include "core/FileSetRenamer.h"
@@ -298,6 +299,21 @@ TEST(SeriesFormat, ReadsTheBoxLikeANumberPrefix) {
   for (const Case& c : cases) {
     EXPECT_EQ(core::ReadSeriesNumber(QString::fromUtf8(c.text)), c.value) << c.text;
   }
+}
+
+// Only ASCII capitals fold, wherever in a name they stand: the neighbours
+// of "A" and "Z" and the Latin-1 capitals stay as they are.
+TEST(AsciiFoldedName, OnlyAsciiLettersFold) {
+  const core::AsciiFoldedName folded;
+  const std::pair<const char*, const char*> same[] = {
+      {"IMG_0001.JPG", "img_0001.jpg"}, {"AZ", "az"}, {"0123456789abcdefG", "0123456789ABCDEFg"}, {"", ""}};
+  for (const auto& [a, b] : same) {
+    EXPECT_TRUE(folded(QByteArrayView(a), QByteArrayView(b))) << a;
+    EXPECT_EQ(folded(QByteArrayView(a)), folded(QByteArrayView(b))) << a;
+  }
+  const std::pair<const char*, const char*> different[] = {
+      {"@", "`"}, {"[", "{"}, {"\xc9", "\xe9"}, {"abc", "abcd"}, {"12345678a", "12345678b"}};
+  for (const auto& [a, b] : different) EXPECT_FALSE(folded(QByteArrayView(a), QByteArrayView(b))) << a;
 }
 
 TEST(SeriesFormat, PatternsPrintAsTheOptionsShow) {
