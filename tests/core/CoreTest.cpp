@@ -311,8 +311,10 @@ TEST(AsciiFoldedName, OnlyAsciiLettersFold) {
     EXPECT_TRUE(folded(QByteArrayView(a), QByteArrayView(b))) << a;
     EXPECT_EQ(folded(QByteArrayView(a)), folded(QByteArrayView(b))) << a;
   }
+  // Eight bytes and more are compared a word at a time, fewer one by one.
   const std::pair<const char*, const char*> different[] = {
-      {"@", "`"}, {"[", "{"}, {"\xc9", "\xe9"}, {"abc", "abcd"}, {"12345678a", "12345678b"}};
+      {"@", "`"}, {"@IMG_001", "`IMG_001"}, {"[[[[[[[[", "{{{{{{{{"}, {"\xc9t\xc9.jpeg", "\xe9t\xe9.jpeg"},
+      {"abc", "abcd"}, {"12345678a", "12345678b"}};
   for (const auto& [a, b] : different) EXPECT_FALSE(folded(QByteArrayView(a), QByteArrayView(b))) << a;
 }
 
@@ -413,6 +415,10 @@ TEST(TokenExpansion, SpellingsOrderAndValuesAskedFor) {
     EXPECT_EQ(c.expand(c.text, log.Function()), c.expected) << c.text;
     EXPECT_EQ(log.asked, c.asked) << c.text;
   }
+  // A value is not searched again for the token it replaced, even where it holds it.
+  ValueLog own;
+  own.values[Token::Title] = "A%TITLE%";
+  EXPECT_EQ(core::ExpandBatchTokens("%TITLE% %title%", own.Function()), "A%TITLE% A%TITLE%");
 }
 
 }  // namespace
