@@ -63,6 +63,8 @@ const Spellings& TokenSpellings() {
 
 TokenSet Bit(Token token) { return 1u << static_cast<int>(token); }
 
+constexpr TokenSet kEveryToken = (TokenSet{1} << kTokenCount) - 1;
+
 // Every token begins with "%", which no other character folds to, so only
 // the places where a "%" stands need a comparison; searching there without
 // regard to case finds what searching the upper-cased text would find.
@@ -82,7 +84,7 @@ TokenSet FoundTokens(QStringView text, Detection detection) {
   for (qsizetype at = 0; at + 1 < text.size(); ++at) {
     if (chars[at] != u'%') continue;
     const char16_t next = chars[at + 1];
-    const TokenSet candidates = next < 0x80 ? spellings.byLetter[next] : ~TokenSet{0};
+    const TokenSet candidates = next < 0x80 ? spellings.byLetter[next] : kEveryToken;
     for (TokenSet left = candidates & ~found; left != 0; left &= left - 1) {
       const int t = std::countr_zero(left);
       if (StartsWithSpelling(text.sliced(at), spellings, t, detection)) found |= 1u << t;
