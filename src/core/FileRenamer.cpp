@@ -29,6 +29,7 @@ FileRenamer::FileRenamer(const RenameContext& context, const QByteArray& folder,
                          const std::vector<platform::FileName>& selection)
     : context_(context),
       folder_(folder),
+      held_(context.fs.HoldFolder(folder)),
       index_(ListingOf(context, folder)),
       finder_(index_, selection),
       setRenamer_(context.fs, context.messages) {}
@@ -66,7 +67,7 @@ int FileRenamer::RenameNames(const NamePair& head) {
 }
 
 int FileRenamer::RenameSingle(const NamePair& pair) {
-  const int error = context_.fs.RenameNoReplace(folder_ + pair.from, folder_ + pair.to);
+  const int error = held_->RenameNoReplace(pair.from, pair.to);
   if (error == 0) index_.Move(pair.from, pair.to);
   return error;
 }

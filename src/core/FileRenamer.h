@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <memory>
 #include <vector>
 
 #include "core/FileSetFinder.h"
@@ -64,6 +65,9 @@ class FileRenamer {
 
   const RenameContext& context_;
   QByteArray folder_;
+  // Held for the renames by name: a batch's ten thousand renames then walk
+  // two names each, not two whole paths.
+  std::unique_ptr<platform::ReadableFolder> held_;
   FolderIndex index_;
   FileSetFinder finder_;
   FileSetRenamer setRenamer_;

@@ -43,8 +43,9 @@ class ReadableFile {
   }
 };
 
-// A folder held open so that many of its files are opened by name: each
-// opening then walks the file's name alone, not the whole path again.
+// A folder held open so that many of its files are opened and renamed by
+// name: each call then walks the file's name alone, not the whole path
+// again.
 class ReadableFolder {
  public:
   virtual ~ReadableFolder() = default;
@@ -52,6 +53,9 @@ class ReadableFolder {
   virtual int OpenForRead(const QByteArray& name, std::unique_ptr<ReadableFile>* file) = 0;
   // As FileSystem::StatIdentity of the name joined to the folder's path.
   virtual int StatIdentity(const QByteArray& name, FileInfo* info) = 0;
+  // As FileSystem::RenameNoReplace of the two names joined to the folder's
+  // path. Names hold no slash.
+  virtual int RenameNoReplace(const QByteArray& from, const QByteArray& to) = 0;
 };
 
 // The one door to the file system. Paths are raw bytes. Every call returns
@@ -139,6 +143,9 @@ class JoinedPathFolder : public ReadableFolder {
   }
   int StatIdentity(const QByteArray& name, FileInfo* info) override {
     return fs_.StatIdentity(JoinPath(folder_, name), info);
+  }
+  int RenameNoReplace(const QByteArray& from, const QByteArray& to) override {
+    return fs_.RenameNoReplace(JoinPath(folder_, from), JoinPath(folder_, to));
   }
 
  private:

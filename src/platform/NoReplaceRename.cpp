@@ -11,6 +11,7 @@
 #include <cstdio>
 
 #include "platform/ErrorNumbers.h"
+#include "platform/FileName.h"
 #include "platform/PathParts.h"
 
 #ifndef RENAME_NOREPLACE
@@ -23,11 +24,11 @@ namespace {
 
 std::atomic<NoReplaceMethod> bestMethod{NoReplaceMethod::Kernel};
 
-int KernelRenameNoReplace(const char* from, const char* to) {
+int KernelRenameNoReplace(const char* from, const char* to, int folderFd = AT_FDCWD) {
 #if defined(__GLIBC__) && (__GLIBC__ > 2 || (__GLIBC__ == 2 && __GLIBC_MINOR__ >= 28))
-  return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE);
+  return ::renameat2(folderFd, from, folderFd, to, RENAME_NOREPLACE);
 #else
-  return static_cast<int>(::syscall(SYS_renameat2, AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE));
+  return static_cast<int>(::syscall(SYS_renameat2, folderFd, from, folderFd, to, RENAME_NOREPLACE));
 #endif
 }
 
@@ -135,6 +136,15 @@ int RenameWithoutReplacing(const QByteArray& from, const QByteArray& to) {
   if (err == 0) return kNoError;
   if (err == EEXIST && IsLetterCaseAlias(from, to)) return RenameThroughTemporaryName(from, to);
   return MapRenameError(err, from);
+}
+
+// A failed attempt changed nothing, so the way of the paths starts afresh.
+int RenameWithoutReplacingIn(int folderFd, const QByteArray& folder, const QByteArray& from, const QByteArray& to) {
+  if (from != to && bestMethod.load(std::memory_order_relaxed) == NoReplaceMethod::Kernel &&
+      KernelRenameNoReplace(from.constData(), to.constData(), folderFd) == 0) {
+    return kNoError;
+  }
+  return RenameWithoutReplacing(JoinPath(folder, from), JoinPath(folder, to));
 }
 
 void ForceNoReplaceMethod(NoReplaceMethod best) { bestMethod.store(best, std::memory_order_relaxed); }

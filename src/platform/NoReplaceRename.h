@@ -12,6 +12,13 @@ namespace renvale::platform {
 // change is carried out. Returns an error number from ErrorNumbers.h.
 int RenameWithoutReplacing(const QByteArray& from, const QByteArray& to);
 
+// The same for two names of the folder held by `folderFd`, whose path is
+// `folder`. A batch's renames walk the two names alone; what the kernel's
+// no-replace rename cannot settle by itself (a taken name, a letter-case
+// alias, a file system without it, an error to explain) goes the way of
+// the paths.
+int RenameWithoutReplacingIn(int folderFd, const QByteArray& folder, const QByteArray& from, const QByteArray& to);
+
 // Moves `from` to a fresh hidden name in its own folder, then to `to`; puts
 // it back under `from` when the second step fails. This is how a file gets a
 // name that the file system considers equal to its present one.

@@ -224,7 +224,7 @@ int PosixFileSystem::OpenForRead(const QByteArray& path, std::unique_ptr<Readabl
 std::unique_ptr<ReadableFolder> PosixFileSystem::HoldFolder(const QByteArray& folder) {
   UniqueFd fd(::open(folder.constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
   if (!fd.valid()) return FileSystem::HoldFolder(folder);
-  return std::make_unique<PosixReadableFolder>(std::move(fd));
+  return std::make_unique<PosixReadableFolder>(std::move(fd), folder);
 }
 
 int PosixFileSystem::WriteWholeFile(const QByteArray& path, const QByteArray& contents) {

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include "platform/ErrorNumbers.h"
+#include "platform/NoReplaceRename.h"
 #include "platform/PosixOpen.h"
 
 namespace renvale::platform {
@@ -17,6 +18,10 @@ int PosixReadableFolder::StatIdentity(const QByteArray& name, FileInfo* info) {
   if (::fstatat(fd_.get(), name.constData(), &st, 0) != 0) return ErrorNumberFromErrno(errno);
   FillIdentity(st, info);
   return kNoError;
+}
+
+int PosixReadableFolder::RenameNoReplace(const QByteArray& from, const QByteArray& to) {
+  return RenameWithoutReplacingIn(fd_.get(), path_, from, to);
 }
 
 }  // namespace renvale::platform

@@ -10,12 +10,15 @@ namespace renvale::platform {
 // files of the folder it was started on even if that is renamed meanwhile.
 class PosixReadableFolder : public ReadableFolder {
  public:
-  explicit PosixReadableFolder(UniqueFd fd) : fd_(std::move(fd)) {}
+  // `path` is the folder's path as it was held.
+  PosixReadableFolder(UniqueFd fd, const QByteArray& path) : fd_(std::move(fd)), path_(path) {}
   int OpenForRead(const QByteArray& name, std::unique_ptr<ReadableFile>* file) override;
   int StatIdentity(const QByteArray& name, FileInfo* info) override;
+  int RenameNoReplace(const QByteArray& from, const QByteArray& to) override;
 
  private:
   UniqueFd fd_;
+  QByteArray path_;
 };
 
 }  // namespace renvale::platform

@@ -30,20 +30,23 @@ std::vector<QByteArray> FilesIn(const ScratchFolder& folder) {
 using platform::NoReplaceMethod;
 
 // Every rename test runs through each way of refusing to replace, so the
-// fallbacks that shares and FAT cards take keep the same promises.
-class FileSystemRename : public ::testing::TestWithParam<NoReplaceMethod> {
+// fallbacks that shares and FAT cards take keep the same promises, and by
+// paths as well as by names in a held folder, as a batch renames.
+class FileSystemRename : public ::testing::TestWithParam<std::tuple<NoReplaceMethod, bool>> {
  protected:
-  void SetUp() override { platform::ForceNoReplaceMethod(GetParam()); }
+  void SetUp() override { platform::ForceNoReplaceMethod(std::get<0>(GetParam())); }
   void TearDown() override { platform::ForceNoReplaceMethod(NoReplaceMethod::Kernel); }
   int Rename(const QByteArray& from, const QByteArray& to) {
+    if (std::get<1>(GetParam())) return RealFileSystem().HoldFolder(folder.path())->RenameNoReplace(from, to);
     return RealFileSystem().RenameNoReplace(folder / from, folder / to);
   }
   ScratchFolder folder;
 };
 
 INSTANTIATE_TEST_SUITE_P(Method, FileSystemRename,
-                         ::testing::Values(NoReplaceMethod::Kernel, NoReplaceMethod::HardLink,
-                                           NoReplaceMethod::CheckFirst));
+                         ::testing::Combine(::testing::Values(NoReplaceMethod::Kernel, NoReplaceMethod::HardLink,
+                                                              NoReplaceMethod::CheckFirst),
+                                            ::testing::Bool()));
 
 // "caf\xe9" is Latin-1; its lossy display form round-tripped through UTF-8
 // becomes "caf\xef\xbf\xbd" and must never be the file that gets renamed.
