@@ -14,6 +14,11 @@ class OperationRecorder {
   // Makes the plan durable; 0 or an error number. On an error the operation
   // does not start: a change that could not be taken back is not made.
   virtual int Begin(const OperationPlan& plan) = 0;
+  // Readies what Begin writes first, for an operation about to begin with
+  // the kind, folder and time of `start`, so that its first change waits
+  // for less. Begin works without it; End discards what an operation that
+  // never began had readied.
+  virtual void Prepare(const OperationPlan& start) { (void)start; }
   // Adds steps to the plan begun, durable on return; 0 or an error number.
   // An operation that works its steps out as it goes adds each batch of
   // them before taking the first; on an error it takes none of them.

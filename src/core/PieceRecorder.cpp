@@ -9,6 +9,18 @@ PieceRecorder::PieceRecorder(RecordedOperation& recorded)
 
 PieceRecorder::~PieceRecorder() {
   if (inFlight_) Wait();
+  if (pending_.valid()) pending_.get();
+}
+
+void PieceRecorder::Prepare() {
+  if (!background_) {
+    recorded_.Prepare();
+    return;
+  }
+  Launch([this] {
+    recorded_.Prepare();
+    return 0;
+  });
 }
 
 void PieceRecorder::Submit(std::vector<PlanStep> steps) {
@@ -17,10 +29,7 @@ void PieceRecorder::Submit(std::vector<PlanStep> steps) {
     result_ = recorded_.Add(std::move(steps));
     return;
   }
-  // Nothing else touches the recorder until Wait: the future's hand-over
-  // orders the writes before the renames that rely on them.
-  pending_ = std::async(std::launch::async,
-                        [this, piece = std::move(steps)]() mutable { return recorded_.Add(std::move(piece)); });
+  Launch([this, piece = std::move(steps)]() mutable { return recorded_.Add(std::move(piece)); });
 }
 
 void PieceRecorder::Submit(std::function<std::vector<PlanStep>()> describe) {
@@ -29,8 +38,17 @@ void PieceRecorder::Submit(std::function<std::vector<PlanStep>()> describe) {
     result_ = recorded_.Add(describe());
     return;
   }
-  pending_ = std::async(std::launch::async,
-                        [this, describe = std::move(describe)] { return recorded_.Add(describe()); });
+  Launch([this, describe = std::move(describe)] { return recorded_.Add(describe()); });
+}
+
+// Nothing else touches the recorder until Wait: the future's hand-over
+// orders the writes before the renames that rely on them. A preparing not
+// waited for runs first, since the recorder takes one call at a time.
+void PieceRecorder::Launch(std::function<int()> work) {
+  pending_ = std::async(std::launch::async, [before = std::move(pending_), work = std::move(work)]() mutable {
+    if (before.valid()) before.get();
+    return work();
+  });
 }
 
 bool PieceRecorder::Settled() const {

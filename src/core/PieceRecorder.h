@@ -23,6 +23,10 @@ class PieceRecorder {
   PieceRecorder(const PieceRecorder&) = delete;
   PieceRecorder& operator=(const PieceRecorder&) = delete;
 
+  // Lets the recorder ready itself for the first piece (see
+  // RecordedOperation::Prepare), on the second thread where there is one,
+  // while the batch works out its steps. The first Submit follows it there.
+  void Prepare();
   // Starts keeping `steps`; the piece before must have been waited for.
   void Submit(std::vector<PlanStep> steps);
   // Starts keeping the steps `describe` gives. It runs where the piece is
@@ -38,11 +42,13 @@ class PieceRecorder {
   int Wait();
 
  private:
+  void Launch(std::function<int()> work);
+
   RecordedOperation& recorded_;
   const bool background_;
   bool inFlight_ = false;
   int result_ = 0;  // of a piece written as it was handed over
-  std::future<int> pending_;
+  std::future<int> pending_;  // the piece in flight, or the preparing before the first
 };
 
 }  // namespace renvale::core

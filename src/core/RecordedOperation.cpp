@@ -10,7 +10,13 @@ RecordedOperation::RecordedOperation(OperationRecorder* recorder, const Operatio
 }
 
 RecordedOperation::~RecordedOperation() {
-  if (begun_) recorder_->End();
+  if (begun_ || prepared_) recorder_->End();
+}
+
+void RecordedOperation::Prepare() {
+  if (recorder_ == nullptr || begun_ || error_ != 0) return;
+  recorder_->Prepare(start_);
+  prepared_ = true;
 }
 
 // The steps are taken over, not copied: the first piece of a long batch

@@ -23,6 +23,10 @@ class RecordedOperation {
   // error, after which none of them may be taken.
   int Add(std::vector<PlanStep> steps);
 
+  // Lets the recorder ready itself for the first Add while the operation
+  // works out its steps (see OperationRecorder::Prepare).
+  void Prepare();
+
   // Whether Add may run on a second thread (see OperationRecorder).
   bool FromAnyThread() const { return recorder_ != nullptr && recorder_->WritesFromAnyThread(); }
 
@@ -30,6 +34,7 @@ class RecordedOperation {
   OperationRecorder* recorder_;
   OperationPlan start_;  // the plan's kind, folder and time, until it begins
   bool begun_ = false;
+  bool prepared_ = false;
   int error_ = 0;
 };
 

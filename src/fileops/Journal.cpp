@@ -61,7 +61,50 @@ bool Journal::StemTaken(const QByteArray& stem) const {
   return false;
 }
 
+void Journal::Prepare(const core::OperationPlan& start) {
+  DropPrepared();
+  const core::OperationPlan head{start.kind, start.folder, start.started, {}};
+  const QByteArray bytes = JournalFormat::Write(head);
+  for (int sequence = 0; sequence < 10000; ++sequence) {
+    const QByteArray stem = NameFor(head, sequence);
+    if (StemTaken(stem)) continue;
+    if (fs_.WriteWholeFile(stem + kTemporarySuffix, bytes) == 0) {
+      prepared_ = {stem, head, bytes.size()};
+    } else {
+      fs_.RemoveFile(stem + kTemporarySuffix);
+    }
+    return;
+  }
+}
+
+// False, with nothing left of the readied file, when it cannot be used:
+// Begin then goes the usual way.
+bool Journal::BeginPrepared(const core::OperationPlan& plan, int* error) {
+  const core::OperationPlan& start = prepared_.start;
+  if (prepared_.size < 0 || start.kind != plan.kind || start.folder != plan.folder || start.started != plan.started) {
+    return false;
+  }
+  const QByteArray temporary = prepared_.stem + kTemporarySuffix;
+  const QByteArray open = prepared_.stem + Suffix(State::Open);
+  const QByteArray addition = JournalFormat::Addition(plan.steps);
+  if (fs_.AppendToFile(temporary, addition) != 0 || fs_.RenameNoReplace(temporary, open) != 0) return false;
+  const qint64 size = prepared_.size + addition.size();
+  prepared_ = {};
+  current_ = open;
+  running_.Acquire(current_);
+  RememberWritten(current_, plan, size);
+  *error = fs_.FlushFolder(folder_);
+  return true;
+}
+
+void Journal::DropPrepared() {
+  if (prepared_.size >= 0) fs_.RemoveFile(prepared_.stem + kTemporarySuffix);
+  prepared_ = {};
+}
+
 int Journal::Begin(const core::OperationPlan& plan) {
+  if (int error = 0; BeginPrepared(plan, &error)) return error;
+  DropPrepared();
   const QByteArray bytes = JournalFormat::Write(plan);
   for (int sequence = 0; sequence < 10000; ++sequence) {
     const QByteArray stem = NameFor(plan, sequence);
@@ -119,6 +162,7 @@ bool Journal::FromWritten(const QByteArray& path, core::OperationPlan* plan) {
 }
 
 void Journal::End() {
+  DropPrepared();
   if (current_.isEmpty()) return;
   fs_.RenameNoReplace(current_, Stem(current_) + Suffix(State::Done));
   running_.Release();

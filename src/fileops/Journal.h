@@ -41,6 +41,7 @@ class Journal : public core::OperationRecorder {
           WrittenPlans written = WrittenPlans::Kept);
 
   int Begin(const core::OperationPlan& plan) override;
+  void Prepare(const core::OperationPlan& start) override;
   int Extend(std::vector<core::PlanStep> steps) override;
   void End() override;
   bool WritesFromAnyThread() const override { return fs_.WritableFromAnyThread(); }
@@ -60,6 +61,8 @@ class Journal : public core::OperationRecorder {
 
  private:
   bool StemTaken(const QByteArray& stem) const;
+  bool BeginPrepared(const core::OperationPlan& plan, int* error);
+  void DropPrepared();
   QByteArray NameFor(const core::OperationPlan& plan, int sequence) const;
   void SetAside(const QByteArray& name, int status);
   void Prune();
@@ -72,6 +75,14 @@ class Journal : public core::OperationRecorder {
   platform::MessagePort& messages_;
   const WrittenPlans keep_;
   QByteArray current_;  // the open journal of the running operation
+  // The file readied for the next plan: its head written and flushed under
+  // the temporary name. Begin then only adds the first steps and gives the
+  // name; a new file's first flush is the slowest wait of a journal.
+  struct Prepared {
+    QByteArray stem;
+    core::OperationPlan start;
+    qint64 size = -1;
+  } prepared_;
   // The plan this journal wrote last, kept as written: the Undo caption asks
   // for the newest plan after every operation, and reading back the
   // megabyte a large batch wrote would cost a good part of the batch again.

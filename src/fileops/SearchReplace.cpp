@@ -157,7 +157,15 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
   view_.SetProgress(progress_);
   // The folder is held for the whole run: events that run meanwhile may
   // change the window's folder, never the files being renamed.
-  core::FileRenamer renamer(context_, context_.session.CurrentFolder, files);
+  const QByteArray folder = context_.session.CurrentFolder;
+  // The journal readies its file while the moves are worked out. The
+  // pieces, which take identities through `held`, go before it.
+  core::RecordedOperation recorded(context_.recorder,
+                                   {core::OperationKind::SearchReplace, folder, QDateTime::currentDateTimeUtc(), {}});
+  const std::unique_ptr<platform::ReadableFolder> held = context_.fs.HoldFolder(folder);
+  core::PieceRecorder pieces(recorded);
+  pieces.Prepare();
+  core::FileRenamer renamer(context_, folder, files);
   std::vector<QByteArray> newNames;
   newNames.reserve(files.size());
   for (const platform::FileName& file : files) newNames.push_back(terms.Apply(file.raw));
@@ -168,13 +176,16 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
       inListOrder ? core::TurnsInListOrder(files.size(), {}, {}) : PlannedTurns(files.size(), moves, renamer);
   const Run run{files, newNames, turns, renamer};
   if (context_.recorder != nullptr && inListOrder) {
-    RunInPieces(run, moves);
+    RunInPieces(run, moves, *held, pieces);
+    // A piece a stopped run left in flight reads the moves, which go first.
+    pieces.Wait();
     return;
   }
-  const core::RecordedOperation recorded(
-      context_.recorder,
-      context_.recorder == nullptr ? core::OperationPlan{} : Plan(turns, files, newNames, renamer));
-  if (PlanKept(recorded.Error())) TakeTurns(run, 0, turns.size());
+  if (context_.recorder != nullptr) {
+    pieces.Submit(Plan(turns, files, newNames, renamer).steps);
+    if (!PlanKept(pieces.Wait())) return;
+  }
+  TakeTurns(run, 0, turns.size());
 }
 
 // Where the turns are the list's order the plan is kept a piece at a time,
@@ -188,14 +199,9 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
 // the renames reach it, so the writing keeps ahead; pieces double, so a
 // long run flushes a dozen times at most, and the first is short, so that
 // renaming starts soon.
-void SearchReplace::RunInPieces(const Run& run, const Moves& moves) {
+void SearchReplace::RunInPieces(const Run& run, const Moves& moves, platform::ReadableFolder& held,
+                                core::PieceRecorder& pieces) {
   constexpr size_t kFirstPiece = 128;
-  core::RecordedOperation recorded(context_.recorder, {core::OperationKind::SearchReplace, run.renamer.Folder(),
-                                                       QDateTime::currentDateTimeUtc(), {}});
-  // Held before the pieces, which take identities through it until the
-  // last one is written.
-  const std::unique_ptr<platform::ReadableFolder> held = context_.fs.HoldFolder(run.renamer.Folder());
-  core::PieceRecorder pieces(recorded);
   const bool inodeStable = platform::FileNumbersStable(run.renamer.Folder());
   const size_t count = run.turns.size();
   size_t handed = 0;   // turns whose piece was handed over
@@ -211,7 +217,7 @@ void SearchReplace::RunInPieces(const Run& run, const Moves& moves) {
         piece.push_back(&moves.moves[move]);
       }
     }
-    pieces.Submit([&held = *held, folder = run.renamer.Folder(), inodeStable, piece = std::move(piece)] {
+    pieces.Submit([&held, folder = run.renamer.Folder(), inodeStable, piece = std::move(piece)] {
       return PieceSteps(held, folder, inodeStable, piece);
     });
     handed = end;

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "core/FileRenamer.h"
+#include "core/PieceRecorder.h"
 #include "core/RenameContext.h"
 #include "core/RenamePlanner.h"
 #include "fileops/SearchReplaceView.h"
@@ -47,7 +48,7 @@ class SearchReplace {
   };
 
   void RunOver(const SearchTerms& terms);
-  void RunInPieces(const Run& run, const Moves& moves);
+  void RunInPieces(const Run& run, const Moves& moves, platform::ReadableFolder& held, core::PieceRecorder& pieces);
   Step TakeTurns(const Run& run, size_t begin, size_t end);
   bool PlanKept(int error);
   Moves FindMoves(const std::vector<platform::FileName>& files, const std::vector<QByteArray>& newNames,

@@ -206,7 +206,9 @@ TEST_F(SearchReplaceRun, FilesTradingNamesAreNeitherAskedAboutNorLost) {
 
 // Takes each piece after checking that its files are still where its steps
 // say; refuses piece `refused`. Written meanwhile unless the second is refused.
+// Readied first and ended last, whether or not the plan began.
 struct PieceCheckingRecorder : core::OperationRecorder {
+  void Prepare(const core::OperationPlan&) override { prepared = pieces.empty(); }
   int Begin(const core::OperationPlan& plan) override { return Extend(plan.steps); }
   int Extend(std::vector<core::PlanStep> steps) override {
     for (const auto& step : steps) EXPECT_TRUE(core::HoldsFile(platform::RealFileSystem(), step.from, step.identity));
@@ -214,8 +216,10 @@ struct PieceCheckingRecorder : core::OperationRecorder {
     pieces.push_back(steps.size());
     return 0;
   }
-  void End() override {}
+  void End() override { ended = prepared; }
   bool WritesFromAnyThread() const override { return refused != 1; }
+  bool prepared = false;
+  bool ended = false;
   size_t refused = SIZE_MAX;
   std::vector<size_t> pieces;
 };
@@ -241,6 +245,7 @@ TEST_F(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
     port.Clear();
     Run({{"IMG", "Pic"}});
     EXPECT_EQ(recorder.pieces, row.pieces);
+    EXPECT_TRUE(recorder.ended);
     EXPECT_EQ(Folder().count("Pic_" + QByteArray::number(999 + row.renamed) + ".jpg"), row.renamed > 0 ? 1U : 0U);
     EXPECT_EQ(Folder().count("IMG_" + QByteArray::number(1000 + row.renamed) + ".jpg"), row.renamed < 300 ? 1U : 0U);
     EXPECT_EQ(port.messages.at(0).text, row.first);

@@ -60,6 +60,30 @@ TEST_F(JournalStore, PlansAreListedNewestFirstWithTheirStates) {
   EXPECT_TRUE(port.messages.empty());
 }
 
+// The file readied while an operation works out its steps becomes its
+// journal; one readied for another start, or never begun, leaves nothing.
+TEST_F(JournalStore, AReadiedFileBecomesThePlansJournal) {
+  const auto files = [this] { return QDir(dir.path()).entryList(QDir::Files); };
+  journal.Prepare(Plan(4000));
+  EXPECT_EQ(files(), QStringList{"000000000004000-0000.tmp"});
+  ASSERT_EQ(journal.Begin(Plan(4000)), 0);
+  ASSERT_EQ(journal.Extend(Plan(0).steps), 0);
+  EXPECT_EQ(files(), QStringList{"000000000004000-0000.open"});
+  test::ScriptedMessagePort otherPort;
+  const std::vector<JournalEntry> read = Journal(platform::RealFileSystem(), folder, otherPort).Entries();
+  ASSERT_EQ(read.size(), 1u);
+  EXPECT_EQ(read[0].plan.steps.size(), 2u);
+  EXPECT_EQ(JournalFormat::Write(read[0].plan), JournalFormat::Write(journal.Entries()[0].plan));
+  journal.End();
+  journal.Prepare(Plan(5000));
+  journal.End();
+  journal.Prepare(Plan(6000));
+  ASSERT_EQ(journal.Begin(Plan(7000)), 0);
+  journal.End();
+  EXPECT_EQ(files(), (QStringList{"000000000004000-0000.done", "000000000007000-0000.done"}));
+  EXPECT_TRUE(port.messages.empty());
+}
+
 TEST_F(JournalStore, AnUnreadableJournalIsToldAboutAndKeptAside) {
   const QByteArray good = JournalFormat::Write(Plan(1000));
   const struct { QByteArray bytes; QString says; } cases[] = {
