@@ -9,7 +9,6 @@ PieceRecorder::PieceRecorder(RecordedOperation& recorded)
 
 PieceRecorder::~PieceRecorder() {
   if (inFlight_) Wait();
-  if (pending_.valid()) pending_.get();
 }
 
 void PieceRecorder::Prepare() {

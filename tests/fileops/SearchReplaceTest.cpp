@@ -1,6 +1,8 @@
 #include "fileops/SearchReplace.h"
 
 #include <QFile>
+#include <chrono>
+#include <thread>
 
 #include "core/OperationRecorder.h"
 #include "core/PlanIdentity.h"
@@ -208,9 +210,13 @@ TEST_F(SearchReplaceRun, FilesTradingNamesAreNeitherAskedAboutNorLost) {
 // say; refuses piece `refused`. Written meanwhile unless the second is refused.
 // Readied first and ended last, whether or not the plan began.
 struct PieceCheckingRecorder : core::OperationRecorder {
-  void Prepare(const core::OperationPlan&) override { prepared = pieces.empty(); }
+  void Prepare(const core::OperationPlan&) override {
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));  // still at it when the first piece comes
+    prepared = pieces.empty();
+  }
   int Begin(const core::OperationPlan& plan) override { return Extend(plan.steps); }
   int Extend(std::vector<core::PlanStep> steps) override {
+    EXPECT_TRUE(prepared);
     for (const auto& step : steps) EXPECT_TRUE(core::HoldsFile(platform::RealFileSystem(), step.from, step.identity));
     if (pieces.size() == refused) return platform::kErrnoBase + ENOSPC;
     pieces.push_back(steps.size());
