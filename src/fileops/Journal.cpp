@@ -77,8 +77,8 @@ void Journal::Prepare(const core::OperationPlan& start) {
   }
 }
 
-// False, with nothing left of the readied file, when it cannot be used:
-// Begin then goes the usual way.
+// False when the readied file cannot be used: Begin then goes the usual
+// way, and End removes it.
 bool Journal::BeginPrepared(const core::OperationPlan& plan, int* error) {
   const core::OperationPlan& start = prepared_.start;
   if (prepared_.size < 0 || start.kind != plan.kind || start.folder != plan.folder || start.started != plan.started) {
@@ -104,7 +104,6 @@ void Journal::DropPrepared() {
 
 int Journal::Begin(const core::OperationPlan& plan) {
   if (int error = 0; BeginPrepared(plan, &error)) return error;
-  DropPrepared();
   const QByteArray bytes = JournalFormat::Write(plan);
   for (int sequence = 0; sequence < 10000; ++sequence) {
     const QByteArray stem = NameFor(plan, sequence);

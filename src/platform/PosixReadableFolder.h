@@ -5,9 +5,11 @@
 
 namespace renvale::platform {
 
-// A folder held by a descriptor; its files are opened relative to it. The
-// folder it names is the one found when it was held: a batch reads the
-// files of the folder it was started on even if that is renamed meanwhile.
+// A folder held by a descriptor; its files are opened and renamed relative
+// to it. The folder it names is the one found when it was held: a batch
+// reads and renames the files of the folder it was started on even if that
+// is renamed meanwhile. Only a rename the kernel refuses by name (a taken
+// name, a file system without no-replace renames) goes by the path.
 class PosixReadableFolder : public ReadableFolder {
  public:
   // `path` is the folder's path as it was held.

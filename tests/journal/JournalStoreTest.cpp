@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
@@ -64,11 +65,17 @@ TEST_F(JournalStore, PlansAreListedNewestFirstWithTheirStates) {
 // journal; one readied for another start, or never begun, leaves nothing.
 TEST_F(JournalStore, AReadiedFileBecomesThePlansJournal) {
   const auto files = [this] { return QDir(dir.path()).entryList(QDir::Files); };
+  const auto inode = [this](const QByteArray& name) {
+    struct stat st {};
+    return ::stat(folder + name, &st) == 0 ? st.st_ino : 0;
+  };
   journal.Prepare(Plan(4000));
   EXPECT_EQ(files(), QStringList{"000000000004000-0000.tmp"});
+  const ino_t readied = inode("000000000004000-0000.tmp");
   ASSERT_EQ(journal.Begin(Plan(4000)), 0);
   ASSERT_EQ(journal.Extend(Plan(0).steps), 0);
   EXPECT_EQ(files(), QStringList{"000000000004000-0000.open"});
+  EXPECT_EQ(inode("000000000004000-0000.open"), readied);
   test::ScriptedMessagePort otherPort;
   const std::vector<JournalEntry> read = Journal(platform::RealFileSystem(), folder, otherPort).Entries();
   ASSERT_EQ(read.size(), 1u);
