@@ -247,7 +247,6 @@ SearchReplace::Step SearchReplace::TakeTurns(const Run& run, size_t begin, size_
       return Step::Stop;
     }
     if (progress_ < maximum_) view_.SetProgress(++progress_);
-    view_.ResultsSoFar(results_);
     view_.ProcessEvents();
   }
   return Step::Next;
@@ -468,6 +467,7 @@ SearchReplace::Step SearchReplace::Cancel() {
 void SearchReplace::AddLine(const QString& line) { results_ += texts::kLf + line; }
 
 void SearchReplace::Finish() {
+  if (anyRenamed_) view_.ResultsReady(results_);
   context_.messages.Notify(anyRenamed_ ? texts::kRenamingComplete
                                        : texts::kNothingMatched + texts::kLf + texts::kCheckTerms);
   // The list is read again also when only a replaced file went away.

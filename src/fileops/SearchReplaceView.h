@@ -23,9 +23,11 @@ class SearchReplaceView {
   // Lets pending window events run; may skip the work when called faster
   // than the screen refreshes.
   virtual void ProcessEvents() = 0;
-  // The results text as it grows, after each file, so that the results
-  // window can be prepared while the run goes on.
-  virtual void ResultsSoFar(const QString& results) { (void)results; }
+  // The results of a run that renamed files, once the run is over and
+  // before its closing message, so that the results window is laid out
+  // while the person reads the message: laid out during the run, it would
+  // take processor time from the renames.
+  virtual void ResultsReady(const QString& results) { (void)results; }
   // Shows the results window with `results`, modally.
   virtual void ShowResults(const QString& results) = 0;
 };

@@ -15,7 +15,8 @@ namespace renvale::shell {
 
 // A document for a plain text view, filled on a thread of its own while the
 // window's thread goes on: the ten thousand lines of a long run's results
-// are laid into a document as the run makes them, not all at its end.
+// are laid into a document while the person reads the run's closing
+// message, not after it.
 class BackgroundTextDocument {
  public:
   explicit BackgroundTextDocument(const QFont& font);

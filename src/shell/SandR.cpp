@@ -27,9 +27,6 @@ namespace {
 // As often as a screen refreshes; drawing more often only slows a run down.
 constexpr qint64 kEventIntervalMs = 50;
 constexpr int kSearchReplaceTip = 17;
-// Results are handed to the document being prepared a few hundred lines at
-// a time: often enough to keep up, seldom enough to cost next to nothing.
-constexpr qsizetype kResultsChunk = 16384;
 
 // A caption as it shows: "&&" is one ampersand.
 QString Shown(const QString& caption) { return QString(caption).replace(QStringLiteral("&&"), QStringLiteral("&")); }
@@ -164,16 +161,15 @@ void SandR::ProcessEvents() {
   sinceEvents_.start();
 }
 
-void SandR::ResultsSoFar(const QString& results) {
-  const qsizetype handed = results_ ? results_->Size() : 0;
-  if (results.size() - handed < kResultsChunk) return;
-  if (!results_) results_ = std::make_unique<BackgroundTextDocument>(font());
-  results_->Append(results.sliced(handed));
+void SandR::ResultsReady(const QString& results) {
+  results_ = std::make_unique<BackgroundTextDocument>(font());
+  results_->Append(results);
 }
 
 void SandR::ShowResults(const QString& results) {
   std::unique_ptr<BackgroundTextDocument> prepared = std::move(results_);
-  // What was handed meanwhile is used only where the whole goes on from it.
+  // What was handed before the message is used only where the whole goes on
+  // from it.
   if (!prepared || !prepared->Continues(results)) prepared = std::make_unique<BackgroundTextDocument>(font());
   prepared->Append(results.sliced(prepared->Size()));
   SandRresults window(prepared->Take(), this);

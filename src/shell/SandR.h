@@ -36,7 +36,7 @@ class SandR : public QDialog, public fileops::SearchReplaceView {
   void SetProgress(int value) override;
   void ShowProgressNow() override { ShowHeldProgress(); }
   void ProcessEvents() override;
-  void ResultsSoFar(const QString& results) override;
+  void ResultsReady(const QString& results) override;
   void ShowResults(const QString& results) override;
 
   void reject() override;
@@ -62,7 +62,7 @@ class SandR : public QDialog, public fileops::SearchReplaceView {
   bool running_ = false;
   int heldProgress_ = -1;
   QElapsedTimer sinceEvents_;
-  std::unique_ptr<BackgroundTextDocument> results_;  // the run's results, laid out meanwhile
+  std::unique_ptr<BackgroundTextDocument> results_;  // the run's results, laid out while its message shows
 };
 
 }  // namespace renvale::shell
