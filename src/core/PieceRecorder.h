@@ -18,8 +18,9 @@ namespace renvale::core {
 class PieceRecorder {
  public:
   explicit PieceRecorder(RecordedOperation& recorded);
-  // Waits for the piece in flight, and a preparing no piece followed (the
-  // future of std::async waits as it goes): the recorder is not left writing.
+  // Waits for the piece in flight, and for a preparing that no piece
+  // followed (a future of std::async waits for its work when it goes): the
+  // recorder is not left writing.
   ~PieceRecorder();
   PieceRecorder(const PieceRecorder&) = delete;
   PieceRecorder& operator=(const PieceRecorder&) = delete;

@@ -1,11 +1,13 @@
 #include "fileops/SearchReplace.h"
 
 #include <QFile>
+#include <QTemporaryDir>
 #include <chrono>
 #include <thread>
 
 #include "core/OperationRecorder.h"
 #include "core/PlanIdentity.h"
+#include "fileops/Journal.h"
 #include "platform/ErrorNumbers.h"
 #include "rename/RenameFixture.h"
 
@@ -182,8 +184,10 @@ TEST_F(SearchReplaceRun, NamesThatAreNotUtf8KeepTheirBytesAndASetMovesTogether) 
 // no loss, whether the files form a chain or trade names, or a companion
 // that is not selected needs the name. A listed file that another program
 // removed meanwhile keeps its turn: the file that takes its name is not
-// renamed a second time.
+// renamed a second time. The same with the plan kept in a journal first.
 TEST_F(SearchReplaceRun, FilesTradingNamesAreNeitherAskedAboutNorLost) {
+  QTemporaryDir journalDir;
+  fileops::Journal journal(platform::RealFileSystem(), QFile::encodeName(journalDir.path()) + '/', port);
   const struct {
     std::initializer_list<const char*> files, selected;
     std::initializer_list<std::pair<const char*, const char*>> terms;
@@ -196,14 +200,18 @@ TEST_F(SearchReplaceRun, FilesTradingNamesAreNeitherAskedAboutNorLost) {
        {{"b.CRW", "a.CRW"}, {"b.THM", "a.THM"}, {"c.THM", "b.THM"}}},
       {{"a.jpg"}, {"a.jpg", "b.jpg"}, {{"b", "c"}, {"a", "b"}}, {{"b.jpg", "a.jpg"}}},
   };
-  for (const auto& row : rows) {
-    Remake(row.files);
-    Select(row.selected);
-    port.Clear();
-    Run(row.terms);
-    EXPECT_EQ(Folder(), row.after);
-    EXPECT_EQ(port.Texts(), QStringList{kComplete});
+  for (core::OperationRecorder* recorder : std::initializer_list<core::OperationRecorder*>{nullptr, &journal}) {
+    context.recorder = recorder;
+    for (const auto& row : rows) {
+      Remake(row.files);
+      Select(row.selected);
+      port.Clear();
+      Run(row.terms);
+      EXPECT_EQ(Folder(), row.after);
+      EXPECT_EQ(port.Texts(), QStringList{kComplete});
+    }
   }
+  EXPECT_EQ(journal.Entries().size(), std::size(rows));
 }
 
 // Takes each piece after checking that its files are still where its steps
