@@ -159,7 +159,8 @@ void SearchReplace::RunOver(const SearchTerms& terms) {
   // change the window's folder, never the files being renamed.
   const QByteArray folder = context_.session.CurrentFolder;
   // The journal readies its file while the moves are worked out. The
-  // pieces, which take identities through `held`, go before it.
+  // pieces take identities through `held`: they are made after it and go
+  // before it.
   core::RecordedOperation recorded(context_.recorder,
                                    {core::OperationKind::SearchReplace, folder, QDateTime::currentDateTimeUtc(), {}});
   const std::unique_ptr<platform::ReadableFolder> held = context_.fs.HoldFolder(folder);
