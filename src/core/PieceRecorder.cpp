@@ -12,11 +12,7 @@ PieceRecorder::~PieceRecorder() {
 }
 
 void PieceRecorder::Prepare() {
-  if (!background_) {
-    recorded_.Prepare();
-    return;
-  }
-  Launch([this] {
+  Start([this] {
     recorded_.Prepare();
     return 0;
   });
@@ -24,26 +20,22 @@ void PieceRecorder::Prepare() {
 
 void PieceRecorder::Submit(std::vector<PlanStep> steps) {
   inFlight_ = true;
-  if (!background_) {
-    result_ = recorded_.Add(std::move(steps));
-    return;
-  }
-  Launch([this, piece = std::move(steps)]() mutable { return recorded_.Add(std::move(piece)); });
+  Start([this, piece = std::move(steps)]() mutable { return recorded_.Add(std::move(piece)); });
 }
 
 void PieceRecorder::Submit(std::function<std::vector<PlanStep>()> describe) {
   inFlight_ = true;
-  if (!background_) {
-    result_ = recorded_.Add(describe());
-    return;
-  }
-  Launch([this, describe = std::move(describe)] { return recorded_.Add(describe()); });
+  Start([this, describe = std::move(describe)] { return recorded_.Add(describe()); });
 }
 
 // Nothing else touches the recorder until Wait: the future's hand-over
 // orders the writes before the renames that rely on them. A preparing not
 // waited for runs first, since the recorder takes one call at a time.
-void PieceRecorder::Launch(std::function<int()> work) {
+void PieceRecorder::Start(std::function<int()> work) {
+  if (!background_) {
+    result_ = work();
+    return;
+  }
   pending_ = std::async(std::launch::async, [before = std::move(pending_), work = std::move(work)]() mutable {
     if (before.valid()) before.get();
     return work();

@@ -44,7 +44,8 @@ class PieceRecorder {
   int Wait();
 
  private:
-  void Launch(std::function<int()> work);
+  // Runs `work` on the second thread where there is one, else at once.
+  void Start(std::function<int()> work);
 
   RecordedOperation& recorded_;
   const bool background_;

@@ -61,19 +61,27 @@ bool Journal::StemTaken(const QByteArray& stem) const {
   return false;
 }
 
+// The stem of the first sequence number from `*sequence` on that no file
+// of the folder takes, or an empty one when all are taken.
+QByteArray Journal::FreeStem(const core::OperationPlan& plan, int* sequence) const {
+  for (; *sequence < 10000; ++*sequence) {
+    QByteArray stem = NameFor(plan, *sequence);
+    if (!StemTaken(stem)) return stem;
+  }
+  return {};
+}
+
 void Journal::Prepare(const core::OperationPlan& start) {
   DropPrepared();
   const core::OperationPlan head{start.kind, start.folder, start.started, {}};
+  int sequence = 0;
+  const QByteArray stem = FreeStem(head, &sequence);
+  if (stem.isEmpty()) return;
   const QByteArray bytes = JournalFormat::Write(head);
-  for (int sequence = 0; sequence < 10000; ++sequence) {
-    const QByteArray stem = NameFor(head, sequence);
-    if (StemTaken(stem)) continue;
-    if (fs_.WriteWholeFile(stem + kTemporarySuffix, bytes) == 0) {
-      prepared_ = {stem, head, bytes.size()};
-    } else {
-      fs_.RemoveFile(stem + kTemporarySuffix);
-    }
-    return;
+  if (fs_.WriteWholeFile(stem + kTemporarySuffix, bytes) == 0) {
+    prepared_ = {stem, head, bytes.size()};
+  } else {
+    fs_.RemoveFile(stem + kTemporarySuffix);
   }
 }
 
@@ -90,11 +98,17 @@ bool Journal::BeginPrepared(const core::OperationPlan& plan, int* error) {
   if (fs_.AppendToFile(temporary, addition) != 0 || fs_.RenameNoReplace(temporary, open) != 0) return false;
   const qint64 size = prepared_.size + addition.size();
   prepared_ = {};
-  current_ = open;
+  *error = Opened(open, plan, size);
+  return true;
+}
+
+// The plan counts from here on.
+int Journal::Opened(const QByteArray& path, const core::OperationPlan& plan, qint64 size) {
+  current_ = path;
   running_.Acquire(current_);
   RememberWritten(current_, plan, size);
-  *error = fs_.FlushFolder(folder_);
-  return true;
+  // The new name must outlive a power cut, not only the file's contents.
+  return fs_.FlushFolder(folder_);
 }
 
 void Journal::DropPrepared() {
@@ -105,9 +119,9 @@ void Journal::DropPrepared() {
 int Journal::Begin(const core::OperationPlan& plan) {
   if (int error = 0; BeginPrepared(plan, &error)) return error;
   const QByteArray bytes = JournalFormat::Write(plan);
-  for (int sequence = 0; sequence < 10000; ++sequence) {
-    const QByteArray stem = NameFor(plan, sequence);
-    if (StemTaken(stem)) continue;
+  for (int sequence = 0;; ++sequence) {
+    const QByteArray stem = FreeStem(plan, &sequence);
+    if (stem.isEmpty()) return platform::kFileAlreadyExists;
     if (const int error = fs_.WriteWholeFile(stem + kTemporarySuffix, bytes)) return error;
     const int error = fs_.RenameNoReplace(stem + kTemporarySuffix, stem + Suffix(State::Open));
     if (error == platform::kFileAlreadyExists) {
@@ -118,13 +132,8 @@ int Journal::Begin(const core::OperationPlan& plan) {
       fs_.RemoveFile(stem + kTemporarySuffix);
       return error;
     }
-    current_ = stem + Suffix(State::Open);
-    running_.Acquire(current_);
-    RememberWritten(current_, plan, bytes.size());
-    // The new name must outlive a power cut, not only the file's contents.
-    return fs_.FlushFolder(folder_);
+    return Opened(stem + Suffix(State::Open), plan, bytes.size());
   }
-  return platform::kFileAlreadyExists;
 }
 
 int Journal::Extend(std::vector<core::PlanStep> steps) {

@@ -61,6 +61,8 @@ class Journal : public core::OperationRecorder {
 
  private:
   bool StemTaken(const QByteArray& stem) const;
+  QByteArray FreeStem(const core::OperationPlan& plan, int* sequence) const;
+  int Opened(const QByteArray& path, const core::OperationPlan& plan, qint64 size);
   bool BeginPrepared(const core::OperationPlan& plan, int* error);
   void DropPrepared();
   QByteArray NameFor(const core::OperationPlan& plan, int sequence) const;
