@@ -197,7 +197,8 @@ qint64 ValuesPass(const Folder& folder) {
 
 // What a batch gets: the values read ahead and taken in list order.
 qint64 ReadAheadPass(const Folder& folder) {
-  renvale::metadata::ExifReadAhead ahead(renvale::platform::RealFileSystem(), folder.path, folder.names, kFormats);
+  renvale::metadata::ExifReadAhead ahead(renvale::platform::RealFileSystem(), folder.path, folder.names, kFormats,
+                                         renvale::metadata::ExifReader::Identity::Wanted);
   qint64 dated = 0;
   for (const QByteArray& name : folder.names) {
     renvale::metadata::ExifReadAhead::Result result;

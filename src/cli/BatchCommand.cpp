@@ -285,7 +285,7 @@ bool BatchCommand::NamesAsItGoes(const BatchArguments& args) const {
 // its date's source, which is read even where the name has no date.
 void BatchCommand::ReadAhead(const BatchArguments& args) {
   if (NamesAsItGoes(args) && !core::MentionsExifToken(args.name)) return;
-  tokens_.ExpectExifValues(groups_.front().folder, groups_.front().files);
+  tokens_.ExpectExifValues(groups_.front().folder, groups_.front().files, services_.journal != nullptr);
 }
 
 // The series runs on from one folder to the next, as in the preview. The

@@ -65,7 +65,11 @@ BatchNames::BatchNames(const RenameContext& context, const FileRenamer& renamer,
     : context_(context), renamer_(renamer), withDateSources_(withDateSources) {
   std::optional<int> randomCount;
   if (randomSeries) randomCount = NumberedFiles(files, renamer);
-  if (withDateSources || MentionsExifToken(base)) context.tokens.ExpectExifValues(renamer.Folder(), files);
+  // Only a journal asks who each file is; a preview, or a batch that keeps
+  // no journal, is spared a call per file for it.
+  if (withDateSources || MentionsExifToken(base)) {
+    context.tokens.ExpectExifValues(renamer.Folder(), files, context.recorder != nullptr);
+  }
   parts_ = std::make_unique<Parts>(context, renamer.Folder(), base, randomCount, std::move(random));
   // A read before the batch says nothing about the files as they are now.
   FileIdentity before;

@@ -39,10 +39,13 @@ class TokenSource {
   virtual Id3Values Id3(const QByteArray& folder, const platform::FileName& file) = 0;
 
   // A batch is about to ask for the EXIF values of `files` in `folder`, in
-  // this order; an implementation may start reading them ahead.
-  virtual void ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files) {
+  // this order; an implementation may start reading them ahead. With
+  // `identities` the batch will also ask TakeReadIdentity of each.
+  virtual void ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files,
+                                bool identities) {
     (void)folder;
     (void)files;
+    (void)identities;
   }
   // A file of the folder is about to be replaced by another, so values read
   // ahead of their turn may no longer be the file's.

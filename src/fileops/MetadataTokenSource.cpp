@@ -65,7 +65,8 @@ metadata::ExifTokenValues MetadataTokenSource::ReadValues(const QByteArray& fold
 // A caller that knows the files early starts their reading then; the batch
 // asking for the same files next keeps that reading, as long as nothing has
 // been taken from it.
-void MetadataTokenSource::ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files) {
+void MetadataTokenSource::ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files,
+                                           bool identities) {
   identityFresh_ = false;
   if (!fs_.ReadableFromAnyThread()) return;
   if (readAhead_ != nullptr && !readAheadTaken_ && folder == readAheadFolder_ &&
@@ -76,7 +77,9 @@ void MetadataTokenSource::ExpectExifValues(const QByteArray& folder, const std::
   std::vector<QByteArray> names;
   names.reserve(files.size());
   for (const platform::FileName& file : files) names.push_back(file.raw);
-  readAhead_ = std::make_unique<metadata::ExifReadAhead>(fs_, folder, std::move(names), Formats());
+  readAhead_ = std::make_unique<metadata::ExifReadAhead>(
+      fs_, folder, std::move(names), Formats(),
+      identities ? metadata::ExifReader::Identity::Wanted : metadata::ExifReader::Identity::NotWanted);
   readAheadFolder_ = folder;
   readAheadTaken_ = false;
 }

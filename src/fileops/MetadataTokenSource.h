@@ -28,7 +28,8 @@ class MetadataTokenSource : public core::TokenSource {
 
   QString ExifValue(const QByteArray& folder, const platform::FileName& file, core::Token token) override;
   core::Id3Values Id3(const QByteArray& folder, const platform::FileName& file) override;
-  void ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files) override;
+  void ExpectExifValues(const QByteArray& folder, const std::vector<platform::FileName>& files,
+                        bool identities) override;
   void FileReplaced() override;
   bool ValuesAtHand(const QByteArray& folder, const platform::FileName& file) override;
   bool TakeReadIdentity(const QByteArray& folder, const platform::FileName& file, core::FileIdentity* identity) override;

@@ -5,8 +5,10 @@
 namespace renvale::metadata {
 
 ExifReadAhead::ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder,
-                             std::vector<QByteArray> rawNames, const ExifDateFormats& formats)
+                             std::vector<QByteArray> rawNames, const ExifDateFormats& formats,
+                             ExifReader::Identity identity)
     : fs_(fs), folder_(folder), held_(fs.HoldFolder(folder)), names_(std::move(rawNames)), formats_(formats),
+      identity_(identity),
       results_(names_.size()), done_(names_.size(), 0), taken_(names_.size(), false) {
   reader_ = std::jthread([this](const std::stop_token& stop) { Work(stop); });
 }
@@ -61,8 +63,9 @@ bool ExifReadAhead::ReadNext(std::unique_lock<std::mutex>& hold) {
 
 std::unique_ptr<ExifReadAhead::Result> ExifReadAhead::Read(size_t at) const {
   auto result = std::make_unique<Result>();
+  platform::FileInfo* identity = identity_ == ExifReader::Identity::Wanted ? &result->identity : nullptr;
   result->values = ReadExifTokenValuesQuietly(fs_, *held_, folder_, names_[at], formats_, &result->errorMessage,
-                                              &result->identity, &result->identityKnown);
+                                              identity, &result->identityKnown);
   return result;
 }
 

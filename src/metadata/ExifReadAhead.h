@@ -9,6 +9,7 @@
 #include <thread>
 #include <vector>
 
+#include "metadata/ExifReader.h"
 #include "metadata/ExifValues.h"
 #include "platform/FileSystem.h"
 
@@ -37,9 +38,10 @@ class ExifReadAhead {
     platform::FileInfo identity;
   };
 
-  // `fs` must be readable from any thread. Starts reading at once.
+  // `fs` must be readable from any thread. Starts reading at once. A
+  // result knows its file's identity only where `identity` wants it.
   ExifReadAhead(platform::FileSystem& fs, const QByteArray& folder, std::vector<QByteArray> rawNames,
-                const ExifDateFormats& formats);
+                const ExifDateFormats& formats, ExifReader::Identity identity);
   // Stops the reading (after the file at hand) and waits for it.
   ~ExifReadAhead();
   ExifReadAhead(const ExifReadAhead&) = delete;
@@ -76,6 +78,7 @@ class ExifReadAhead {
   const std::unique_ptr<platform::ReadableFolder> held_;
   const std::vector<QByteArray> names_;
   const ExifDateFormats formats_;
+  const ExifReader::Identity identity_;
   // Takers ask in list order, mostly: the name after the last one taken is
   // looked at first, and the table of every name's place is made only the
   // first time the answer is another. Used by the takers' thread alone.

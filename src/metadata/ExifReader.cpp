@@ -26,10 +26,10 @@ void ExifReader::Load(platform::FileSystem& fs, const QByteArray& path) {
   LoadOpened(error, file.get());
 }
 
-void ExifReader::Load(platform::ReadableFolder& folder, const QByteArray& name) {
+void ExifReader::Load(platform::ReadableFolder& folder, const QByteArray& name, Identity identity) {
   Reset();
   std::unique_ptr<platform::ReadableFile> file;
-  const int error = folder.OpenForRead(name, &file);
+  const int error = identity == Identity::Wanted ? folder.OpenForRead(name, &file) : folder.OpenContents(name, &file);
   LoadOpened(error, file.get());
 }
 
@@ -64,7 +64,9 @@ void ExifReader::LoadFrom(ByteSource& source) {
     if (i == 0 && result == TiffIfdWalker::Result::BadHeader) status_ = QString::fromLatin1(ExifTexts::kDamagedHeader);
     if (i == 0 && result == TiffIfdWalker::Result::BadFirstIfd) status_ = QString::fromLatin1(ExifTexts::kDamagedIfd0);
   }
-  if (source.IoFailed()) {
+  // Opened for its contents alone, a pipe or the like says so at its first
+  // read: it has no EXIF, as when its opening tells.
+  if (source.IoFailed() && source.IoError() != platform::kNoContents) {
     tags_.Clear();
     SetSystemError(ExifTexts::kCannotRead, source.IoError());
   } else if (!found) {

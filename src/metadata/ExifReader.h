@@ -16,8 +16,11 @@ class ExifReader {
  public:
   // Loads from a file; reads only the bytes it needs.
   void Load(platform::FileSystem& fs, const QByteArray& path);
+  // Whether a load learns the file's identity (OpenedIdentity) as it opens
+  // it, or reads the contents alone.
+  enum class Identity { Wanted, NotWanted };
   // The same for the file `name` of a folder held for many reads.
-  void Load(platform::ReadableFolder& folder, const QByteArray& name);
+  void Load(platform::ReadableFolder& folder, const QByteArray& name, Identity identity);
   // Loads from whole-file bytes already in memory (tests, fuzzing).
   void LoadBytes(const char* data, qint64 size);
 

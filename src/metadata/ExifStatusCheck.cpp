@@ -28,8 +28,8 @@ bool LoadExifQuietly(ExifReader& reader, platform::FileSystem& fs, const QByteAr
 }
 
 bool LoadExifQuietly(ExifReader& reader, platform::ReadableFolder& folder, const QByteArray& name,
-                     QString* errorMessage) {
-  reader.Load(folder, name);
+                     ExifReader::Identity identity, QString* errorMessage) {
+  reader.Load(folder, name, identity);
   return StatusAllowsTags(reader, errorMessage);
 }
 

@@ -3,15 +3,13 @@
 #include <QByteArray>
 #include <QString>
 
+#include "metadata/ExifReader.h"
+
 namespace renvale::platform {
-class FileSystem;
 class MessagePort;
-class ReadableFolder;
 }  // namespace renvale::platform
 
 namespace renvale::metadata {
-
-class ExifReader;
 
 // True for a reader status that means "this file has no EXIF": one whose
 // last ten characters are "not found." in any letter case. Only the ending
@@ -33,6 +31,6 @@ bool LoadExifQuietly(ExifReader& reader, platform::FileSystem& fs, const QByteAr
                      QString* errorMessage);
 // The same for the file `name` of a folder held for many reads.
 bool LoadExifQuietly(ExifReader& reader, platform::ReadableFolder& folder, const QByteArray& name,
-                     QString* errorMessage);
+                     ExifReader::Identity identity, QString* errorMessage);
 
 }  // namespace renvale::metadata

@@ -19,7 +19,7 @@ struct FileTags {
 // The tags of a reader whose load gave `loaded`.
 bool TagsOf(const ExifReader& reader, bool loaded, FileTags* tags, platform::FileInfo* identity,
             bool* identityKnown) {
-  if (identityKnown != nullptr) *identityKnown = reader.OpenedIdentity(identity);
+  if (identityKnown != nullptr) *identityKnown = identity != nullptr && reader.OpenedIdentity(identity);
   if (!loaded) return false;
   tags->dateTimeOriginal = reader.Tag(texts::kTagDateTimeOriginal);
   tags->serial = reader.Tag(texts::kTagImageNumber);
@@ -108,7 +108,8 @@ ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, platform::R
                                            const ExifDateFormats& formats, QString* errorMessage,
                                            platform::FileInfo* identity, bool* identityKnown) {
   ExifReader reader;
-  const bool loaded = LoadExifQuietly(reader, held, rawName, errorMessage);
+  const auto wanted = identity != nullptr ? ExifReader::Identity::Wanted : ExifReader::Identity::NotWanted;
+  const bool loaded = LoadExifQuietly(reader, held, rawName, wanted, errorMessage);
   FileTags tags;
   if (!TagsOf(reader, loaded, &tags, identity, identityKnown)) return {};
   return ValuesOfTags(fs, folder, rawName, formats, tags);

@@ -60,7 +60,8 @@ ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, const QByte
                                            const QByteArray& rawName, const ExifDateFormats& formats,
                                            QString* errorMessage, platform::FileInfo* identity = nullptr,
                                            bool* identityKnown = nullptr);
-// The same, opening the file through `held`, the folder held for a batch.
+// The same, opening the file through `held`, the folder held for a batch;
+// with no `identity` the file's status is not asked for.
 ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, platform::ReadableFolder& held,
                                            const QByteArray& folder, const QByteArray& rawName,
                                            const ExifDateFormats& formats, QString* errorMessage,

@@ -18,10 +18,11 @@ FileByteSource::FileByteSource(platform::ReadableFile& file) : file_(file) {
     ioError_ = platform::ErrorNumberFromErrno(errno != 0 ? errno : EIO);
     return;
   }
+  errno = 0;
   size_ = got < kHeadSize ? got : file_.Size();
-  if (size_ < got) {  // no size, or the file shrank under us
+  if (size_ < got) {  // no size, no regular file, or the file shrank under us
     size_ = 0;
-    ioError_ = platform::kErrnoBase + EIO;
+    ioError_ = errno == ENODEV ? platform::kNoContents : platform::kErrnoBase + EIO;
     return;
   }
   headSize_ = got;

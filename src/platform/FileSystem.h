@@ -51,6 +51,13 @@ class ReadableFolder {
   virtual ~ReadableFolder() = default;
   // As FileSystem::OpenForRead of the name joined to the folder's path.
   virtual int OpenForRead(const QByteArray& name, std::unique_ptr<ReadableFile>* file) = 0;
+  // The same for a reader that wants the contents alone, not the file's
+  // identity: where opening and asking the file's status are two system
+  // calls, the second is left out, and what it would have refused (a pipe,
+  // a folder) is refused by the first read instead.
+  virtual int OpenContents(const QByteArray& name, std::unique_ptr<ReadableFile>* file) {
+    return OpenForRead(name, file);
+  }
   // As FileSystem::StatIdentity of the name joined to the folder's path.
   virtual int StatIdentity(const QByteArray& name, FileInfo* info) = 0;
   // As FileSystem::RenameNoReplace of the two names joined to the folder's

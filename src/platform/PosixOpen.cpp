@@ -57,6 +57,14 @@ int OpenReadableFileAt(int dirFd, const QByteArray& path, std::unique_ptr<Readab
   return kNoError;
 }
 
+int OpenContentsAt(int dirFd, const QByteArray& path, std::unique_ptr<ReadableFile>* file) {
+  file->reset();
+  UniqueFd fd = OpenLeavingAccessTime(dirFd, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+  if (!fd.valid()) return errno == ENXIO ? kNoContents : ErrorNumberFromErrno(errno);
+  *file = std::make_unique<PosixReadableFile>(std::move(fd));
+  return kNoError;
+}
+
 void FillIdentity(const struct stat& st, FileInfo* info) {
   info->isDir = S_ISDIR(st.st_mode);
   info->size = st.st_size;

@@ -18,6 +18,13 @@ int OpenRegularFileAt(int dirFd, const QByteArray& path, UniqueFd* fd, struct st
 // The same as a ReadableFile that knows its identity.
 int OpenReadableFileAt(int dirFd, const QByteArray& path, std::unique_ptr<ReadableFile>* file);
 
+// The same without asking the file's status. A pipe, a socket or a
+// terminal cannot be read at an offset, so its first read fails with
+// kNoContents, and a folder's with EISDIR. A device reads on without end,
+// so a reader that read a full head asks its size, and that fails with
+// kNoContents.
+int OpenContentsAt(int dirFd, const QByteArray& path, std::unique_ptr<ReadableFile>* file);
+
 // What StatIdentity tells of a file.
 void FillIdentity(const struct stat& st, FileInfo* info);
 

@@ -11,6 +11,12 @@ qint64 PosixReadableFile::Size() const {
   if (size_ == kUnknown) {
     struct stat st;
     size_ = ::fstat(fd_.get(), &st) == 0 ? static_cast<qint64>(st.st_size) : -1;
+    // Opened without its status, a device is found out here: its head
+    // reads full, so its reader asks for the size.
+    if (size_ >= 0 && !S_ISREG(st.st_mode)) {
+      size_ = -1;
+      errno = ENODEV;
+    }
   }
   return size_;
 }
@@ -34,6 +40,8 @@ qint64 PosixReadableFile::ReadAt(qint64 offset, char* buffer, qint64 length) {
                               static_cast<off_t>(offset + done));
     if (n < 0) {
       if (errno == EINTR) continue;
+      // A file opened without asking its status may be a pipe or the like.
+      if (errno == ESPIPE) errno = ENODEV;
       return -1;
     }
     if (n == 0) break;  // the end, or the file shrank under us

@@ -13,6 +13,8 @@ namespace renvale::platform {
 // one system call fewer per file shows in a batch over thousands.
 class PosixReadableFile : public ReadableFile {
  public:
+  // A file opened without its status may turn out to be no regular file:
+  // its reads or its size then fail with ENODEV.
   explicit PosixReadableFile(UniqueFd fd) : fd_(std::move(fd)) {}
   // A file whose opening has asked its status already: the size is known
   // and the file tells who it is without another call.

@@ -12,6 +12,10 @@ int PosixReadableFolder::OpenForRead(const QByteArray& name, std::unique_ptr<Rea
   return OpenReadableFileAt(fd_.get(), name, file);
 }
 
+int PosixReadableFolder::OpenContents(const QByteArray& name, std::unique_ptr<ReadableFile>* file) {
+  return OpenContentsAt(fd_.get(), name, file);
+}
+
 int PosixReadableFolder::StatIdentity(const QByteArray& name, FileInfo* info) {
   *info = FileInfo{};
   struct stat st;

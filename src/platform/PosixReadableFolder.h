@@ -15,6 +15,7 @@ class PosixReadableFolder : public ReadableFolder {
   // `path` is the folder's path as it was held.
   PosixReadableFolder(UniqueFd fd, const QByteArray& path) : fd_(std::move(fd)), path_(path) {}
   int OpenForRead(const QByteArray& name, std::unique_ptr<ReadableFile>* file) override;
+  int OpenContents(const QByteArray& name, std::unique_ptr<ReadableFile>* file) override;
   int StatIdentity(const QByteArray& name, FileInfo* info) override;
   int RenameNoReplace(const QByteArray& from, const QByteArray& to) override;
 

@@ -96,7 +96,8 @@ TEST_F(ExifValuesTest, ReaderErrorIsShownAndGivesNothing) {
 }
 
 // A taker that asks out of list order still gets each file's own values,
-// once. Real files: both threads read, as in a batch.
+// once, and the file's identity only where it was asked for. Real files:
+// both threads read, as in a batch.
 TEST(ExifReadAhead, HandsEachFileItsOwnValuesInAnyOrder) {
   QTemporaryDir dir;
   const QByteArray folder = QFile::encodeName(dir.path()) + '/';
@@ -106,15 +107,24 @@ TEST(ExifReadAhead, HandsEachFileItsOwnValuesInAnyOrder) {
   exif.imageNumber = -1;
   fs.WriteWholeFile(folder + "noserial.jpg", MakeExifJpeg(&exif));
   fs.WriteWholeFile(folder + "plain.jpg", MakeExifJpeg(nullptr));
-  metadata::ExifReadAhead ahead(fs, folder, {"plain.jpg", "exif.jpg", "noserial.jpg"}, kFormats);
+  metadata::ExifReadAhead ahead(fs, folder, {"plain.jpg", "exif.jpg", "noserial.jpg"}, kFormats,
+                                metadata::ExifReader::Identity::Wanted);
   metadata::ExifReadAhead::Result got;
   ASSERT_TRUE(ahead.Take(folder, "exif.jpg", kFormats, &got));
   EXPECT_EQ(got.values.serial, "1234567");
+  platform::FileInfo exifFile;
+  ASSERT_EQ(fs.StatIdentity(folder + "exif.jpg", &exifFile), 0);
+  EXPECT_TRUE(got.identityKnown && got.identity.inode == exifFile.inode);
   ASSERT_TRUE(ahead.Take(folder, "plain.jpg", kFormats, &got));
   EXPECT_NE(got.values.dateOrigin, metadata::DateOrigin::ExifOriginal);
   ASSERT_TRUE(ahead.Take(folder, "noserial.jpg", kFormats, &got));
   EXPECT_EQ(got.values.date + got.values.serial, "2004-07-15");
   EXPECT_FALSE(ahead.Take(folder, "exif.jpg", kFormats, &got));
+
+  metadata::ExifReadAhead contentsOnly(fs, folder, {"exif.jpg"}, kFormats, metadata::ExifReader::Identity::NotWanted);
+  ASSERT_TRUE(contentsOnly.Take(folder, "exif.jpg", kFormats, &got));
+  EXPECT_EQ(got.values.serial, "1234567");
+  EXPECT_FALSE(got.identityKnown);
 }
 
 TEST(PreviewTurn, FirstThreeLettersOfTheWordDecide) {

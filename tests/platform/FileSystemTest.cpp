@@ -155,6 +155,13 @@ TEST(FileSystemWholeFiles, WriteReadAndReadAt) {
     EXPECT_EQ(fs.OpenForRead(path, &file), platform::kNoContents) << path.constData();
     EXPECT_EQ(fs.ReadWholeFile(path, 8, &contents), platform::kNoContents) << path.constData();
   }
+  // Opened for its contents alone, the pipe says so at its first read.
+  const std::unique_ptr<platform::ReadableFolder> held = fs.HoldFolder(folder.path());
+  ASSERT_EQ(held->OpenContents("pipe", &file), 0);
+  platform::FileInfo identity;
+  EXPECT_FALSE(file->Identity(&identity));
+  EXPECT_EQ(file->ReadAt(0, buffer, 8), -1);
+  EXPECT_EQ(platform::ErrorNumberFromErrno(errno), platform::kNoContents);
 }
 
 // An access time older than the contents is one a plain read brings up to
