@@ -158,17 +158,19 @@ bool HasMarker(const std::vector<Piece>& pieces) {
   return false;
 }
 
-// Decimal digits of a non-negative `n`, zero-padded to `width`.
+// Decimal digits of a non-negative `n`, zero-padded to `width`, added in
+// one append: a batch formats two numbers or more for every file.
 void AppendNumber(QString* out, int n, int width = 1) {
-  char digits[12];
-  int count = 0;
+  constexpr int kMost = 12;
+  char16_t digits[kMost];
+  int at = kMost;
   unsigned value = n < 0 ? 0u : static_cast<unsigned>(n);
   do {
-    digits[count++] = static_cast<char>('0' + value % 10);
+    digits[--at] = static_cast<char16_t>(u'0' + value % 10);
     value /= 10;
-  } while (value != 0 && count < 11);
-  for (int pad = count; pad < width; ++pad) out->append(u'0');
-  while (count > 0) out->append(QChar(u'0' + (digits[--count] - '0')));
+  } while (value != 0 && at > 1);
+  while (kMost - at < width && at > 0) digits[--at] = u'0';
+  out->append(reinterpret_cast<const QChar*>(digits + at), kMost - at);
 }
 
 int WeekOfYear(const QDate& d) {
@@ -177,10 +179,18 @@ int WeekOfYear(const QDate& d) {
   return (d.dayOfYear() - 1 + firstOffset) / 7 + 1;
 }
 
+// The year, month and day are worked out of the date once: each of QDate's
+// own accessors works them all out again.
 struct Moment {
+  Moment(const QDate& d, const QTime& t, bool twelve) : date(d), time(t), twelveHour(twelve) {
+    date.getDate(&year, &month, &day);
+  }
   QDate date;
   QTime time;
   bool twelveHour;
+  int year = 0;
+  int month = 0;
+  int day = 0;
 };
 
 void AppendMarker(QString* out, const Piece& p, bool pm) {
@@ -242,22 +252,22 @@ QString EnglishName(Code code, int n) {
 void AppendDate(QString* out, const Piece& p, const Moment& m) {
   const QDate& d = m.date;
   switch (p.code) {
-    case Code::Day: return AppendNumber(out, d.day());
-    case Code::Day2: return AppendNumber(out, d.day(), 2);
+    case Code::Day: return AppendNumber(out, m.day);
+    case Code::Day2: return AppendNumber(out, m.day, 2);
     case Code::WeekdayShort:
     case Code::WeekdayLong: out->append(EnglishName(p.code, d.dayOfWeek())); return;
     case Code::ShortDate: return AppendBuiltin(out, kShortDate, m);
     case Code::LongDate: return AppendBuiltin(out, kLongDate, m);
     case Code::Weekday: return AppendNumber(out, d.dayOfWeek() % 7 + 1);
     case Code::WeekOfYear: return AppendNumber(out, WeekOfYear(d));
-    case Code::Month: return AppendNumber(out, d.month());
-    case Code::Month2: return AppendNumber(out, d.month(), 2);
+    case Code::Month: return AppendNumber(out, m.month);
+    case Code::Month2: return AppendNumber(out, m.month, 2);
     case Code::MonthShort:
-    case Code::MonthLong: out->append(EnglishName(p.code, d.month())); return;
-    case Code::Quarter: return AppendNumber(out, (d.month() - 1) / 3 + 1);
+    case Code::MonthLong: out->append(EnglishName(p.code, m.month)); return;
+    case Code::Quarter: return AppendNumber(out, (m.month - 1) / 3 + 1);
     case Code::DayOfYear: return AppendNumber(out, d.dayOfYear());
-    case Code::Year2: return AppendNumber(out, d.year() % 100, 2);
-    case Code::Year4: return AppendNumber(out, d.year(), 4);
+    case Code::Year2: return AppendNumber(out, m.year % 100, 2);
+    case Code::Year4: return AppendNumber(out, m.year, 4);
     default: return;
   }
 }

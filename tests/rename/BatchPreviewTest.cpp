@@ -57,5 +57,31 @@ TEST_F(BatchPreviewTest, NotesEveryProblemAndTouchesNothing) {
   EXPECT_TRUE(port.messages.empty());
 }
 
+// A card's worth of rows is worked out on two threads: every row is still
+// its own file's, and a note on the last row is kept. Working names out
+// reads no file, so only the taken name needs to be on disk.
+TEST_F(BatchPreviewTest, ACardsWorthOfRowsStaysInOrder) {
+  constexpr int kFiles = 2500;
+  Make({"taken.jpg", "f0.jpg"});
+  Select({"f0.jpg"});
+  for (int i = 0; i < kFiles; ++i) {
+    const QByteArray name = "f" + QByteArray::number(i) + ".jpg";
+    if (i > 0) view.selected.push_back(platform::FileName{name});
+    tokens.serials.insert(name, i + 1 < kFiles ? "s" + QString::number(i) : QStringLiteral("taken"));
+  }
+  session.SelectedCount = kFiles;
+  session.BatchMode = true;
+  view.newName = "%SERIAL%";
+  const core::BatchPreview preview = core::PreviewBatch(context);
+  ASSERT_EQ(preview.rows.size(), size_t{kFiles});
+  for (int i = 0; i + 1 < kFiles; ++i) {
+    ASSERT_EQ(preview.rows[i].current, "f" + QString::number(i) + ".jpg");
+    ASSERT_EQ(preview.rows[i].newName, "s" + QString::number(i) + ".jpg");
+    ASSERT_TRUE(preview.rows[i].notes.isEmpty()) << i;
+  }
+  EXPECT_EQ(preview.rows.back().notes, QStringList{"A file of this name is already in the folder and keeps it; "
+                                                   "the batch will ask before replacing it."});
+}
+
 }  // namespace
 }  // namespace renvale::test
