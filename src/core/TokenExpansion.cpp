@@ -93,6 +93,19 @@ TokenSet FoundTokens(QStringView text, Detection detection) {
   return found;
 }
 
+// A batch expands the same name for every file: its tokens are found once
+// per thread and kept for as long as the name stays the same.
+TokenSet FoundTokensOfName(const QString& name, Detection detection) {
+  struct Kept {
+    QString name;
+    Detection detection = Detection::UpperCasedText;
+    TokenSet found = 0;
+  };
+  thread_local Kept kept;
+  if (kept.detection != detection || kept.name != name) kept = {name, detection, FoundTokens(name, detection)};
+  return kept.found;
+}
+
 // What QString::replace does for a spelling, in place and without building
 // a matcher for each call. False when the spelling is not there.
 bool ReplaceSpelling(QString* text, const QString& spelling, const QString& value) {
@@ -113,7 +126,7 @@ bool ReplaceSpelling(QString* text, const QString& spelling, const QString& valu
 // one across its edges, so the text is searched again after each.
 QString Expand(QString text, std::initializer_list<Step> steps, Detection detection,
                const TokenValueFunction& valueOf) {
-  TokenSet found = FoundTokens(text, detection);
+  TokenSet found = FoundTokensOfName(text, detection);
   // Room for the values, made once rather than at each replacement.
   if (found != 0) text.reserve(text.size() + 64);
   for (const Step* step = steps.begin(); step != steps.end(); ++step) {
