@@ -8,6 +8,7 @@ namespace renvale::core {
 std::vector<bool> LastStepsOfFiles(const OperationPlan& plan) {
   std::vector<bool> last(plan.steps.size(), true);
   QSet<QByteArray> leftLater;  // names a later step takes a file from
+  leftLater.reserve(static_cast<qsizetype>(plan.steps.size()));
   for (size_t i = plan.steps.size(); i-- > 0;) {
     const PlanStep& step = plan.steps[i];
     if (step.kind == StepKind::Rename && leftLater.contains(step.to)) last[i] = false;
