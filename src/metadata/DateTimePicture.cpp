@@ -1,6 +1,7 @@
 #include "metadata/DateTimePicture.h"
 
 #include <QLocale>
+#include <QVarLengthArray>
 #include <mutex>
 #include <utility>
 #include <vector>
@@ -158,9 +159,21 @@ bool HasMarker(const std::vector<Piece>& pieces) {
   return false;
 }
 
-// Decimal digits of a non-negative `n`, zero-padded to `width`, added in
-// one append: a batch formats two numbers or more for every file.
-void AppendNumber(QString* out, int n, int width = 1) {
+// A picture's text, put together on the stack and made a string once: a
+// batch formats two short texts for every file.
+class Text {
+ public:
+  void append(QChar c) { chars_.append(c); }
+  void append(QStringView text) { chars_.append(text.data(), text.size()); }
+  void append(const QChar* chars, qsizetype count) { chars_.append(chars, count); }
+  QStringView View() const { return {chars_.constData(), chars_.size()}; }
+
+ private:
+  QVarLengthArray<QChar, 64> chars_;
+};
+
+// Decimal digits of a non-negative `n`, zero-padded to `width`.
+void AppendNumber(Text* out, int n, int width = 1) {
   constexpr int kMost = 12;
   char16_t digits[kMost];
   int at = kMost;
@@ -193,7 +206,7 @@ struct Moment {
   int day = 0;
 };
 
-void AppendMarker(QString* out, const Piece& p, bool pm) {
+void AppendMarker(Text* out, const Piece& p, bool pm) {
   if (p.code == Code::AmPmLocale) {
     out->append(pm ? u"PM" : u"AM");
     return;
@@ -212,7 +225,7 @@ int DisplayHour(const Moment& m) {
   return h == 0 ? 12 : h;
 }
 
-void AppendPieces(QString* out, const std::vector<Piece>& pieces, const Moment& m);
+void AppendPieces(Text* out, const std::vector<Piece>& pieces, const Moment& m);
 
 // The fixed pictures that some codes stand for, compiled once.
 const std::vector<Piece>& Builtin(const char16_t* picture) {
@@ -234,7 +247,7 @@ constexpr const char16_t* kTime24 = u"h:mm:ss";
 constexpr const char16_t* kTime12 = u"h:mm:ss AM/PM";
 
 // A fixed picture chooses its own clock, as it would when formatted alone.
-void AppendBuiltin(QString* out, const char16_t* picture, const Moment& m) {
+void AppendBuiltin(Text* out, const char16_t* picture, const Moment& m) {
   const std::vector<Piece>& pieces = Builtin(picture);
   AppendPieces(out, pieces, {m.date, m.time, HasMarker(pieces)});
 }
@@ -249,7 +262,7 @@ QString EnglishName(Code code, int n) {
   }
 }
 
-void AppendDate(QString* out, const Piece& p, const Moment& m) {
+void AppendDate(Text* out, const Piece& p, const Moment& m) {
   const QDate& d = m.date;
   switch (p.code) {
     case Code::Day: return AppendNumber(out, m.day);
@@ -272,7 +285,7 @@ void AppendDate(QString* out, const Piece& p, const Moment& m) {
   }
 }
 
-void AppendGeneral(QString* out, const Moment& m) {
+void AppendGeneral(Text* out, const Moment& m) {
   const bool withDate = m.date != kZeroDate;
   if (withDate) AppendBuiltin(out, kShortDate, {m.date, m.time, false});
   if (m.time == QTime(0, 0)) return;
@@ -280,7 +293,7 @@ void AppendGeneral(QString* out, const Moment& m) {
   AppendBuiltin(out, m.twelveHour ? kTime12 : kTime24, m);
 }
 
-void Append(QString* out, const Piece& p, const Moment& m) {
+void Append(Text* out, const Piece& p, const Moment& m) {
   const QTime& t = m.time;
   switch (p.code) {
     case Code::Literal: out->append(p.text); return;
@@ -299,7 +312,7 @@ void Append(QString* out, const Piece& p, const Moment& m) {
   }
 }
 
-void AppendPieces(QString* out, const std::vector<Piece>& pieces, const Moment& m) {
+void AppendPieces(Text* out, const std::vector<Piece>& pieces, const Moment& m) {
   for (const Piece& p : pieces) Append(out, p, m);
 }
 
@@ -319,14 +332,15 @@ DateTimePicture::DateTimePicture(const QString& picture) {
 }
 
 void DateTimePicture::AppendTo(QString* out, const QDate& date, const QTime& time) const {
-  AppendPieces(out, compiled_->pieces, {date, time, compiled_->twelveHour});
+  Text text;
+  AppendPieces(&text, compiled_->pieces, {date, time, compiled_->twelveHour});
+  out->append(text.View());
 }
 
 QString DateTimePicture::Format(const QDate& date, const QTime& time) const {
-  QString out;
-  out.reserve(32);
-  AppendTo(&out, date, time);
-  return out;
+  Text text;
+  AppendPieces(&text, compiled_->pieces, {date, time, compiled_->twelveHour});
+  return text.View().toString();
 }
 
 QString FormatDateTimePicture(const QString& picture, const QDate& date, const QTime& time) {
