@@ -43,9 +43,6 @@ int main(int argc, char** argv) {
     args.push_back(QByteArray::fromRawData(argv[i], static_cast<qsizetype>(qstrlen(argv[i]))));
   }
   const cli::BatchArguments parsed = cli::ParseBatchArguments(std::move(args));
-  // A card's worth of files is made room for at once rather than page by
-  // page as the batch goes.
-  platform::ReserveHeap(parsed.files.size() * HeapPerFile(parsed));
   // Qt Core only: the tool runs where there is no display at all. It runs
   // no event loop, so it makes no application object either (that object
   // looks at each of ten thousand arguments for options of Qt's own); the
@@ -72,7 +69,10 @@ int main(int argc, char** argv) {
     journal.emplace(fs, QFile::encodeName(platform::StateFolder()), journalMessages,
                     fileops::Journal::WrittenPlans::Forgotten);
   }
-  cli::BatchServices services{fs, settings, journal ? &*journal : nullptr, platform::CurrentDirectory()};
+  // A card's worth of files is made room for at once rather than page by
+  // page as the batch goes.
+  const auto makeRoom = [&parsed] { platform::ReserveHeap(parsed.files.size() * HeapPerFile(parsed)); };
+  cli::BatchServices services{fs, settings, journal ? &*journal : nullptr, platform::CurrentDirectory(), makeRoom};
   cli::BatchCommand command(services, out, err);
   const int status = command.Run(parsed);
   // A journal the window could not read either is set aside and told about.

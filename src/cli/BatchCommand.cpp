@@ -75,12 +75,14 @@ int BatchCommand::Run(const BatchArguments& args) {
     case Action::Name: {
       GroupFiles(args.files);
       ReadAhead(args);
+      MakeRoom();
       const int status = AllThere(true) ? RunName(args) : kFailed;
       // The process ends right after: no file may still be being read then.
       tokens_.StopReadingAhead();
       return status;
     }
     case Action::Replace:
+      MakeRoom();
       GroupFiles(args.files);
       return AllThere(false) ? RunReplace(args) : kFailed;
     case Action::History:
@@ -91,6 +93,10 @@ int BatchCommand::Run(const BatchArguments& args) {
       break;
   }
   return Fail(texts::kNoAction);
+}
+
+void BatchCommand::MakeRoom() {
+  if (services_.makeRoom) services_.makeRoom();
 }
 
 int BatchCommand::Fail(const QString& line) {

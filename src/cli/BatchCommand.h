@@ -2,6 +2,7 @@
 
 #include <QSet>
 #include <QTextStream>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -30,6 +31,9 @@ struct BatchServices {
   const core::SettingsRecord& settings;
   fileops::Journal* journal;     // null: nothing is recorded, no history
   QByteArray currentDirectory;   // ends in '/'; relative FILE arguments start here
+  // Makes room for the run's memory, if given. Called once the files'
+  // reading ahead has begun, so that the two go on side by side.
+  std::function<void()> makeRoom;
 };
 
 // renvale-batch: runs the window's batch rename or search and replace over
@@ -68,6 +72,7 @@ class BatchCommand {
     QByteArray name;
   };
 
+  void MakeRoom();
   void GroupFiles(const std::vector<QByteArray>& files);
   bool AllThere(bool keepListing);
   Place PlaceOf(const QByteArray& given) const;

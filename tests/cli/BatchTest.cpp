@@ -85,7 +85,7 @@ class BatchRun : public ::testing::Test {
     err.clear();
     QTextStream outStream(&out);
     QTextStream errStream(&err);
-    return BatchCommand(BatchServices{fs, settings, &journal, card}, outStream, errStream).Run(ParseBatchArguments(words));
+    return BatchCommand(BatchServices{fs, settings, &journal, card, {}}, outStream, errStream).Run(ParseBatchArguments(words));
   }
 
   QTemporaryDir dir;
