@@ -3,9 +3,9 @@
 #include <QHash>
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <string_view>
 #include <thread>
-#include <cstdint>
 #include <unordered_map>
 
 #include "core/AsciiFoldedName.h"

@@ -163,9 +163,8 @@ bool HasMarker(const std::vector<Piece>& pieces) {
 // batch formats two short texts for every file.
 class Text {
  public:
-  void append(QChar c) { chars_.append(c); }
-  void append(QStringView text) { chars_.append(text.data(), text.size()); }
-  void append(const QChar* chars, qsizetype count) { chars_.append(chars, count); }
+  void Append(QChar c) { chars_.append(c); }
+  void Append(QStringView text) { chars_.append(text.data(), text.size()); }
   QStringView View() const { return {chars_.constData(), chars_.size()}; }
 
  private:
@@ -183,7 +182,7 @@ void AppendNumber(Text* out, int n, int width = 1) {
     value /= 10;
   } while (value != 0 && at > 1);
   while (kMost - at < width && at > 0) digits[--at] = u'0';
-  out->append(reinterpret_cast<const QChar*>(digits + at), kMost - at);
+  out->Append(QStringView(digits + at, kMost - at));
 }
 
 int WeekOfYear(const QDate& d) {
@@ -208,14 +207,14 @@ struct Moment {
 
 void AppendMarker(Text* out, const Piece& p, bool pm) {
   if (p.code == Code::AmPmLocale) {
-    out->append(pm ? u"PM" : u"AM");
+    out->Append(pm ? u"PM" : u"AM");
     return;
   }
   const bool lower = p.text.at(0).isLower();
   if (p.code == Code::AP) {
-    out->append(lower ? (pm ? u'p' : u'a') : (pm ? u'P' : u'A'));
+    out->Append(lower ? (pm ? u'p' : u'a') : (pm ? u'P' : u'A'));
   } else {
-    out->append(lower ? (pm ? u"pm" : u"am") : (pm ? u"PM" : u"AM"));
+    out->Append(lower ? (pm ? u"pm" : u"am") : (pm ? u"PM" : u"AM"));
   }
 }
 
@@ -268,7 +267,7 @@ void AppendDate(Text* out, const Piece& p, const Moment& m) {
     case Code::Day: return AppendNumber(out, m.day);
     case Code::Day2: return AppendNumber(out, m.day, 2);
     case Code::WeekdayShort:
-    case Code::WeekdayLong: out->append(EnglishName(p.code, d.dayOfWeek())); return;
+    case Code::WeekdayLong: out->Append(EnglishName(p.code, d.dayOfWeek())); return;
     case Code::ShortDate: return AppendBuiltin(out, kShortDate, m);
     case Code::LongDate: return AppendBuiltin(out, kLongDate, m);
     case Code::Weekday: return AppendNumber(out, d.dayOfWeek() % 7 + 1);
@@ -276,7 +275,7 @@ void AppendDate(Text* out, const Piece& p, const Moment& m) {
     case Code::Month: return AppendNumber(out, m.month);
     case Code::Month2: return AppendNumber(out, m.month, 2);
     case Code::MonthShort:
-    case Code::MonthLong: out->append(EnglishName(p.code, m.month)); return;
+    case Code::MonthLong: out->Append(EnglishName(p.code, m.month)); return;
     case Code::Quarter: return AppendNumber(out, (m.month - 1) / 3 + 1);
     case Code::DayOfYear: return AppendNumber(out, d.dayOfYear());
     case Code::Year2: return AppendNumber(out, m.year % 100, 2);
@@ -289,14 +288,14 @@ void AppendGeneral(Text* out, const Moment& m) {
   const bool withDate = m.date != kZeroDate;
   if (withDate) AppendBuiltin(out, kShortDate, {m.date, m.time, false});
   if (m.time == QTime(0, 0)) return;
-  if (withDate) out->append(u' ');
+  if (withDate) out->Append(u' ');
   AppendBuiltin(out, m.twelveHour ? kTime12 : kTime24, m);
 }
 
 void Append(Text* out, const Piece& p, const Moment& m) {
   const QTime& t = m.time;
   switch (p.code) {
-    case Code::Literal: out->append(p.text); return;
+    case Code::Literal: out->Append(p.text); return;
     case Code::Hour: return AppendNumber(out, DisplayHour(m));
     case Code::Hour2: return AppendNumber(out, DisplayHour(m), 2);
     case Code::Minute: return AppendNumber(out, t.minute());

@@ -85,7 +85,8 @@ class BatchRun : public ::testing::Test {
     err.clear();
     QTextStream outStream(&out);
     QTextStream errStream(&err);
-    return BatchCommand(BatchServices{fs, settings, &journal, card, {}}, outStream, errStream).Run(ParseBatchArguments(words));
+    const BatchServices services{fs, settings, &journal, card, {}};
+    return BatchCommand(services, outStream, errStream).Run(ParseBatchArguments(words));
   }
 
   QTemporaryDir dir;
