@@ -30,15 +30,22 @@ UniqueFd OpenLeavingAccessTime(int dirFd, const QByteArray& path, int flags) {
   return UniqueFd(::openat(dirFd, path.constData(), flags));
 }
 
-}  // namespace
-
 // Never waits: open() on a named pipe waits for a writer that may never
-// come, and a device or a socket has no contents to read. The file stays in
+// come, and a socket has no contents to read. The file stays in
 // non-blocking mode: Linux ignores that flag for a regular file's reads
 // (open(2)), and clearing it would cost two calls on every file a batch reads.
+int OpenForReading(int dirFd, const QByteArray& path, UniqueFd* fd) {
+  *fd = OpenLeavingAccessTime(dirFd, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+  if (fd->valid()) return kNoError;
+  return errno == ENXIO ? kNoContents : ErrorNumberFromErrno(errno);
+}
+
+}  // namespace
+
+// A device has no contents to read either.
 int OpenRegularFileAt(int dirFd, const QByteArray& path, UniqueFd* fd, struct stat* st) {
-  UniqueFd opened = OpenLeavingAccessTime(dirFd, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-  if (!opened.valid()) return errno == ENXIO ? kNoContents : ErrorNumberFromErrno(errno);
+  UniqueFd opened;
+  if (const int err = OpenForReading(dirFd, path, &opened); err != kNoError) return err;
   if (::fstat(opened.get(), st) != 0) return ErrorNumberFromErrno(errno);
   if (S_ISDIR(st->st_mode)) return ErrorNumberFromErrno(EISDIR);
   if (!S_ISREG(st->st_mode)) return kNoContents;
@@ -59,8 +66,8 @@ int OpenReadableFileAt(int dirFd, const QByteArray& path, std::unique_ptr<Readab
 
 int OpenContentsAt(int dirFd, const QByteArray& path, std::unique_ptr<ReadableFile>* file) {
   file->reset();
-  UniqueFd fd = OpenLeavingAccessTime(dirFd, path, O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-  if (!fd.valid()) return errno == ENXIO ? kNoContents : ErrorNumberFromErrno(errno);
+  UniqueFd fd;
+  if (const int err = OpenForReading(dirFd, path, &fd); err != kNoError) return err;
   *file = std::make_unique<PosixReadableFile>(std::move(fd));
   return kNoError;
 }

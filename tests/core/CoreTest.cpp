@@ -391,6 +391,8 @@ TEST(TokenExpansion, SpellingsOrderAndValuesAskedFor) {
       {individual, "%ORIGFN% %origfn% %OrigFN%.jpg", "IMG_1 IMG_1 %OrigFN%.jpg", {Token::OrigFn}},
       // A mixed-case series token is found, so a number is consumed, yet it stays.
       {individual, "a %Series%", "a %Series%", {Token::Series}},
+      // The same text on a button right after: there nothing is found.
+      {button, "a %Series%", "a %Series%", {}},
       // So is one whose letters only fold to the token's: the long s and the Kelvin sign.
       {individual, "%\u017FERIES%", "%\u017FERIES%", {Token::Series}},
       {batch, "%TRAC\u212A%", "%TRAC\u212A%", {Token::Track}},

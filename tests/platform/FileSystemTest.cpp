@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 #include <fcntl.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <csignal>
+#include <cstring>
 
 #include "RawFiles.h"
 #include "platform/AttributeLetters.h"
@@ -14,6 +17,7 @@
 #include "platform/FileCopy.h"
 #include "platform/FileSystem.h"
 #include "platform/NoReplaceRename.h"
+#include "platform/UniqueFd.h"
 
 namespace renvale::test {
 namespace {
@@ -149,14 +153,21 @@ TEST(FileSystemWholeFiles, WriteReadAndReadAt) {
   EXPECT_EQ(fs.OpenForRead(folder / "absent", &file), platform::kFileNotFound);
   EXPECT_EQ(file, nullptr);
   EXPECT_EQ(fs.OpenForRead(folder.path(), &file), platform::kErrnoBase + EISDIR);
-  // Opening a pipe must not wait for its writer; neither it nor a device has contents.
+  // Opening a pipe must not wait for its writer; neither it nor a socket
+  // nor a device has contents.
   ASSERT_EQ(::mkfifo((folder / "pipe").constData(), 0644), 0);
-  for (const QByteArray& path : {folder / "pipe", QByteArray("/dev/zero")}) {
+  const platform::UniqueFd socket(::socket(AF_UNIX, SOCK_STREAM, 0));
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  std::strncpy(address.sun_path, (folder / "sock").constData(), sizeof address.sun_path - 1);
+  ASSERT_EQ(::bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  for (const QByteArray& path : {folder / "pipe", folder / "sock", QByteArray("/dev/zero")}) {
     EXPECT_EQ(fs.OpenForRead(path, &file), platform::kNoContents) << path.constData();
     EXPECT_EQ(fs.ReadWholeFile(path, 8, &contents), platform::kNoContents) << path.constData();
   }
   // Opened for its contents alone, the pipe says so at its first read.
   const std::unique_ptr<platform::ReadableFolder> held = fs.HoldFolder(folder.path());
+  EXPECT_EQ(held->OpenContents("sock", &file), platform::kNoContents);
   ASSERT_EQ(held->OpenContents("pipe", &file), 0);
   platform::FileInfo identity;
   EXPECT_FALSE(file->Identity(&identity));
