@@ -330,12 +330,6 @@ DateTimePicture::DateTimePicture(const QString& picture) {
   compiled_ = std::move(compiled);
 }
 
-void DateTimePicture::AppendTo(QString* out, const QDate& date, const QTime& time) const {
-  Text text;
-  AppendPieces(&text, compiled_->pieces, {date, time, compiled_->twelveHour});
-  out->append(text.View());
-}
-
 QString DateTimePicture::Format(const QDate& date, const QTime& time) const {
   Text text;
   AppendPieces(&text, compiled_->pieces, {date, time, compiled_->twelveHour});

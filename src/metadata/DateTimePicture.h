@@ -35,7 +35,6 @@ class DateTimePicture {
   explicit DateTimePicture(const QString& picture);
 
   QString Format(const QDate& date, const QTime& time) const;
-  void AppendTo(QString* out, const QDate& date, const QTime& time) const;
 
   struct Compiled;
 
