@@ -27,10 +27,16 @@ QString StatusWord(OutputRow::Status status) {
 
 }  // namespace
 
-QString PlainLine(const OutputRow& row) {
-  QString line = platform::FileName::NameToText(row.given) + texts::kArrow + row.newName;
-  for (const QString& note : row.notes) line += QLatin1Char('\n') + texts::kNoteIndent + note;
-  return line;
+void AppendPlainLine(const OutputRow& row, QString* text) {
+  platform::FileName::AppendNameText(row.given, text);
+  *text += texts::kArrow;
+  *text += row.newName;
+  for (const QString& note : row.notes) {
+    *text += QLatin1Char('\n');
+    *text += texts::kNoteIndent;
+    *text += note;
+  }
+  *text += QLatin1Char('\n');
 }
 
 QString JsonLine(const OutputRow& row) {

@@ -17,8 +17,9 @@ struct OutputRow {
   Status status = Status::Planned;
 };
 
-// "old → new" with a note per line beneath it, for people.
-QString PlainLine(const OutputRow& row);
+// "old → new" with a note per line beneath it, for people, each line
+// ended, added to the end of `text`.
+void AppendPlainLine(const OutputRow& row, QString* text);
 // The same as one JSON object on one line, for scripts.
 QString JsonLine(const OutputRow& row);
 

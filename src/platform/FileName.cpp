@@ -60,28 +60,35 @@ bool IsAscii(const QByteArray& bytes) {
 }  // namespace
 
 QString FileName::NameToText(const QByteArray& name) {
-  if (IsAscii(name)) return QString::fromLatin1(name);
+  QString text;
+  text.reserve(name.size());
+  AppendNameText(name, &text);
+  return text;
+}
+
+void FileName::AppendNameText(const QByteArray& name, QString* text) {
+  if (IsAscii(name)) {
+    text->append(QLatin1StringView(name));
+    return;
+  }
   const auto* s = reinterpret_cast<const unsigned char*>(name.constData());
   const qsizetype size = name.size();
-  QString text;
-  text.reserve(size);
   for (qsizetype at = 0; at < size;) {
     if (s[at] < 0x80) {
-      text.append(QLatin1Char(static_cast<char>(s[at++])));
+      text->append(QLatin1Char(static_cast<char>(s[at++])));
       continue;
     }
     char32_t c = 0;
     const int length = ValidSequence(s + at, size - at, &c);
     if (length > 0 && !IsEscape(c)) {
-      AppendCodePoint(&text, c);
+      AppendCodePoint(text, c);
       at += length;
       continue;
     }
     // A stray byte, or the first byte of a character the escape uses: the
     // sequence's other bytes are stray bytes too and follow one by one.
-    text.append(QChar(static_cast<char16_t>(kEscapeBase + s[at++])));
+    text->append(QChar(static_cast<char16_t>(kEscapeBase + s[at++])));
   }
-  return text;
 }
 
 QByteArray FileName::TextToName(QStringView text) {

@@ -22,6 +22,9 @@ struct FileName {
   bool operator==(const FileName& other) const = default;
 
   static QString NameToText(const QByteArray& name);
+  // The same added to the end of `text`, for a list of many names that is
+  // put together as one text.
+  static void AppendNameText(const QByteArray& name, QString* text);
   static QByteArray TextToName(QStringView text);
 };
 
