@@ -40,7 +40,7 @@ QString MetadataTokenSource::ExifValue(const QByteArray& folder, const platform:
   switch (token) {
     case core::Token::Date: return cached_.date;
     case core::Token::Time: return cached_.time;
-    case core::Token::DateTime: return cached_.dateTime;
+    case core::Token::DateTime: return cached_.DateTime();
     case core::Token::Serial: return cached_.serial;
     default: return {};
   }

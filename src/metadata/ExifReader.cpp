@@ -85,7 +85,10 @@ void ExifReader::SetSystemError(const char* text, int errorNumber) {
 
 QString ExifReader::Tag(const QString& name) const {
   ExifTag tag;
-  if (!ExifTagTable::FromName(name, &tag)) return {};
+  return ExifTagTable::FromName(name, &tag) ? Tag(tag) : QString();
+}
+
+QString ExifReader::Tag(ExifTag tag) const {
   const ExifRawValue* value = tags_.Get(tag);
   return value == nullptr ? QString() : ExifValueText::Format(tag, *value);
 }

@@ -26,6 +26,8 @@ class ExifReader {
 
   // The value of one of the sixteen tag names as text; empty when absent.
   QString Tag(const QString& name) const;
+  // The same for a tag the caller knows by itself rather than by name.
+  QString Tag(ExifTag tag) const;
   // Empty after a good load; ends in "not found." when the file has no EXIF;
   // any other text when the file is damaged or unreadable.
   QString Status() const;

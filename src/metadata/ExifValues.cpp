@@ -21,8 +21,8 @@ bool TagsOf(const ExifReader& reader, bool loaded, FileTags* tags, platform::Fil
             bool* identityKnown) {
   if (identityKnown != nullptr) *identityKnown = identity != nullptr && reader.OpenedIdentity(identity);
   if (!loaded) return false;
-  tags->dateTimeOriginal = reader.Tag(texts::kTagDateTimeOriginal);
-  tags->serial = reader.Tag(texts::kTagImageNumber);
+  tags->dateTimeOriginal = reader.Tag(ExifTag::DateTimeOriginal);
+  tags->serial = reader.Tag(ExifTag::ImageNumber);
   return true;
 }
 
@@ -70,9 +70,7 @@ ExifTokenValues ValuesOfTags(platform::FileSystem& fs, const QByteArray& folder,
   const DatedExposure dated = DatedExposureTime(fs, folder, rawName, tags.dateTimeOriginal);
   const QString& when = dated.when;
   values.dateOrigin = dated.origin;
-  if (ExifDateAndTimeTexts(when, formats.date, formats.time, &values.date, &values.time)) {
-    values.dateTime = values.date + u' ' + values.time;
-  }
+  values.dated = ExifDateAndTimeTexts(when, formats.date, formats.time, &values.date, &values.time);
   return values;
 }
 

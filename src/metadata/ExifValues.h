@@ -46,11 +46,14 @@ QString ExifTokenValue(const ExifFile& file, const QString& token, const ExifDat
 // after a reader error (already shown), and every value is then empty.
 struct ExifTokenValues {
   bool ok = false;
+  bool dated = false;  // date and time hold a real date's texts
   QString date;
   QString time;
-  QString dateTime;
   QString serial;
   DateOrigin dateOrigin = DateOrigin::None;
+  // Put together only when a name asks for it: most names hold the date
+  // and the time apart, if at all.
+  QString DateTime() const { return dated ? date + u' ' + time : QString(); }
 };
 ExifTokenValues ReadExifTokenValues(const ExifFile& file, const ExifDateFormats& formats);
 // The same without showing anything: a reader error's text ("EXIF Error: "
