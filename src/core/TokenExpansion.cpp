@@ -106,9 +106,28 @@ TokenSet FoundTokensOfName(const QString& name, Detection detection) {
   return kept.found;
 }
 
+// A name's first and last letters, as far as a search without regard to
+// case goes: beyond ASCII a character may fold to a letter.
+bool MayEndName(char16_t c) { return c >= 0x80 || (AsciiLower(c) >= u'a' && AsciiLower(c) <= u'z'); }
+
+// A token is a "%", a name of letters (and the blank of "%DATE TIME%"),
+// and a "%". A token made by a replacement holds the whole value, so a
+// value with a character no name holds, and no "%", makes none: a date
+// or a series number.
+bool MakesNoToken(const QString& value) {
+  bool foreign = false;
+  for (const QChar c : value) {
+    if (c == u'%') return false;
+    foreign = foreign || !(MayEndName(c.unicode()) || c == u' ');
+  }
+  return foreign;
+}
+
 // What QString::replace does for a spelling, in place and without building
-// a matcher for each call. False when the spelling is not there.
-bool ReplaceSpelling(QString* text, const QString& spelling, const QString& value) {
+// a matcher for each call. False when the spelling is not there. `touched`
+// is set where a letter stands right before or after a replacement: a
+// token that shared a "%" with the spelling may be broken there.
+bool ReplaceSpelling(QString* text, const QString& spelling, const QString& value, bool* touched) {
   const qsizetype length = spelling.size();
   const QChar* wanted = spelling.constData();
   bool found = false;
@@ -117,13 +136,16 @@ bool ReplaceSpelling(QString* text, const QString& spelling, const QString& valu
     const qsizetype last = text->size() - length;
     while (at <= last && (chars[at] != wanted[0] || !std::equal(wanted + 1, wanted + length, chars + at + 1))) ++at;
     if (at > last) return found;
+    *touched = *touched || (at > 0 && MayEndName(chars[at - 1].unicode())) ||
+               (at < last && MayEndName(chars[at + length].unicode()));
     text->replace(at, length, value);
     found = true;
   }
 }
 
 // A replacement may bring a spelling in with its value, or make or break
-// one across its edges, so the text is searched again after each.
+// one across its edges, so the text is searched again after each, unless
+// it can have done neither.
 QString Expand(QString text, std::initializer_list<Step> steps, Detection detection,
                const TokenValueFunction& valueOf) {
   TokenSet found = FoundTokensOfName(text, detection);
@@ -132,9 +154,13 @@ QString Expand(QString text, std::initializer_list<Step> steps, Detection detect
   for (const Step* step = steps.begin(); step != steps.end(); ++step) {
     if ((found & Bit(step->token)) == 0) continue;
     const QString value = valueOf(step->token);
-    bool changed = ReplaceSpelling(&text, TokenUpper(step->token), value);
-    changed |= ReplaceSpelling(&text, step->replaceLower ? TokenLower(step->token) : TokenUpper(step->token), value);
-    if (changed && step + 1 != steps.end()) found = FoundTokens(text, detection);
+    bool touched = false;
+    bool changed = ReplaceSpelling(&text, TokenUpper(step->token), value, &touched);
+    changed |= ReplaceSpelling(&text, step->replaceLower ? TokenLower(step->token) : TokenUpper(step->token), value,
+                               &touched);
+    if (changed && step + 1 != steps.end() && (touched || !MakesNoToken(value))) {
+      found = FoundTokens(text, detection);
+    }
   }
   return text;
 }
