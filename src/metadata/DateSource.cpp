@@ -15,6 +15,16 @@ namespace {
 
 constexpr qsizetype kExtensionLength = 4;
 
+// `text` from `origin` as the exposure date, read once; false, with `out`
+// left alone, unless it is a real date and time.
+bool TakeIfReal(const QString& text, DateOrigin origin, DatedExposure* out) {
+  QDate date;
+  QTime time;
+  if (!ReadExifDateTime(text, &date, &time)) return false;
+  *out = {text, origin, date, time};
+  return true;
+}
+
 }  // namespace
 
 QByteArray ThmCompanionName(platform::FileSystem& fs, const QByteArray& folder,
@@ -52,26 +62,26 @@ QString ExposureDateTime(platform::FileSystem& fs, const QByteArray& folder,
 
 DatedExposure DatedExposureTime(platform::FileSystem& fs, const QByteArray& folder,
                                 const QByteArray& rawName, const QString& dateTimeOriginal) {
+  DatedExposure dated;
   // A picture dated by its EXIF needs no path: most of a batch returns here.
   const bool video = VideoDateReader::IsVideoName(rawName);
-  if (!video && IsRealExifDateTime(dateTimeOriginal)) return {dateTimeOriginal, DateOrigin::ExifOriginal};
+  if (!video && TakeIfReal(dateTimeOriginal, DateOrigin::ExifOriginal, &dated)) return dated;
   const QByteArray path = platform::JoinPath(folder, rawName);
-  if (video) {
-    const QString recorded = VideoDateReader::ReadFile(fs, path);
-    if (IsRealExifDateTime(recorded)) return {recorded, DateOrigin::VideoContainer};
-  }
-  if (IsRealExifDateTime(dateTimeOriginal)) return {dateTimeOriginal, DateOrigin::ExifOriginal};
+  if (video && TakeIfReal(VideoDateReader::ReadFile(fs, path), DateOrigin::VideoContainer, &dated)) return dated;
+  if (video && TakeIfReal(dateTimeOriginal, DateOrigin::ExifOriginal, &dated)) return dated;
   const QByteArray scannedName = ThmCompanionName(fs, folder, rawName);
   const QByteArray head = ReadFileHead(fs, platform::JoinPath(folder, scannedName), kFileHeadLength);
   const QString scanned = ScanDateInHead(head.constData(), head.size());
-  if (IsRealExifDateTime(scanned)) {
-    return {scanned, scannedName == rawName ? DateOrigin::FileHead : DateOrigin::ThmPartner};
+  if (TakeIfReal(scanned, scannedName == rawName ? DateOrigin::FileHead : DateOrigin::ThmPartner, &dated)) {
+    return dated;
   }
   const QString created = FileCreatedText(fs, path);
   const QString modified = FileModifiedText(fs, path);
   const QString oldest = OlderDateTimeText(created, modified);
   if (oldest.isEmpty()) return {};
-  return {oldest, oldest == created ? DateOrigin::Created : DateOrigin::Modified};
+  const DateOrigin origin = oldest == created ? DateOrigin::Created : DateOrigin::Modified;
+  if (!TakeIfReal(oldest, origin, &dated)) dated = {oldest, origin, {}, {}};
+  return dated;
 }
 
 QString DateOriginText(DateOrigin origin) {

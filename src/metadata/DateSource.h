@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDate>
 #include <QString>
+#include <QTime>
 
 namespace renvale::platform {
 class FileSystem;
@@ -42,6 +44,10 @@ enum class DateOrigin { None, VideoContainer, ExifOriginal, FileHead, ThmPartner
 struct DatedExposure {
   QString when;  // as ExposureDateTime gives it
   DateOrigin origin = DateOrigin::None;
+  // `when` as read on the way, both invalid unless it is a real date and
+  // time: a batch formats them without reading the text again.
+  QDate date;
+  QTime time;
 };
 DatedExposure DatedExposureTime(platform::FileSystem& fs, const QByteArray& folder,
                                 const QByteArray& rawName, const QString& dateTimeOriginal);

@@ -110,9 +110,14 @@ bool ExifDateAndTimeTexts(const QString& text, const QString& dateFormat, const 
   QDate date;
   QTime time;
   if (!ReadExifDateTime(text, &date, &time)) return false;
+  ExifDateAndTimeTexts(date, time, dateFormat, timeFormat, dateText, timeText);
+  return true;
+}
+
+void ExifDateAndTimeTexts(const QDate& date, const QTime& time, const QString& dateFormat,
+                          const QString& timeFormat, QString* dateText, QString* timeText) {
   *dateText = FormatDateTimePicture(dateFormat, date, QTime(0, 0));
   *timeText = FormatDateTimePicture(timeFormat, kZeroDate, time);
-  return true;
 }
 
 QString ExifDateTimeText(const QString& text, int form, const QString& dateFormat,

@@ -45,5 +45,8 @@ QString ExifDateTimeText(const QString& text, int form, const QString& dateForma
 // the outputs left alone, for a text that is not a real date and time.
 bool ExifDateAndTimeTexts(const QString& text, const QString& dateFormat, const QString& timeFormat,
                           QString* dateText, QString* timeText);
+// The same for a real date and time already read.
+void ExifDateAndTimeTexts(const QDate& date, const QTime& time, const QString& dateFormat,
+                          const QString& timeFormat, QString* dateText, QString* timeText);
 
 }  // namespace renvale::metadata

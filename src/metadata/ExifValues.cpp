@@ -68,9 +68,9 @@ ExifTokenValues ValuesOfTags(platform::FileSystem& fs, const QByteArray& folder,
   values.ok = true;
   values.serial = tags.serial;
   const DatedExposure dated = DatedExposureTime(fs, folder, rawName, tags.dateTimeOriginal);
-  const QString& when = dated.when;
   values.dateOrigin = dated.origin;
-  values.dated = ExifDateAndTimeTexts(when, formats.date, formats.time, &values.date, &values.time);
+  values.dated = dated.date.isValid() && dated.time.isValid();
+  if (values.dated) ExifDateAndTimeTexts(dated.date, dated.time, formats.date, formats.time, &values.date, &values.time);
   return values;
 }
 
