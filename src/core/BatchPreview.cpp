@@ -83,13 +83,16 @@ void NoteOtherRows(const BatchNaming& naming, const Facts& facts, size_t row, QS
 void NoteFolder(const NamedFile& named, const Facts& facts, const FileRenamer& renamer, size_t row,
                 QStringList* notes) {
   const QByteArray& target = facts.targets[row];
+  // Every spelling of the name in the folder, the very one included: one
+  // look-up for both notes.
+  const QByteArrayList spellings = renamer.Index().Spellings(target);
   const auto leaver = facts.leaving.constFind(target);
   if (leaver != facts.leaving.cend() && *leaver != row) {
     *notes << texts::kNoteWaitsFor.arg(Shown(target));
-  } else if (renamer.Index().Contains(target) && target != named.file.raw) {
+  } else if (target != named.file.raw && spellings.contains(target)) {
     *notes << texts::kNoteExistingFile;
   }
-  for (const QByteArray& spelling : renamer.Index().Spellings(target)) {
+  for (const QByteArray& spelling : spellings) {
     if (spelling == target || spelling == named.file.raw || facts.leaving.contains(spelling)) continue;
     *notes << texts::kNoteLetterCase.arg(Shown(spelling));
     break;
