@@ -30,10 +30,12 @@ class ReadableFile {
  public:
   virtual ~ReadableFile() = default;
   // The size in bytes, or -1 when it cannot be had. It may be taken on the
-  // first call; from then on reads stop there.
+  // first call; from then on reads stop there. Like ReadAt, a -1 leaves the
+  // reason in errno: ENODEV for a file that is no regular file (a device, a
+  // pipe), which a reader takes as "no contents" rather than as a failure.
   virtual qint64 Size() const = 0;
   // Reads up to `length` bytes at `offset` into `buffer`; returns the count
-  // read (0 at or past the end) or -1 on error.
+  // read (0 at or past the end) or -1 with errno set on error.
   virtual qint64 ReadAt(qint64 offset, char* buffer, qint64 length) = 0;
   // The file as its opening found it (isDir, size, modifiedNs, device and
   // inode, as StatIdentity gives them); false where that is not known.
