@@ -398,8 +398,9 @@ TEST(TokenExpansion, SpellingsOrderAndValuesAskedFor) {
       {batch, "%TRAC\u212A%", "%TRAC\u212A%", {Token::Track}},
       {individual, "%ORIG", "%ORIG", {}},
       {individual, "%date time% %DATE TIME%", "2004-05-01 10-11-12 2004-05-01 10-11-12", {Token::DateTime}},
-      // Two tokens sharing a percent sign: the date goes first and takes it.
+      // Two tokens sharing a percent sign: the date goes first and takes it, on either side.
       {individual, "%DATE%TIME%", "2004-05-01TIME%", {Token::Date}},
+      {individual, "%TIME%DATE%", "%TIME2004-05-01", {Token::Date}},
       {individual, "%SERIES% %TIME% %DATE% %TITLE%", "07 10-11-12 2004-05-01 %TITLE%",
        {Token::Date, Token::Time, Token::Series}},
       {batch, "%series%%SERIAL%%date time%%TIME%%DATE%%ORIGFN%%track%%ALBUM%%artist%%TITLE%",
@@ -421,6 +422,9 @@ TEST(TokenExpansion, SpellingsOrderAndValuesAskedFor) {
   ValueLog own;
   own.values[Token::Title] = "A%TITLE%";
   EXPECT_EQ(core::ExpandBatchTokens("%TITLE% %title%", own.Function()), "A%TITLE% A%TITLE%");
+  // A value of letters alone may make a later token with the percent signs around it.
+  own.values[Token::OrigFn] = "TIME";
+  EXPECT_EQ(core::ExpandIndividualTokens("%%ORIGFN%%", own.Function()), "10-11-12");
 }
 
 }  // namespace
