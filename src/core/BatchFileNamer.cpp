@@ -21,19 +21,16 @@ BatchFileNamer::BatchFileNamer(const RenameContext& context, SeriesBox& box, con
   }
 }
 
-// Made in one piece: this runs for every file of a card.
-QString BatchFileNamer::Unexpanded(const QString& shown) const {
+// A card's files mostly share one extension: the text made for the last
+// one is handed out again, shared, rather than made anew for every file.
+QString BatchFileNamer::Unexpanded(const QString& shown) {
   const QStringView extension = ExtensionOf(shown);
   if (extension.isEmpty()) return base_;
-  QString unexpanded;
-  unexpanded.reserve(base_.size() + extension.size());
-  unexpanded += base_;
-  if (context_.settings.forceLowerCaseExtension) {
-    unexpanded += extension.toString().toLower();
-  } else {
-    unexpanded += extension;
+  if (extension != lastExtension_) {
+    lastExtension_ = extension.toString();
+    lastUnexpanded_ = base_ + (context_.settings.forceLowerCaseExtension ? lastExtension_.toLower() : lastExtension_);
   }
-  return unexpanded;
+  return lastUnexpanded_;
 }
 
 // The extension runs from the last dot, so the raw name ends in ".mp3"

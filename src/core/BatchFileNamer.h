@@ -26,7 +26,7 @@ class BatchFileNamer {
 
   // The base followed by the file's extension, tokens still in it;
   // `shown` is file.Display(), which the caller has at hand.
-  QString Unexpanded(const QString& shown) const;
+  QString Unexpanded(const QString& shown);
   // The new name of `file` made from Unexpanded(shown).
   QString Expand(const platform::FileName& file, const QString& shown, const QString& unexpanded);
   // Whether the last Expand took a series number.
@@ -44,6 +44,8 @@ class BatchFileNamer {
   std::optional<RandomSeriesPool> pool_;
   Id3Values id3_;  // of the last ".mp3"; other files keep them, as the menu's values do
   bool seriesTaken_ = false;
+  QString lastExtension_;   // of the last file with one
+  QString lastUnexpanded_;  // what Unexpanded gave for it
 };
 
 }  // namespace renvale::core
