@@ -34,9 +34,9 @@ namespace {
 // quicker than looking at each file.
 constexpr int kListFrom = 32;
 
-// Characters to make room for per line of a dry run: a camera's name, the
-// arrow and a dated name fit, and a longer line only grows the text.
-constexpr qsizetype kPlainLineRoom = 64;
+// How many characters of a dry run's lines are put together before they
+// go out: as many as the stream holds before it writes.
+constexpr qsizetype kPlainLinesAtOnce = 16384;
 
 bool SameFile(const platform::FileInfo& a, const platform::FileInfo& b) {
   return a.device == b.device && a.inode == b.inode;
@@ -489,14 +489,17 @@ bool BatchCommand::ClashFound(const std::vector<OutputRow>& rows) {
 
 int BatchCommand::Report(const std::vector<OutputRow>& rows, bool dryRun, bool json) {
   bool skipped = false;
-  // A dry run's lines go out as one text: a card's worth of lines written
-  // one by one cost a string and a trip through the stream each.
+  // A dry run's lines go out many at a time: a card's worth of lines
+  // written one by one cost a string and a trip through the stream each.
   QString lines;
-  if (dryRun && !json) lines.reserve(static_cast<qsizetype>(rows.size()) * kPlainLineRoom);
   for (const OutputRow& row : rows) {
     if (json) out_ << JsonLine(row) << '\n';
     if (dryRun) {
       if (!json) AppendPlainLine(row, &lines);
+      if (lines.size() >= kPlainLinesAtOnce) {
+        out_ << lines;
+        lines.resize(0);  // keeps its room for the next lines
+      }
       skipped = skipped || std::any_of(row.notes.begin(), row.notes.end(), IsClashNote);
     } else {
       const bool named = PlainReport::TellOne(json ? nullptr : &out_, port_.lines, row.given, row.status, row.newName);
