@@ -100,6 +100,21 @@ class BatchRun : public ::testing::Test {
   QString out, err;
 };
 
+// A card's worth of lines goes out in pieces: none may be lost or repeated where one piece ends.
+TEST_F(BatchRun, ALongDryRunTellsEveryFileOnceInItsOrder) {
+  std::vector<QByteArray> args{"--name", "Trip %SERIES%", "--dry-run"};
+  QString expected;
+  for (int i = 1; i <= 800; ++i) {
+    const QByteArray name = "f" + QByteArray::number(i) + ".jpg";
+    Make(name);
+    args.push_back(name);
+    expected += QString::fromLatin1(name) + QStringLiteral(" \u2192 Trip ") +
+                QString::number(i).rightJustified(2, u'0') + QStringLiteral(".jpg\n");
+  }
+  EXPECT_EQ(Run(args), kEveryFileNamed);
+  EXPECT_EQ(out, expected);
+}
+
 TEST_F(BatchRun, ADryRunNotesTheClashARunSkipsItUnlessToldToFailAndUndoPutsEverythingBack) {
   Make("a.jpg");
   Make("b.jpg");
