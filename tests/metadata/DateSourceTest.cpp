@@ -9,14 +9,12 @@
 #include <ctime>
 
 #include "metadata/DateSource.h"
-#include "metadata/ExifValues.h"
 #include "metadata/FileDates.h"
 #include "metadata/HeadScan.h"
 #include "metadata/MemoryByteSource.h"
 #include "metadata/VideoDateReader.h"
 #include "support/Bytes.h"
 #include "support/MemoryFileSystem.h"
-#include "support/SampleImages.h"
 #include "support/SampleMedia.h"
 #include "support/SampleRaw.h"
 
@@ -108,15 +106,6 @@ TEST(DateSource, FallsBackFromExifToScanToFileDatesAndSaysWhichWasUsed) {
     EXPECT_EQ(metadata::ExposureDateTime(fs, "/p/", row.name, row.original), row.when) << row.name;
   }
   EXPECT_EQ(metadata::DateOriginText(DateOrigin::ThmPartner), "the THM partner's date");
-  // With no date anywhere, not even a file time, a name's date tokens stay empty, the joined one too.
-  ExifFields camera;
-  camera.make = "Canon";
-  fs.Add("/p/undated.jpg", MakeExifJpeg(&camera));
-  fs.SetTimes("/p/undated.jpg", {}, {});
-  QString error;
-  const auto values = metadata::ReadExifTokenValuesQuietly(fs, "/p/", "undated.jpg", {"yyyy", "hh"}, &error);
-  EXPECT_TRUE(values.ok) << error.toStdString();
-  EXPECT_EQ(values.DateTime(), "");
 }
 
 constexpr quint64 kUnixIn1904 = 2082844800;

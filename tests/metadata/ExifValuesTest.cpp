@@ -72,6 +72,10 @@ TEST_F(ExifValuesTest, TokenValuesOfAPictureWithExif) {
   EXPECT_EQ(Token("exif.jpg", "%date%"), "");
   EXPECT_EQ(Token("noserial.jpg", "%SERIAL%"), "");
   EXPECT_TRUE(messages.messages.empty());
+  // With no date anywhere, not even a file time, the joined date and time stay empty too.
+  fs.SetTimes("/p/plain.jpg", {}, {});
+  QString error;
+  EXPECT_EQ(metadata::ReadExifTokenValuesQuietly(fs, "/p/", "plain.jpg", kFormats, &error).DateTime(), "");
 }
 
 TEST_F(ExifValuesTest, MissingSerialIsWarnedWithTheMessageOfTheMode) {
