@@ -20,9 +20,9 @@ int OpenReadableFileAt(int dirFd, const QByteArray& path, std::unique_ptr<Readab
 
 // The same without asking the file's status. A pipe, a socket or a
 // terminal cannot be read at an offset, so its first read fails with
-// kNoContents, and a folder's with EISDIR. A device reads on without end,
-// so a reader that read a full head asks its size, and that fails with
-// kNoContents.
+// ENODEV, and a folder's with EISDIR. A device reads on without end, so a
+// reader that read a full head asks its size, and that fails with ENODEV
+// too; readers take ENODEV as kNoContents.
 int OpenContentsAt(int dirFd, const QByteArray& path, std::unique_ptr<ReadableFile>* file);
 
 // What StatIdentity tells of a file.
