@@ -1,6 +1,7 @@
 #include "shell/BackgroundTextDocument.h"
 
 #include <QPlainTextDocumentLayout>
+#include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QThread>
@@ -21,6 +22,8 @@ BackgroundTextDocument::~BackgroundTextDocument() {
 }
 
 void BackgroundTextDocument::Append(const QString& text) {
+  // Nothing to add, and the last piece stays the one Continues compares.
+  if (text.isEmpty()) return;
   size_ += text.size();
   last_ = text;
   {
@@ -54,6 +57,7 @@ void BackgroundTextDocument::Fill() {
   document->setUndoRedoEnabled(false);
   {
     QTextCursor end(document.get());
+    QTextBlock made;  // the last line whose layout object is made
     std::unique_lock lock(mutex_);
     for (;;) {
       changed_.wait(lock, [this] { return !pending_.empty() || state_ != State::Filling; });
@@ -65,6 +69,14 @@ void BackgroundTextDocument::Fill() {
       end.beginEditBlock();
       for (const QString& chunk : chunks) end.insertText(chunk);
       end.endEditBlock();
+      // A view that takes the document lays out every line once, and makes
+      // each line's layout object on the way: that is most of the work, and
+      // here it is done on this thread.
+      for (QTextBlock line = made.isValid() ? made.next() : document->firstBlock(); line.isValid();
+           line = line.next()) {
+        line.layout();
+        made = line;
+      }
       lock.lock();
       // Taking is set after the last Append: once it is seen with nothing
       // pending, everything is in.

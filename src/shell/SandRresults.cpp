@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QTextDocument>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "fileops/FileopsTexts.h"
 
@@ -28,7 +29,7 @@ SandRresults::SandRresults(std::unique_ptr<QTextDocument> results, QWidget* pare
   // Made with the dialog's font, which the view has unless a style gives it
   // another.
   if (document->defaultFont() != textResults->font()) document->setDefaultFont(textResults->font());
-  textResults->setDocument(document);
+  results_ = document;
   auto* ok = new QPushButton(texts::kOkButton, this);
   ok->setObjectName(QStringLiteral("Command1"));
   ok->setDefault(true);
@@ -40,6 +41,14 @@ SandRresults::SandRresults(std::unique_ptr<QTextDocument> results, QWidget* pare
   layout->addWidget(textResults, 1);
   layout->addLayout(buttons);
   resize(760, 420);
+}
+
+// The view lays out every line of its document again each time its width
+// changes, which it does twice before it first shows: the results go in
+// once it has its final size, and are laid out once.
+void SandRresults::showEvent(QShowEvent* event) {
+  if (results_ != nullptr) textResults->setDocument(std::exchange(results_, nullptr));
+  QDialog::showEvent(event);
 }
 
 }  // namespace renvale::shell

@@ -17,8 +17,12 @@ class SandRresults : public QDialog {
   // `results`: a document with a plain text layout, which the window takes.
   SandRresults(std::unique_ptr<QTextDocument> results, QWidget* parent);
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
   QPlainTextEdit* textResults = nullptr;
+  QTextDocument* results_ = nullptr;  // shown once the view has its size
 };
 
 }  // namespace renvale::shell

@@ -794,6 +794,7 @@ TEST(BackgroundTextDocument, HoldsEveryPieceInOrderOnTheTakersThread) {
     pieces.Append(piece);
     whole += piece;
   }
+  pieces.Append(QString());  // adds nothing, and leaves the last piece to compare
   EXPECT_TRUE(pieces.Continues(whole + "x"));
   EXPECT_FALSE(pieces.Continues(QString(whole).replace(whole.size() - 3, 1, 'X')));
   EXPECT_FALSE(pieces.Continues(whole.chopped(1)));
