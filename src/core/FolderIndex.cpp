@@ -51,6 +51,11 @@ qsizetype FolderIndex::FindExact(QByteArrayView name, std::uint32_t hash) const 
 
 bool FolderIndex::Contains(QByteArrayView name) const { return FindExact(name, HashOf(name)) >= 0; }
 
+qsizetype FolderIndex::Position(QByteArrayView name) const {
+  const qsizetype at = FindExact(name, HashOf(name));
+  return at < 0 ? -1 : slots_[static_cast<std::size_t>(at)].name;
+}
+
 QByteArrayList FolderIndex::Spellings(QByteArrayView name) const {
   QByteArrayList spellings;
   if (slots_.empty()) return spellings;

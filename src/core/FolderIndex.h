@@ -41,6 +41,9 @@ class FolderIndex {
   bool Contains(QByteArrayView name) const;
   // Every name equal to `name` without regard to ASCII letter case, sorted.
   QByteArrayList Spellings(QByteArrayView name) const;
+  // Where `name` came among the names the index was made from, or -1 when
+  // it is not there. Holds until the index changes.
+  qsizetype Position(QByteArrayView name) const;
   // How many names end in one of the counted suffixes; -1 when none is
   // counted, so that the answer is never taken for "none there".
   qsizetype CountedNames() const { return countedSuffixes_.empty() ? -1 : counted_; }

@@ -72,12 +72,28 @@ class SearchReplace {
   Step NotOverwritten(const platform::FileName& file, const QByteArray& newName, int error);
   Step Failed(int error, bool failureShown);
   Step Cancel();
+  // A line that ends the run, and one about the file whose turn it is.
   void AddLine(const QString& line);
+  void AddFileLine(const QString& line);
+  void MarkLine(size_t file);
+  void PutLinesInListOrder();
+  void PredictResults(const Moves& moves, const core::FileRenamer& renamer);
   void Finish();
 
   const core::RenameContext& context_;
   SearchReplaceView& view_;
+  // Where each line of results_ begins and ends, and the file it is about,
+  // in a run that takes the folder's order.
+  struct Line {
+    size_t file;
+    qsizetype begin, end;
+  };
+
   QString results_;
+  QString predicted_;  // results_ as it will be if every file is renamed
+  bool reordered_ = false;  // the turns are the folder's order
+  std::vector<Line> lines_;
+  size_t turnFile_ = 0;  // the file whose turn it is
   int progress_ = 0;
   int maximum_ = 1;
   bool anyRenamed_ = false;

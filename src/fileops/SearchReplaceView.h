@@ -23,11 +23,14 @@ class SearchReplaceView {
   // Lets pending window events run; may skip the work when called faster
   // than the screen refreshes.
   virtual void ProcessEvents() = 0;
-  // The results of a run that renamed files, once the run is over and
-  // before its closing message, so that the results window is laid out
-  // while the person reads the message: laid out during the run, it would
-  // take processor time from the renames.
+  // The results of a run, so that the results window can be laid out on
+  // the other processor while the renames wait on the disk: as they will be
+  // if every file is renamed, before the first rename, then as they are,
+  // before the closing message. Each text goes on from the one before it,
+  // unless a new run began or the results were withdrawn in between.
   virtual void ResultsReady(const QString& results) { (void)results; }
+  // What was handed is not how the run ended.
+  virtual void ResultsWithdrawn() {}
   // Shows the results window with `results`, modally.
   virtual void ShowResults(const QString& results) = 0;
 };

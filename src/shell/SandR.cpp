@@ -163,9 +163,11 @@ void SandR::ProcessEvents() {
 }
 
 void SandR::ResultsReady(const QString& results) {
-  results_ = std::make_unique<BackgroundTextDocument>(font());
-  results_->Append(results);
+  if (!results_ || !results_->Continues(results)) results_ = std::make_unique<BackgroundTextDocument>(font());
+  results_->Append(results.sliced(results_->Size()));
 }
+
+void SandR::ResultsWithdrawn() { results_.reset(); }
 
 void SandR::ShowResults(const QString& results) {
   std::unique_ptr<BackgroundTextDocument> prepared = std::move(results_);

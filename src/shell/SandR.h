@@ -37,6 +37,7 @@ class SandR : public QDialog, public fileops::SearchReplaceView {
   void ShowProgressNow() override { ShowHeldProgress(); }
   void ProcessEvents() override;
   void ResultsReady(const QString& results) override;
+  void ResultsWithdrawn() override;
   void ShowResults(const QString& results) override;
 
   void reject() override;
@@ -62,7 +63,7 @@ class SandR : public QDialog, public fileops::SearchReplaceView {
   bool running_ = false;
   int heldProgress_ = -1;
   QElapsedTimer sinceEvents_;
-  std::unique_ptr<BackgroundTextDocument> results_;  // the run's results, laid out while its message shows
+  std::unique_ptr<BackgroundTextDocument> results_;  // the run's results, laid out as they come
 };
 
 }  // namespace renvale::shell

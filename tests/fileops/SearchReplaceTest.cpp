@@ -24,11 +24,15 @@ class FakeSearchView : public fileops::SearchReplaceView {
   void SetProgress(int value) override { progress.push_back(value); }
   void ShowProgressNow() override { shownBeforeQuestions.push_back(progress.back()); }
   void ProcessEvents() override {}
+  void ResultsReady(const QString& text) override { handed << text; }
+  void ResultsWithdrawn() override { ++withdrawn; }
   void ShowResults(const QString& text) override { results << text; }
 
   std::vector<bool> running;
   std::vector<int> progress;  // a maximum as its negative
   std::vector<int> shownBeforeQuestions;
+  QStringList handed;
+  int withdrawn = 0;
   QStringList results;
 };
 
@@ -238,14 +242,30 @@ struct PieceCheckingRecorder : core::OperationRecorder {
   std::vector<size_t> pieces;
 };
 
-// 300 files go in pieces of 128 and 172. A refused piece stops the run
-// before its first file, saying whether files were renamed before it.
+// A run in the folder's order asks about a name taken meanwhile, and its
+// line keeps the file's place in the list.
+TEST_F(SearchReplaceRun, ANameTakenMeanwhileKeepsItsLineInPlace) {
+  Make({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg"});
+  Select({"IMG_0.jpg", "IMG_1.jpg", "IMG_2.jpg"});
+  fs.FailRename(Path("Pic_1.jpg"), platform::kFileAlreadyExists);
+  port.Script(MessageAnswer::No);
+  Run({{"IMG", "Pic"}});
+  EXPECT_EQ(port.Texts(), (QStringList{kClash1, kComplete}));
+  EXPECT_EQ(search.results, QStringList{kRenamed0 + kNotRenamed1 + kRenamed2});
+  EXPECT_EQ(search.withdrawn, 1);
+}
+
+// 300 files go in pieces of 128 and 172, in the order the folder lists
+// them, and their results in the list's order. A refused piece stops the
+// run before its first file, saying whether files were renamed before it.
+// The results as if every file were renamed go to the view first, and are
+// withdrawn when the run ends otherwise.
 TEST_F(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
   const QString why = " could not be saved for Undo (No space left on device).";
-  const struct { size_t refused; std::vector<size_t> pieces; int renamed; QString first; } rows[] = {
-      {SIZE_MAX, {128, 172}, 300, kComplete},
-      {1, {128}, 128, "The remaining files were not renamed: the plan of the rest of this operation" + why},
-      {0, {}, 0, "Nothing was changed: the plan of this operation" + why}};
+  const struct { size_t refused; std::vector<size_t> pieces; int renamed; QString first; int withdrawn; } rows[] = {
+      {SIZE_MAX, {128, 172}, 300, kComplete, 0},
+      {1, {128}, 128, "The remaining files were not renamed: the plan of the rest of this operation" + why, 1},
+      {0, {}, 0, "Nothing was changed: the plan of this operation" + why, 1}};
   for (const auto& row : rows) {
     Remake({});
     view.selected.clear();
@@ -253,18 +273,35 @@ TEST_F(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
       view.selected.push_back(platform::FileName{"IMG_" + QByteArray::number(i) + ".jpg"});
       QFile(QString::fromUtf8(Path(view.selected.back().raw))).open(QIODevice::WriteOnly);
     }
+    std::vector<QByteArray> listed;
+    platform::RealFileSystem().ListFiles(session.CurrentFolder, &listed);
     PieceCheckingRecorder recorder;
     recorder.refused = row.refused;
     context.recorder = &recorder;
     port.Clear();
+    search.handed.clear();
+    search.withdrawn = 0;
     Run({{"IMG", "Pic"}});
     EXPECT_EQ(recorder.pieces, row.pieces);
     EXPECT_TRUE(recorder.ended);
-    EXPECT_EQ(Folder().count("Pic_" + QByteArray::number(999 + row.renamed) + ".jpg"), row.renamed > 0 ? 1U : 0U);
-    EXPECT_EQ(Folder().count("IMG_" + QByteArray::number(1000 + row.renamed) + ".jpg"), row.renamed < 300 ? 1U : 0U);
     EXPECT_EQ(port.messages.at(0).text, row.first);
+    const Files left = Folder();
+    QString all, lines;
+    for (const platform::FileName& file : view.selected) {
+      const QByteArray renamed = "Pic" + file.raw.mid(3);
+      const bool early = std::find(listed.begin(), listed.begin() + row.renamed, file.raw) != listed.begin() + row.renamed;
+      EXPECT_EQ(left.count(early ? renamed : file.raw), 1U) << file.raw.toStdString();
+      const QString line = "\n\"" + file.Display() + "\" was renamed to \"" + QString::fromUtf8(renamed) + '"';
+      all += line;
+      if (early) lines += line;
+    }
+    EXPECT_EQ(search.handed.front(), all);
+    EXPECT_EQ(search.withdrawn, row.withdrawn);
+    if (row.renamed > 0) {
+      EXPECT_EQ(search.results.back(), row.renamed < 300 ? lines + "\nThe file renaming operation was cancelled." : lines);
+      EXPECT_EQ(search.handed.back(), search.results.back());
+    }
   }
-  EXPECT_TRUE(search.results[1].endsWith("\nThe file renaming operation was cancelled."));
 }
 
 }  // namespace
