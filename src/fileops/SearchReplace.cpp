@@ -188,7 +188,6 @@ void SearchReplace::Execute(const SearchTerms& terms) {
     return;
   }
   results_.clear();
-  predicted_.clear();
   lines_.clear();
   reordered_ = false;
   anyRenamed_ = false;
@@ -322,12 +321,13 @@ SearchReplace::Step SearchReplace::TakeTurns(const Run& run, size_t begin, size_
 // on the disk; most runs end that way. A file that travels with a selected
 // picture has no line of its own.
 void SearchReplace::PredictResults(const Moves& moves, const core::FileRenamer& renamer) {
+  QString predicted;
   for (const core::RenameMove& move : moves.moves) {
     if (!renamer.Sets().TravelsWithSelectedHead(move.head.from)) {
-      AppendRenamedLine(predicted_, move.head.from, move.head.to);
+      AppendRenamedLine(predicted, move.head.from, move.head.to);
     }
   }
-  if (!predicted_.isEmpty()) view_.ResultsReady(predicted_);
+  if (!predicted.isEmpty()) view_.ResultsReady(predicted);
 }
 
 // A piece that cannot be kept stops the run before any of its files; the
@@ -565,7 +565,6 @@ void SearchReplace::PutLinesInListOrder() {
 
 void SearchReplace::Finish() {
   if (reordered_) PutLinesInListOrder();
-  if (results_ != predicted_) view_.ResultsWithdrawn();
   if (anyRenamed_) view_.ResultsReady(results_);
   context_.messages.Notify(anyRenamed_ ? texts::kRenamingComplete
                                        : texts::kNothingMatched + texts::kLf + texts::kCheckTerms);

@@ -90,7 +90,6 @@ class SearchReplace {
   };
 
   QString results_;
-  QString predicted_;  // results_ as it will be if every file is renamed
   bool reordered_ = false;  // the turns are the folder's order
   std::vector<Line> lines_;
   size_t turnFile_ = 0;  // the file whose turn it is

@@ -26,11 +26,8 @@ class SearchReplaceView {
   // The results of a run, so that the results window can be laid out on
   // the other processor while the renames wait on the disk: as they will be
   // if every file is renamed, before the first rename, then as they are,
-  // before the closing message. Each text goes on from the one before it,
-  // unless a new run began or the results were withdrawn in between.
+  // before the closing message. The second need not go on from the first.
   virtual void ResultsReady(const QString& results) { (void)results; }
-  // What was handed is not how the run ended.
-  virtual void ResultsWithdrawn() {}
   // Shows the results window with `results`, modally.
   virtual void ShowResults(const QString& results) = 0;
 };

@@ -167,8 +167,6 @@ void SandR::ResultsReady(const QString& results) {
   results_->Append(results.sliced(results_->Size()));
 }
 
-void SandR::ResultsWithdrawn() { results_.reset(); }
-
 void SandR::ShowResults(const QString& results) {
   std::unique_ptr<BackgroundTextDocument> prepared = std::move(results_);
   // What was handed before the message is used only where the whole goes on

@@ -37,7 +37,6 @@ class SandR : public QDialog, public fileops::SearchReplaceView {
   void ShowProgressNow() override { ShowHeldProgress(); }
   void ProcessEvents() override;
   void ResultsReady(const QString& results) override;
-  void ResultsWithdrawn() override;
   void ShowResults(const QString& results) override;
 
   void reject() override;

@@ -25,14 +25,12 @@ class FakeSearchView : public fileops::SearchReplaceView {
   void ShowProgressNow() override { shownBeforeQuestions.push_back(progress.back()); }
   void ProcessEvents() override {}
   void ResultsReady(const QString& text) override { handed << text; }
-  void ResultsWithdrawn() override { ++withdrawn; }
   void ShowResults(const QString& text) override { results << text; }
 
   std::vector<bool> running;
   std::vector<int> progress;  // a maximum as its negative
   std::vector<int> shownBeforeQuestions;
   QStringList handed;
-  int withdrawn = 0;
   QStringList results;
 };
 
@@ -252,20 +250,37 @@ TEST_F(SearchReplaceRun, ANameTakenMeanwhileKeepsItsLineInPlace) {
   Run({{"IMG", "Pic"}});
   EXPECT_EQ(port.Texts(), (QStringList{kClash1, kComplete}));
   EXPECT_EQ(search.results, QStringList{kRenamed0 + kNotRenamed1 + kRenamed2});
-  EXPECT_EQ(search.withdrawn, 1);
+}
+
+// Of two files given one name the first in the list takes it, whatever
+// order the folder lists them in, and the second is asked about.
+TEST_F(SearchReplaceRun, OfTwoFilesGivenOneNameTheFirstInTheListTakesIt) {
+  view.selected.clear();
+  for (int i = 0; i < 8; ++i) {
+    for (const char* mark : {"X", "Y"}) {
+      const QByteArray name = "a" + QByteArray::number(i) + mark + ".jpg";
+      platform::RealFileSystem().WriteWholeFile(Path(name), name);
+      view.selected.push_back(platform::FileName{name});
+    }
+    port.Script(MessageAnswer::No);
+  }
+  Run({{"X", ""}, {"Y", ""}});
+  const Files left = Folder();
+  for (int i = 0; i < 8; ++i) EXPECT_EQ(left.at("a" + QByteArray::number(i) + ".jpg"), "a" + QByteArray::number(i) + "X.jpg");
+  EXPECT_EQ(port.messages.size(), 9U);
 }
 
 // 300 files go in pieces of 128 and 172, in the order the folder lists
 // them, and their results in the list's order. A refused piece stops the
 // run before its first file, saying whether files were renamed before it.
-// The results as if every file were renamed go to the view first, and are
-// withdrawn when the run ends otherwise.
+// The results as if every file were renamed go to the view first, then
+// the results as they are.
 TEST_F(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
   const QString why = " could not be saved for Undo (No space left on device).";
-  const struct { size_t refused; std::vector<size_t> pieces; int renamed; QString first; int withdrawn; } rows[] = {
-      {SIZE_MAX, {128, 172}, 300, kComplete, 0},
-      {1, {128}, 128, "The remaining files were not renamed: the plan of the rest of this operation" + why, 1},
-      {0, {}, 0, "Nothing was changed: the plan of this operation" + why, 1}};
+  const struct { size_t refused; std::vector<size_t> pieces; int renamed; QString first; } rows[] = {
+      {SIZE_MAX, {128, 172}, 300, kComplete},
+      {1, {128}, 128, "The remaining files were not renamed: the plan of the rest of this operation" + why},
+      {0, {}, 0, "Nothing was changed: the plan of this operation" + why}};
   for (const auto& row : rows) {
     Remake({});
     view.selected.clear();
@@ -280,7 +295,6 @@ TEST_F(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
     context.recorder = &recorder;
     port.Clear();
     search.handed.clear();
-    search.withdrawn = 0;
     Run({{"IMG", "Pic"}});
     EXPECT_EQ(recorder.pieces, row.pieces);
     EXPECT_TRUE(recorder.ended);
@@ -296,7 +310,6 @@ TEST_F(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
       if (early) lines += line;
     }
     EXPECT_EQ(search.handed.front(), all);
-    EXPECT_EQ(search.withdrawn, row.withdrawn);
     if (row.renamed > 0) {
       EXPECT_EQ(search.results.back(), row.renamed < 300 ? lines + "\nThe file renaming operation was cancelled." : lines);
       EXPECT_EQ(search.handed.back(), search.results.back());
