@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "fileops/FileopsTexts.h"
 #include "fileops/SearchReplace.h"
@@ -162,18 +163,15 @@ void SandR::ProcessEvents() {
   sinceEvents_.start();
 }
 
+// What was handed before is kept only where `results` goes on from it.
 void SandR::ResultsReady(const QString& results) {
   if (!results_ || !results_->Continues(results)) results_ = std::make_unique<BackgroundTextDocument>(font());
   results_->Append(results.sliced(results_->Size()));
 }
 
 void SandR::ShowResults(const QString& results) {
-  std::unique_ptr<BackgroundTextDocument> prepared = std::move(results_);
-  // What was handed before the message is used only where the whole goes on
-  // from it.
-  if (!prepared || !prepared->Continues(results)) prepared = std::make_unique<BackgroundTextDocument>(font());
-  prepared->Append(results.sliced(prepared->Size()));
-  SandRresults window(prepared->Take(), this);
+  ResultsReady(results);
+  SandRresults window(std::exchange(results_, nullptr)->Take(), this);
   window.exec();
 }
 

@@ -104,38 +104,6 @@ TEST_F(MainWindowFileOps, SearchAndReplaceThroughTheDialogThenDelTrashesTheSelec
   EXPECT_EQ(tips.offered, (std::vector<int>{17, 6}));
 }
 
-// Results laid out while the files are renamed show once, in the list's
-// order.
-TEST_F(MainWindowFileOps, ResultsLaidOutDuringTheRunShowOnceInOrder) {
-  QStringList names;
-  QString expected;
-  for (int i = 10; i < 60; ++i) {
-    names << QStringLiteral("IMG_%1.jpg").arg(i);
-    expected += QStringLiteral("\n\"IMG_%1.jpg\" was renamed to \"Pic_%1.jpg\"").arg(i);
-  }
-  MakeFiles(names);
-  shell::MainWindow& main = Open();
-  main.SelectAll();
-  QString results;
-  messages.onShow = [&] {
-    QTimer::singleShot(0, [&] {
-      QWidget* window = QApplication::activeModalWidget();
-      results = window->findChild<QPlainTextEdit*>("textResults")->toPlainText();
-      window->close();
-    });
-  };
-  QTimer::singleShot(0, [&] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    dialog->findChildren<QLineEdit*>("SearchTerm").at(0)->setText("IMG");
-    dialog->findChildren<QLineEdit*>("ReplaceTerm").at(0)->setText("Pic");
-    dialog->findChild<QPushButton*>("Command2")->click();
-    dialog->close();
-  });
-  main.Ui().FSR->trigger();
-  messages.onShow = nullptr;
-  EXPECT_EQ(results, expected);
-}
-
 TEST(AboutVersion, RevisionShowsOnlyWhenNotZero) {
   struct Row { int major, minor, revision; const char* text; };
   for (const Row& row : {Row{2, 1, 0, "v2.1"}, Row{2, 1, 3, "v2.1.3"}, Row{0, 10, 0, "v0.10"}}) {
