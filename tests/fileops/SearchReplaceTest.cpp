@@ -265,19 +265,19 @@ TEST_F(SearchReplaceRun, OfTwoFilesGivenOneNameTheFirstInTheListTakesIt) {
   for (int i = 0; i < 8; ++i) EXPECT_EQ(left.at(QByteArray::number(i)), QByteArray::number(i) + "X");
 }
 
-// 300 files go in pieces of 128 and 172, in the order the folder lists
-// them; the results, first as if every file were renamed, keep the list's
-// order. A refused piece stops the run before its first file, saying
-// whether files were renamed before it.
+// 301 files go in pieces of 128 and 173, in the order the folder lists
+// them; the first in the list keeps its name. The results, first as if
+// every file were renamed, keep the list's order. A refused piece stops the
+// run before its first file, saying whether files were renamed before it.
 TEST_F(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
   const QString why = " could not be saved for Undo (No space left on device).";
   const struct { size_t refused; std::vector<size_t> pieces; int renamed; QString first; } rows[] = {
-      {SIZE_MAX, {128, 172}, 300, kComplete},
+      {SIZE_MAX, {128, 172}, 301, kComplete},
       {1, {128}, 128, "The remaining files were not renamed: the plan of the rest of this operation" + why},
       {0, {}, 0, "Nothing was changed: the plan of this operation" + why}};
   for (const auto& row : rows) {
-    Remake({});
-    view.selected.clear();
+    Remake({"Keep.jpg"});
+    view.selected = {platform::FileName{"Keep.jpg"}};
     for (int i = 1000; i < 1300; ++i) {
       view.selected.push_back(platform::FileName{"IMG_" + QByteArray::number(i) + ".jpg"});
       QFile(QString::fromUtf8(Path(view.selected.back().raw))).open(QIODevice::WriteOnly);
@@ -290,25 +290,28 @@ TEST_F(SearchReplaceRun, ALongRunRecordsEachPieceBeforeItsFilesMove) {
     port.Clear();
     search.handed.clear();
     Run({{"IMG", "Pic"}});
-    EXPECT_EQ(recorder.pieces, row.pieces);
+    const size_t keptEarly = std::count(listed.begin(), listed.begin() + 128, "Keep.jpg");
+    std::vector<size_t> moves = row.pieces;  // in a piece, moves are its turns but Keep's
+    for (size_t k = 0; k < moves.size(); ++k) moves[k] = k == 0 ? moves[k] - keptEarly : moves[k] + keptEarly;
+    EXPECT_EQ(recorder.pieces, moves);
     EXPECT_TRUE(recorder.ended);
     EXPECT_EQ(port.messages.at(0).text, row.first);
     const Files left = Folder();
     QString all, lines;
     for (const platform::FileName& file : view.selected) {
-      const QByteArray renamed = "Pic" + file.raw.mid(3);
+      const QByteArray renamed = file.raw.startsWith("IMG") ? "Pic" + file.raw.mid(3) : file.raw;
       const auto firstLeft = listed.begin() + row.renamed;
       const bool early = std::find(listed.begin(), firstLeft, file.raw) != firstLeft;
       EXPECT_EQ(left.count(early ? renamed : file.raw), 1U) << file.raw.toStdString();
+      if (renamed == file.raw) continue;
       const QString line = "\n\"" + file.Display() + "\" was renamed to \"" + QString::fromUtf8(renamed) + '"';
       all += line;
       if (early) lines += line;
     }
     EXPECT_EQ(search.handed.front(), all);
     if (row.renamed > 0) {
-      const QString end = row.renamed < 300 ? "\nThe file renaming operation was cancelled." : "";
+      const QString end = row.renamed < 301 ? "\nThe file renaming operation was cancelled." : "";
       EXPECT_EQ(search.results.back(), lines + end);
-      EXPECT_EQ(search.handed.back(), search.results.back());
     }
   }
 }
