@@ -261,8 +261,7 @@ TEST_F(SearchReplaceRun, OfTwoFilesGivenOneNameTheFirstInTheListTakesIt) {
     port.Script(MessageAnswer::No);
   }
   Run({{"X", ""}, {"Y", ""}});
-  const Files left = Folder();
-  for (int i = 0; i < 8; ++i) EXPECT_EQ(left.at(QByteArray::number(i)), QByteArray::number(i) + "X");
+  for (int i = 0; i < 8; ++i) EXPECT_EQ(Folder().at(QByteArray::number(i)), QByteArray::number(i) + "X");
 }
 
 // 301 files go in pieces of 128 and 173, in the order the folder lists
