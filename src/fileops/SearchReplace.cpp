@@ -101,8 +101,8 @@ QString OverwriteFailureText(int error) {
 }
 
 // Most runs give names that nothing in the folder holds in any letter case:
-// then no file waits for another, the turns are the list's order, and
-// planning would only say so at the cost of a few hash tables. A selected
+// then no file waits for another, the turns need no plan, and planning
+// would only say so at the cost of a few hash tables. A selected
 // name the folder no longer holds may still be another file's target, so
 // it is planned too.
 bool NeedsPlanning(const std::vector<core::RenameMove>& moves, const core::FolderIndex& index) {
@@ -127,11 +127,10 @@ bool OrderFree(const std::vector<core::RenameMove>& moves) {
   return true;
 }
 
-// Each file's turn in the order the folder lists the names. Renames in that
-// order cost the file system less: on ext4, which lists a large folder in
-// the order of its name index, 10,000 took 155 ms against 174 ms in the
-// order of their names.
-// A file the folder does not hold goes first.
+// Each file's turn in the order the folder lists the names; a file the
+// folder no longer holds goes first. Renames in that order cost the file
+// system less: on ext4, which lists a large folder in the order of its name
+// index, 10,000 took 155 ms against 174 ms in the order of their names.
 std::vector<core::PlannedTurn> TurnsInFolderOrder(const std::vector<platform::FileName>& files,
                                                   const core::FolderIndex& index) {
   std::vector<core::PlannedTurn> turns;
