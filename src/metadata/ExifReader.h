@@ -21,6 +21,9 @@ class ExifReader {
   enum class Identity { Wanted, NotWanted };
   // The same for the file `name` of a folder held for many reads.
   void Load(platform::ReadableFolder& folder, const QByteArray& name, Identity identity);
+  // Loads keep only `tags`: a reader that needs two of them, for every file
+  // of a batch, does not copy the rest out of each file.
+  void TakeOnly(std::initializer_list<ExifTag> tags) { tags_.TakeOnly(tags); }
   // Loads from whole-file bytes already in memory (tests, fuzzing).
   void LoadBytes(const char* data, qint64 size);
 

@@ -5,9 +5,15 @@
 namespace renvale::metadata {
 
 ExifRawValue* ExifTagSet::Claim(ExifTag tag, ExifIfd foundIn) {
+  if (!wanted_[size_t(tag)]) return nullptr;
   Slot& slot = slots_[size_t(tag)];
   if (!slot.present) return &slot.value;
   return !slot.fromHome && foundIn == ExifTagTable::HomeIfd(tag) ? &spare_ : nullptr;
+}
+
+void ExifTagSet::TakeOnly(std::initializer_list<ExifTag> tags) {
+  wanted_.fill(false);
+  for (const ExifTag tag : tags) wanted_[size_t(tag)] = true;
 }
 
 void ExifTagSet::Keep(ExifTag tag, ExifIfd foundIn, const ExifRawValue* filled) {

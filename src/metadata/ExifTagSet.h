@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <initializer_list>
 
 #include "metadata/ExifRawValue.h"
 #include "metadata/ExifTagTable.h"
@@ -16,6 +17,9 @@ class ExifTagSet {
   // would not be taken. What is put there counts only after Keep(), so a
   // value that cannot be read whole leaves the tag as it was.
   ExifRawValue* Claim(ExifTag tag, ExifIfd foundIn);
+  // From now on only `tags` are taken; the others are passed over as the
+  // walk meets them. Clear() keeps this choice.
+  void TakeOnly(std::initializer_list<ExifTag> tags);
   void Keep(ExifTag tag, ExifIfd foundIn, const ExifRawValue* filled);
   // The value, or nullptr when the file does not have the tag.
   const ExifRawValue* Get(ExifTag tag) const;
@@ -23,12 +27,19 @@ class ExifTagSet {
   void Clear();
 
  private:
+  static constexpr std::array<bool, ExifTagTable::kCount> MakeAllWanted() {
+    std::array<bool, ExifTagTable::kCount> all{};
+    all.fill(true);
+    return all;
+  }
+
   struct Slot {
     bool present = false;
     bool fromHome = false;
     ExifRawValue value;
   };
   std::array<Slot, ExifTagTable::kCount> slots_;
+  std::array<bool, ExifTagTable::kCount> wanted_ = MakeAllWanted();
   ExifRawValue spare_;  // for a value that may replace one already kept
 };
 

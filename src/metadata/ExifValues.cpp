@@ -16,6 +16,9 @@ struct FileTags {
   QString serial;
 };
 
+// The tags the values are made of.
+void TakeTokenTags(ExifReader& reader) { reader.TakeOnly({ExifTag::DateTimeOriginal, ExifTag::ImageNumber}); }
+
 // The tags of a reader whose load gave `loaded`.
 bool TagsOf(const ExifReader& reader, bool loaded, FileTags* tags, platform::FileInfo* identity,
             bool* identityKnown) {
@@ -29,6 +32,7 @@ bool TagsOf(const ExifReader& reader, bool loaded, FileTags* tags, platform::Fil
 bool ReadTagsQuietly(platform::FileSystem& fs, const QByteArray& path, FileTags* tags, QString* errorMessage,
                      platform::FileInfo* identity = nullptr, bool* identityKnown = nullptr) {
   ExifReader reader;
+  TakeTokenTags(reader);
   const bool loaded = LoadExifQuietly(reader, fs, path, errorMessage);
   return TagsOf(reader, loaded, tags, identity, identityKnown);
 }
@@ -106,6 +110,7 @@ ExifTokenValues ReadExifTokenValuesQuietly(platform::FileSystem& fs, platform::R
                                            const ExifDateFormats& formats, QString* errorMessage,
                                            platform::FileInfo* identity, bool* identityKnown) {
   ExifReader reader;
+  TakeTokenTags(reader);
   const auto wanted = identity != nullptr ? ExifReader::Identity::Wanted : ExifReader::Identity::NotWanted;
   const bool loaded = LoadExifQuietly(reader, held, rawName, wanted, errorMessage);
   FileTags tags;

@@ -134,5 +134,21 @@ TEST(ExifTagTable, NumberAndNameLookupsAgreeWithTheTable) {
   EXPECT_FALSE(ExifTagTable::FromNumber(0x0132, &unused));  // DateTime, not DateTimeOriginal
 }
 
+// A reader that needs a few tags, as a batch does, leaves the others absent.
+TEST(ExifReader, TakesOnlyTheTagsAskedFor) {
+  TiffBuilder tiff(false);
+  tiff.Ascii(Ifd::Zero, 0x010F, "Maker");
+  tiff.Ascii(Ifd::Zero, 0x0110, "Model X");
+  tiff.Ascii(Ifd::Exif, 0x9003, "2004:07:01 10:11:12");
+  const QByteArray bytes = tiff.Build();
+  ExifReader reader;
+  reader.TakeOnly({metadata::ExifTag::Model, metadata::ExifTag::DateTimeOriginal});
+  reader.LoadBytes(bytes.constData(), bytes.size());
+  EXPECT_EQ(reader.Status(), "");
+  EXPECT_EQ(reader.Tag("Make"), "");
+  EXPECT_EQ(reader.Tag("Model"), "Model X");
+  EXPECT_EQ(reader.Tag("DateTimeOriginal"), "2004:07:01 10:11:12");
+}
+
 }  // namespace
 }  // namespace renvale::test
