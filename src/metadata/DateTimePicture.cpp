@@ -1,7 +1,7 @@
 #include "metadata/DateTimePicture.h"
 
 #include <QLocale>
-#include <QVarLengthArray>
+#include <algorithm>
 #include <mutex>
 #include <utility>
 #include <vector>
@@ -160,15 +160,31 @@ bool HasMarker(const std::vector<Piece>& pieces) {
 }
 
 // A picture's text, put together on the stack and made a string once: a
-// batch formats two short texts for every file.
+// batch formats two short texts for every file. A text too long for the
+// stack (a picture of many names) goes on in a string.
 class Text {
  public:
-  void Append(QChar c) { chars_.append(c); }
-  void Append(QStringView text) { chars_.append(text.data(), text.size()); }
-  QStringView View() const { return {chars_.constData(), chars_.size()}; }
+  void Append(QChar c) { Append(QStringView(&c, 1)); }
+  void Append(QStringView text) {
+    if (!long_ && size_ + text.size() <= kOnStack) {
+      std::copy_n(text.utf16(), text.size(), chars_ + size_);
+      size_ += text.size();
+      return;
+    }
+    if (!long_) longText_ = Stacked();
+    long_ = true;
+    longText_ += text;
+  }
+  QString ToString() const { return long_ ? longText_ : Stacked(); }
 
  private:
-  QVarLengthArray<QChar, 64> chars_;
+  QString Stacked() const { return QString(reinterpret_cast<const QChar*>(chars_), size_); }
+
+  static constexpr qsizetype kOnStack = 64;
+  char16_t chars_[kOnStack];
+  qsizetype size_ = 0;
+  bool long_ = false;
+  QString longText_;
 };
 
 // Decimal digits of a non-negative `n`, zero-padded to `width`.
@@ -333,7 +349,7 @@ DateTimePicture::DateTimePicture(const QString& picture) {
 QString DateTimePicture::Format(const QDate& date, const QTime& time) const {
   Text text;
   AppendPieces(&text, compiled_->pieces, {date, time, compiled_->twelveHour});
-  return text.View().toString();
+  return text.ToString();
 }
 
 QString FormatDateTimePicture(const QString& picture, const QDate& date, const QTime& time) {

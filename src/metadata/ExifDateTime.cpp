@@ -54,14 +54,16 @@ void PutDigits(char* out, int n, int width) {
 
 }  // namespace
 
-QString ExifLayoutDateTime(QStringView text) {
+namespace {
+
+// The six numbers of a date and time in any of the accepted layouts.
+bool LayoutParts(QStringView text, int part[6]) {
   text = text.trimmed();
   qsizetype at = 0;
-  int part[6];
   if (!TakeDigits(text, &at, 4, &part[0]) || !TakeSeparator(text, &at, IsDateSeparator) ||
       !TakeDigits(text, &at, 2, &part[1]) || !TakeSeparator(text, &at, IsDateSeparator) ||
       !TakeDigits(text, &at, 2, &part[2])) {
-    return {};
+    return false;
   }
   const qsizetype dateEnd = at;
   while (at < text.size() && text[at] == u' ') ++at;
@@ -69,11 +71,20 @@ QString ExifLayoutDateTime(QStringView text) {
   if (at == dateEnd || !TakeDigits(text, &at, 2, &part[3]) || !TakeSeparator(text, &at, IsColon) ||
       !TakeDigits(text, &at, 2, &part[4]) || !TakeSeparator(text, &at, IsColon) ||
       !TakeDigits(text, &at, 2, &part[5]) || at != text.size()) {
-    return {};
+    return false;
   }
-  if (!QDate::isValid(part[0], part[1], part[2]) || !QTime::isValid(part[3], part[4], part[5])) return {};
-  // Written digit by digit: this runs for every picture of a batch, and a
-  // chain of arg() calls made a dozen strings for each.
+  return QDate::isValid(part[0], part[1], part[2]) && QTime::isValid(part[3], part[4], part[5]);
+}
+
+// Of a text whose parts were read: written in the layout already.
+bool InLayout(QStringView text) {
+  return text.size() == kLayoutLength && text[4] == u':' && text[7] == u':' && text[10] == u' ' &&
+         text[13] == u':' && text[16] == u':';
+}
+
+// Written digit by digit: this runs for every picture of a batch, and a
+// chain of arg() calls made a dozen strings for each.
+QString Layout(const int part[6]) {
   char layout[kLayoutLength];
   PutDigits(layout, part[0], 4);
   PutDigits(layout + 5, part[1], 2);
@@ -84,6 +95,19 @@ QString ExifLayoutDateTime(QStringView text) {
   layout[4] = layout[7] = layout[13] = layout[16] = ':';
   layout[10] = ' ';
   return QString::fromLatin1(layout, kLayoutLength);
+}
+
+}  // namespace
+
+QString ExifLayoutDateTime(QStringView text) {
+  int part[6];
+  return LayoutParts(text, part) ? Layout(part) : QString();
+}
+
+QString ExifLayoutDateTime(const QString& text) {
+  int part[6];
+  if (!LayoutParts(text, part)) return {};
+  return InLayout(text) ? text : Layout(part);
 }
 
 bool ReadExifDateTime(const QString& text, QDate* date, QTime* time) {

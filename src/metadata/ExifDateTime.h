@@ -26,6 +26,9 @@ bool IsRealExifDateTime(const QString& text);
 // around the whole ("2020-04-24 17:44:15 " gives "2020:04:24 17:44:15").
 // Empty unless it is a real date and time with nothing else around it.
 QString ExifLayoutDateTime(QStringView text);
+// The same for a text that may be in the layout already, as cameras write
+// it: then the text itself is handed back rather than a copy.
+QString ExifLayoutDateTime(const QString& text);
 
 // The date (form 1), the time (form 2) or both joined by one blank (form 3),
 // formatted with the user's date and time pictures (see DateTimePicture.h).

@@ -16,6 +16,7 @@ bool VideoDateReader::IsVideoName(const QByteArray& name) {
   constexpr qsizetype kLength = 4;
   if (name.size() < kLength) return false;
   const char* tail = name.constData() + name.size() - kLength;
+  if (tail[0] != '.') return false;
   for (const char* extension : kExtensions) {
     if (qstrnicmp(tail, extension, kLength) == 0) return true;
   }
