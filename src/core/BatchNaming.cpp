@@ -89,7 +89,8 @@ NamedFile BatchNames::Next(const platform::FileName& file) {
   named.file = file;
   named.travels = renamer_.Sets().TravelsWithSelectedHead(file.raw);
   if (!named.travels) {
-    const QString shown = file.Display();
+    named.shown = file.Display();
+    const QString& shown = named.shown;
     named.unexpanded = parts_->namer.Unexpanded(shown);
     named.newName = parts_->namer.Expand(file, shown, named.unexpanded);
     named.sameName = named.newName == shown;

@@ -17,6 +17,7 @@ namespace renvale::core {
 struct NamedFile {
   platform::FileName file;
   bool travels = false;  // goes along with a selected file it belongs to
+  QString shown;         // the file's own name as text, for a file that does not travel
   QString unexpanded;    // what the new-name box shows at the file's turn
   QString newName;
   // The new name as bytes, and whether it is the file's own: the batch asks

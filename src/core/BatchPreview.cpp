@@ -101,7 +101,7 @@ void NoteFolder(const NamedFile& named, const Facts& facts, const FileRenamer& r
 
 PreviewRow Row(const BatchNaming& naming, const Facts& facts, const FileRenamer& renamer, size_t row) {
   const NamedFile& named = naming.files[row];
-  PreviewRow shown{named.file.Display(), named.newName, named.dateSource, {}};
+  PreviewRow shown{named.travels ? named.file.Display() : named.shown, named.newName, named.dateSource, {}};
   if (named.travels) {
     const auto companion = facts.companions.constFind(named.file.raw);
     if (companion != facts.companions.cend()) {
