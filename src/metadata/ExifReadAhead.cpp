@@ -53,19 +53,19 @@ bool ExifReadAhead::ReadNext(std::unique_lock<std::mutex>& hold) {
   if (dropped_ || next_ >= static_cast<qsizetype>(names_.size())) return false;
   const auto at = static_cast<size_t>(next_++);
   hold.unlock();
-  std::unique_ptr<Result> result = Read(at);
+  Result result = Read(at);
   hold.lock();
-  results_[at] = std::move(result);
+  results_[at].emplace(std::move(result));
   done_[at] = 1;
   if (waitingFor_ == static_cast<qsizetype>(at)) fileRead_.notify_all();
   return true;
 }
 
-std::unique_ptr<ExifReadAhead::Result> ExifReadAhead::Read(size_t at) const {
-  auto result = std::make_unique<Result>();
-  platform::FileInfo* identity = identity_ == ExifReader::Identity::Wanted ? &result->identity : nullptr;
-  result->values = ReadExifTokenValuesQuietly(fs_, *held_, folder_, names_[at], formats_, &result->errorMessage,
-                                              identity, &result->identityKnown);
+ExifReadAhead::Result ExifReadAhead::Read(size_t at) const {
+  Result result;
+  platform::FileInfo* identity = identity_ == ExifReader::Identity::Wanted ? &result.identity : nullptr;
+  result.values = ReadExifTokenValuesQuietly(fs_, *held_, folder_, names_[at], formats_, &result.errorMessage,
+                                             identity, &result.identityKnown);
   return result;
 }
 

@@ -6,6 +6,7 @@
 #include <condition_variable>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -67,7 +68,7 @@ class ExifReadAhead {
   // Reads the next file nobody has claimed yet, with `hold` released for
   // the read; false when every file is claimed or reading was dropped.
   bool ReadNext(std::unique_lock<std::mutex>& hold);
-  std::unique_ptr<Result> Read(size_t at) const;
+  Result Read(size_t at) const;
   // Where `rawName` stands in the list, or -1.
   qsizetype PositionOf(const QByteArray& rawName, bool taking);
 
@@ -86,9 +87,11 @@ class ExifReadAhead {
   QHash<QByteArray, qsizetype> positions_;
   // Filled where done_ is set, by the thread that read the file, and let go
   // when taken: a card's worth of empty results made up front cost the
-  // batch's thread milliseconds before its first file, and the results
-  // handed out are made again in memory already in use.
-  std::vector<std::unique_ptr<Result>> results_;
+  // batch's thread milliseconds before its first file. Each has its place
+  // here rather than memory of its own: a result made on the reader's
+  // thread and freed on the taker's made the two wait for each other's
+  // allocator, once for every file.
+  std::vector<std::optional<Result>> results_;
   std::vector<char> done_;
   std::vector<bool> taken_;
 
