@@ -169,6 +169,9 @@ TEST(DateTimePicture, PicturesComeOutExactly) {
       {"yyyy-mm-dd hh-nn", "2004-07-15 18-03"}, {"ddd dddd mmm mmmm", "Thu Thursday Jul July"},
       {"w ww q", "5 29 3"}, {"hh AM/PM h a/p", "06 PM 6 p"}, {"\\y\\y \"dd mm\" yyyy", "yy dd mm 2004"},
       {"ttttt", "18:03:09"}, {"c", "7/15/2004 18:03:09"}, {"dddddd", "Thursday, July 15, 2004"}, {"", ""},
+      // a text longer than most, put together past its first sixty-four characters
+      {"dddddd\" - the long way home from the coast \"yyyy-mm-dd",
+       "Thursday, July 15, 2004 - the long way home from the coast 2004-07-15"},
       // week one holds the first of January and starts on Sunday
       {"ww", "1", QDate(2004, 1, 3)},  // Saturday
       {"ww", "2", QDate(2004, 1, 4)},  // Sunday
