@@ -52,21 +52,26 @@ void ExifReadAhead::Work(const std::stop_token& stop) {
 bool ExifReadAhead::ReadNext(std::unique_lock<std::mutex>& hold) {
   if (dropped_ || next_ >= static_cast<qsizetype>(names_.size())) return false;
   const auto at = static_cast<size_t>(next_++);
+  std::unique_ptr<Result> result;
+  if (!spare_.empty()) {
+    result = std::move(spare_.back());
+    spare_.pop_back();
+  }
   hold.unlock();
-  Result result = Read(at);
+  if (result == nullptr) result = std::make_unique<Result>();
+  Read(at, result.get());
   hold.lock();
-  results_[at].emplace(std::move(result));
+  results_[at] = std::move(result);
   done_[at] = 1;
   if (waitingFor_ == static_cast<qsizetype>(at)) fileRead_.notify_all();
   return true;
 }
 
-ExifReadAhead::Result ExifReadAhead::Read(size_t at) const {
-  Result result;
-  platform::FileInfo* identity = identity_ == ExifReader::Identity::Wanted ? &result.identity : nullptr;
-  result.values = ReadExifTokenValuesQuietly(fs_, *held_, folder_, names_[at], formats_, &result.errorMessage,
-                                             identity, &result.identityKnown);
-  return result;
+void ExifReadAhead::Read(size_t at, Result* result) const {
+  *result = Result();
+  platform::FileInfo* identity = identity_ == ExifReader::Identity::Wanted ? &result->identity : nullptr;
+  result->values = ReadExifTokenValuesQuietly(fs_, *held_, folder_, names_[at], formats_, &result->errorMessage,
+                                              identity, &result->identityKnown);
 }
 
 bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, const ExifDateFormats& formats,
@@ -94,7 +99,7 @@ bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, co
   if (dropped_ || taken_[static_cast<size_t>(at)]) return false;
   taken_[static_cast<size_t>(at)] = true;
   *out = std::move(*results_[static_cast<size_t>(at)]);
-  results_[static_cast<size_t>(at)].reset();
+  spare_.push_back(std::move(results_[static_cast<size_t>(at)]));
   return true;
 }
 

@@ -6,7 +6,6 @@
 #include <condition_variable>
 #include <memory>
 #include <mutex>
-#include <optional>
 #include <thread>
 #include <vector>
 
@@ -68,7 +67,7 @@ class ExifReadAhead {
   // Reads the next file nobody has claimed yet, with `hold` released for
   // the read; false when every file is claimed or reading was dropped.
   bool ReadNext(std::unique_lock<std::mutex>& hold);
-  Result Read(size_t at) const;
+  void Read(size_t at, Result* result) const;
   // Where `rawName` stands in the list, or -1.
   qsizetype PositionOf(const QByteArray& rawName, bool taking);
 
@@ -87,11 +86,12 @@ class ExifReadAhead {
   QHash<QByteArray, qsizetype> positions_;
   // Filled where done_ is set, by the thread that read the file, and let go
   // when taken: a card's worth of empty results made up front cost the
-  // batch's thread milliseconds before its first file. Each has its place
-  // here rather than memory of its own: a result made on the reader's
-  // thread and freed on the taker's made the two wait for each other's
-  // allocator, once for every file.
-  std::vector<std::optional<Result>> results_;
+  // batch's thread milliseconds before its first file.
+  std::vector<std::unique_ptr<Result>> results_;
+  // Results taken, for the next reads to fill again: a result made on the
+  // reader's thread and freed on the taker's made the two wait for each
+  // other's allocator, once for every file.
+  std::vector<std::unique_ptr<Result>> spare_;
   std::vector<char> done_;
   std::vector<bool> taken_;
 

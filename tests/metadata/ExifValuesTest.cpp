@@ -131,6 +131,30 @@ TEST(ExifReadAhead, HandsEachFileItsOwnValuesInAnyOrder) {
   EXPECT_FALSE(got.identityKnown);
 }
 
+// Results are filled again once taken: a damaged file's message must not
+// reach a later file's.
+TEST(ExifReadAhead, EachResultTellsOnlyOfItsOwnFile) {
+  QTemporaryDir dir;
+  const QByteArray folder = QFile::encodeName(dir.path()) + '/';
+  platform::FileSystem& fs = platform::RealFileSystem();
+  ExifFields exif = TypicalExifFields();
+  const QByteArray good = MakeExifJpeg(&exif);
+  QByteArray damaged = good;
+  damaged[12] = 'X';  // the TIFF header after "Exif\0\0"
+  std::vector<QByteArray> names;
+  for (int i = 0; i < 600; ++i) {
+    names.push_back(QByteArray::number(i) + ".jpg");
+    fs.WriteWholeFile(folder + names.back(), i % 2 == 0 ? damaged : good);
+  }
+  metadata::ExifReadAhead ahead(fs, folder, names, kFormats, metadata::ExifReader::Identity::NotWanted);
+  for (int i = 0; i < 600; ++i) {
+    metadata::ExifReadAhead::Result got;
+    ASSERT_TRUE(ahead.Take(folder, names[i], kFormats, &got));
+    EXPECT_EQ(got.errorMessage.isEmpty(), i % 2 == 1) << i;
+    EXPECT_EQ(got.values.serial, i % 2 == 1 ? "1234567" : "") << i;
+  }
+}
+
 TEST(PreviewTurn, FirstThreeLettersOfTheWordDecide) {
   using T = PreviewTurn;
   const std::pair<const char*, PreviewTurn> cases[] = {
