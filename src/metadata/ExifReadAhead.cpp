@@ -43,27 +43,41 @@ void ExifReadAhead::Work(const std::stop_token& stop) {
       mayRead_.wait(hold, [&] { return dropped_ || next_ < wanted_ + kLead / 2; });
       readerWaiting_ = false;
     }
-    if (!ReadNext(hold)) return;
+    if (!ReadNext(hold, std::clamp<qsizetype>(wanted_ + kLead - next_, 1, kReaderClaims))) return;
   }
 }
 
-// Files are claimed in list order, one at a time, so at most one file per
-// thread is being read while every file before them is done.
-bool ExifReadAhead::ReadNext(std::unique_lock<std::mutex>& hold) {
+// Files are claimed in list order, so that every file before those being
+// read is done. Each claim and each hand-over takes the lock the taker
+// takes for every file, and passing it between the processors costs about
+// as much as reading a small file's head: the reader claims several files
+// at once, the taker, which reads only while its own file is not there
+// yet, one.
+bool ExifReadAhead::ReadNext(std::unique_lock<std::mutex>& hold, qsizetype most) {
   if (dropped_ || next_ >= static_cast<qsizetype>(names_.size())) return false;
-  const auto at = static_cast<size_t>(next_++);
-  std::unique_ptr<Result> result;
-  if (!spare_.empty()) {
-    result = std::move(spare_.back());
+  const qsizetype from = next_;
+  const qsizetype count = std::min({most, kReaderClaims, static_cast<qsizetype>(names_.size()) - from});
+  next_ += count;
+  std::unique_ptr<Result> results[kReaderClaims];
+  for (qsizetype i = 0; i < count && !spare_.empty(); ++i) {
+    results[i] = std::move(spare_.back());
     spare_.pop_back();
   }
   hold.unlock();
-  if (result == nullptr) result = std::make_unique<Result>();
-  Read(at, result.get());
+  // Reading dropped meanwhile stops at the file at hand: on a slow share the
+  // rest of the claim could keep the batch waiting.
+  qsizetype read = 0;
+  for (; read < count && (read == 0 || !reader_.get_stop_token().stop_requested()); ++read) {
+    if (results[read] == nullptr) results[read] = std::make_unique<Result>();
+    Read(static_cast<size_t>(from + read), results[read].get());
+  }
   hold.lock();
-  results_[at] = std::move(result);
-  done_[at] = 1;
-  if (waitingFor_ == static_cast<qsizetype>(at)) fileRead_.notify_all();
+  for (qsizetype i = 0; i < read; ++i) {
+    const auto at = static_cast<size_t>(from + i);
+    results_[at] = std::move(results[i]);
+    done_[at] = 1;
+  }
+  if (waitingFor_ >= from && waitingFor_ < from + read) fileRead_.notify_all();
   return true;
 }
 
@@ -89,7 +103,7 @@ bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, co
   // last files, or when the reader is stuck on one file (a slow disk) and
   // this thread has got a lead ahead of it.
   const auto isDone = [&] { return dropped_ || done_[static_cast<size_t>(at)] != 0; };
-  while (!isDone() && next_ < at + kLead && ReadNext(hold)) {
+  while (!isDone() && next_ < at + kLead && ReadNext(hold, 1)) {
   }
   if (!isDone()) {
     waitingFor_ = at;

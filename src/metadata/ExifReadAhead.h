@@ -64,9 +64,10 @@ class ExifReadAhead {
 
  private:
   void Work(const std::stop_token& stop);
-  // Reads the next file nobody has claimed yet, with `hold` released for
-  // the read; false when every file is claimed or reading was dropped.
-  bool ReadNext(std::unique_lock<std::mutex>& hold);
+  // Reads the next files nobody has claimed yet, at most `most` of them,
+  // with `hold` released for the reads; false when every file is claimed or
+  // reading was dropped.
+  bool ReadNext(std::unique_lock<std::mutex>& hold, qsizetype most);
   void Read(size_t at, Result* result) const;
   // Where `rawName` stands in the list, or -1.
   qsizetype PositionOf(const QByteArray& rawName, bool taking);
@@ -97,6 +98,8 @@ class ExifReadAhead {
 
   // How far the reader may run ahead of the furthest file asked for.
   static constexpr qsizetype kLead = 256;
+  // How many files the reader claims at once.
+  static constexpr qsizetype kReaderClaims = 8;
 
   std::mutex lock_;
   std::condition_variable fileRead_;  // for Take: its file was read, or all dropped
