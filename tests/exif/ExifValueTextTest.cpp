@@ -103,7 +103,7 @@ TEST(ExifValueText, EachKindOfValueInItsOwnNotation) {
       date("    :  :     :  :  ", ""),
       // Phones and editors that write other separators, and blanks around.
       date("2020-04-24 17:44:15 ", "2020:04:24 17:44:15"), date(" 2020/04/24  17:44:15", "2020:04:24 17:44:15"),
-      date("2020.04.24 17:44:15", "2020:04:24 17:44:15"),
+      date("2020.04.24 17:44:15", "2020:04:24 17:44:15"), date("2020-04:24 17:44:15", "2020:04:24 17:44:15"),
       // Still no date: left as written, for the date source to pass over.
       date("2020-02-30 17:44:15", "2020-02-30 17:44:15"), date("2020-04-24 17.44.15", "2020-04-24 17.44.15"),
       date("2020-04-24 17:44:15 x", "2020-04-24 17:44:15 x"),

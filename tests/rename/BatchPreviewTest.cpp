@@ -57,6 +57,19 @@ TEST_F(BatchPreviewTest, NotesEveryProblemAndTouchesNothing) {
   EXPECT_TRUE(port.messages.empty());
 }
 
+// A companion selected with its picture shows its own name and goes along.
+TEST_F(BatchPreviewTest, ACompanionRowShowsItsOwnNameAndItsPicture) {
+  Make({"A.CRW", "A.THM"});
+  Select({"A.CRW", "A.THM"});
+  tokens.serials.insert("A.CRW", "x");
+  view.newName = "%SERIAL%";
+  const core::BatchPreview preview = core::PreviewBatch(context);
+  ASSERT_EQ(preview.rows.size(), 2u);
+  EXPECT_EQ(preview.rows[1].current, "A.THM");
+  EXPECT_EQ(preview.rows[1].newName, "x.THM");
+  EXPECT_EQ(preview.rows[1].notes, QStringList{"Renamed along with 'A.CRW'."});
+}
+
 // A card's worth of rows is worked out on two threads: every row is still
 // its own file's, and a note on the last row is kept. Working names out
 // reads no file, so only the taken name needs to be on disk.
