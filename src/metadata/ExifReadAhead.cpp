@@ -38,12 +38,12 @@ ExifReadAhead::~ExifReadAhead() { Drop(); }
 void ExifReadAhead::Work(const std::stop_token& stop) {
   std::unique_lock<std::mutex> hold(lock_);
   while (!stop.stop_requested()) {
-    if (next_ >= wanted_ + kLead) {
+    if (next_ >= wanted_ + kReaderLead) {
       readerWaiting_ = true;
-      mayRead_.wait(hold, [&] { return dropped_ || next_ < wanted_ + kLead / 2; });
+      mayRead_.wait(hold, [&] { return dropped_ || next_ < wanted_ + kReaderLead / 2; });
       readerWaiting_ = false;
     }
-    if (!ReadNext(hold, std::clamp<qsizetype>(wanted_ + kLead - next_, 1, kReaderClaims))) return;
+    if (!ReadNext(hold, std::clamp<qsizetype>(wanted_ + kReaderLead - next_, 1, kReaderClaims))) return;
   }
 }
 
@@ -96,14 +96,14 @@ bool ExifReadAhead::Take(const QByteArray& folder, const QByteArray& rawName, co
   std::unique_lock<std::mutex> hold(lock_);
   // Asking for a file lets the reader go on to it however far it lies.
   wanted_ = std::max(wanted_, at + 1);
-  if (readerWaiting_ && next_ < wanted_ + kLead / 2) mayRead_.notify_all();
+  if (readerWaiting_ && next_ < wanted_ + kReaderLead / 2) mayRead_.notify_all();
   // Sleeping until the reader gets there would leave this thread's
   // processor idle; the reader is then busy with the file asked for or one
   // before it, so this thread reads the ones after. It sleeps only for the
   // last files, or when the reader is stuck on one file (a slow disk) and
   // this thread has got a lead ahead of it.
   const auto isDone = [&] { return dropped_ || done_[static_cast<size_t>(at)] != 0; };
-  while (!isDone() && next_ < at + kLead && ReadNext(hold, 1)) {
+  while (!isDone() && next_ < at + kTakerLead && ReadNext(hold, 1)) {
   }
   if (!isDone()) {
     waitingFor_ = at;

@@ -96,8 +96,13 @@ class ExifReadAhead {
   std::vector<char> done_;
   std::vector<bool> taken_;
 
-  // How far the reader may run ahead of the furthest file asked for.
-  static constexpr qsizetype kLead = 256;
+  // How far the reader may run ahead of the furthest file asked for: far
+  // enough to go on reading while a batch lists its folder and makes room
+  // for its names before it asks for the first file.
+  static constexpr qsizetype kReaderLead = 1024;
+  // How far a taker whose file is not read yet reads on past it: not much
+  // further, or it would be long away from its own work.
+  static constexpr qsizetype kTakerLead = 256;
   // How many files the reader claims at once.
   static constexpr qsizetype kReaderClaims = 8;
 
